@@ -1,0 +1,7 @@
+#include "StackTraceManager.h"
+
+namespace NSStackTraceManager {
+
+bool vantrelAddStackTrace = false;
+
+}  // namespace NSStackTraceManager

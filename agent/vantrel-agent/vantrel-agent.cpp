@@ -1,0 +1,192 @@
+#include "vantrel-agent.h"
+
+#include <dlfcn.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdio>
+#include <cstring>
+#include <string>
+#include <string_view>
+
+#include "agent_util.h"
+#include "assertion.h"
+#include "jc/StackTraceManager.h"
+
+AgentData gb_data;
+
+namespace {
+
+constexpr const char* kCompanionJarName = "vantrel-1.2.3.jar";
+
+// The longest library or jar path, with its terminating zero.
+constexpr size_t kMaxPathLength = 1024;
+
+// The callback table as JVMTI 1.0 defines it: 35 slots, up to VMObjectAlloc. Newer headers declare more, which a VM
+// that was asked for 1.0 need not know.
+constexpr jint kCallbackTableSize = 280;
+static_assert(kCallbackTableSize == offsetof(jvmtiEventCallbacks, VMObjectAlloc) + sizeof(jvmtiEventVMObjectAlloc));
+
+// The slip in the text is the same on both ways through the monitor.
+constexpr const char* kMonitorError = "Cannot enter with raw monitor";
+
+inline jvmtiError set_event_notification_mode(jvmtiEnv* jvmti, jvmtiEventMode mode, jvmtiEvent event, jthread thread) {
+    return jvmti->functions->SetEventNotificationMode(jvmti, mode, event, thread);
+}
+
+const char* supplier_method_of(std::string_view class_name) {
+    if (class_name == "java/awt/Container") {
+        return "getContainerClassData";
+    }
+    if (class_name == "java/awt/Component") {
+        return "getComponentClassData";
+    }
+    return NULL;
+}
+
+// What Java threw, with its causes, is all that tells a user why the assertion after it fails.
+void print_pending_exception(JNIEnv* jni) {
+    if (jni->ExceptionCheck() == JNI_TRUE) {
+        jni->ExceptionDescribe();
+    }
+}
+
+}  // namespace
+
+__attribute__((constructor)) void on_load() {
+    Dl_info info{};
+    dladdr(reinterpret_cast<const void*>(&on_load), &info);
+    gb_data.libraryPath = info.dli_fname;
+}
+
+bool GetVantrelCassPath(char* dst, unsigned long size) {
+    const std::string_view library = gb_data.libraryPath != NULL ? gb_data.libraryPath : "";
+    // npos, where there is no separator, becomes 0: an empty folder.
+    const std::string_view folder = library.substr(0, library.find_last_of("/\\") + 1);
+    std::string path(folder);
+    path += kCompanionJarName;
+
+    memset(dst, 0, size);
+    if (size == 0) {
+        return false;
+    }
+    path.copy(dst, size - 1);
+    if (library.size() >= kMaxPathLength || path.size() >= std::min<size_t>(kMaxPathLength, size)) {
+        return false;
+    }
+    return access(path.c_str(), F_OK) == 0;
+}
+
+jint JNICALL Agent_OnLoad(JavaVM* vm, char* /*options*/, void* /*reserved*/) {
+    gb_data.jvm = vm;
+
+    const jint status = vm->GetEnv(reinterpret_cast<void**>(&gb_data.jvmti), JVMTI_VERSION_1_0);
+    if (status != JNI_OK || gb_data.jvmti == NULL) {
+        puts("ERROR: Unable to access JVMTI!");
+        return -1;
+    }
+    jvmtiEnv* jvmti = gb_data.jvmti;
+
+    static jvmtiCapabilities capabilities;
+    capabilities = {};
+    capabilities.can_generate_all_class_hook_events = 1;
+    capabilities.can_generate_vm_object_alloc_events = 1;
+    const jvmtiError capabilities_error = jvmti->AddCapabilities(&capabilities);
+    NSStackTraceManager::vantrelAddStackTrace = true;
+    if (capabilities_error != JVMTI_ERROR_NONE) {
+        NSStackTraceManager::vantrelAddStackTrace = false;
+        return -1;
+    }
+
+    jvmtiEventCallbacks callbacks{};
+    callbacks.VMInit = cbVMInit;
+    callbacks.ClassFileLoadHook = cbClassFileLoadHook;
+    callbacks.VMStart = cbVMStart;
+    callbacks.Exception = cbException;
+    callbacks.FieldModification = cbFieldModification;
+    callbacks.MethodExit = cbMethodExit;
+    callbacks.VMObjectAlloc = cbVMObjectAlloc;
+    if (jvmti->SetEventCallbacks(&callbacks, kCallbackTableSize) != JVMTI_ERROR_NONE) {
+        printf("ERROR: Can't set jvmti callback!");
+        return -1;
+    }
+
+    if (jvmti->CreateRawMonitor("agent data", &gb_data.lock) != JVMTI_ERROR_NONE) {
+        printf("ERROR: Can't create raw monitor!");
+        return -1;
+    }
+
+    char path[kMaxPathLength];
+    if (!GetVantrelCassPath(path, sizeof path)) {
+        fprintf(stderr, "%s doesn't exist.\n", path);
+        fflush(stderr);
+        return -1;
+    }
+    check_jvmti_error(jvmti, jvmti->AddToBootstrapClassLoaderSearch(path), "Cannot add to boot classpath");
+
+    for (const jvmtiEvent event : {JVMTI_EVENT_VM_INIT, JVMTI_EVENT_CLASS_FILE_LOAD_HOOK, JVMTI_EVENT_VM_START}) {
+        check_jvmti_error(jvmti, set_event_notification_mode(jvmti, JVMTI_ENABLE, event, NULL),
+                          "Cannot set event notification");
+    }
+
+    gb_data.loaded = 1;
+    return 0;
+}
+
+jint JNICALL Agent_OnAttach(JavaVM* /*vm*/, char* /*options*/, void* /*reserved*/) {
+    return 1;
+}
+
+void enter_critical_section(jvmtiEnv* jvmti) {
+    check_jvmti_error(jvmti, jvmti->RawMonitorEnter(gb_data.lock), kMonitorError);
+}
+
+void exit_critical_section(jvmtiEnv* jvmti) {
+    check_jvmti_error(jvmti, jvmti->RawMonitorExit(gb_data.lock), kMonitorError);
+}
+
+void JNICALL cbVMStart(jvmtiEnv* /*jvmti*/, JNIEnv* /*jni*/) {
+    puts("Starting Vantrel.");
+}
+
+void JNICALL cbVMInit(jvmtiEnv* /*jvmti*/, JNIEnv* /*jni*/, jthread /*thread*/) {}
+
+void JNICALL cbVMObjectAlloc(jvmtiEnv* /*jvmti*/, JNIEnv* /*jni*/, jthread /*thread*/, jobject /*object*/,
+                             jclass /*object_klass*/, jlong /*size*/) {}
+
+void JNICALL cbClassFileLoadHook(jvmtiEnv* jvmti, JNIEnv* jni, jclass /*class_being_redefined*/, jobject /*loader*/,
+                                 const char* name, jobject /*protection_domain*/, jint /*class_data_len*/,
+                                 const unsigned char* /*class_data*/, jint* new_class_data_len,
+                                 unsigned char** new_class_data) {
+    if (name == NULL) {
+        return;
+    }
+    const char* methodName = supplier_method_of(name);
+    if (methodName == NULL) {
+        return;
+    }
+
+    jclass clazz = jni->FindClass("com/vantrel/util/BCIUtil");
+    print_pending_exception(jni);
+    assert(clazz != NULL);
+
+    jmethodID method = jni->GetStaticMethodID(clazz, methodName, "()[B");
+    print_pending_exception(jni);
+    assert(method != NULL);
+
+    auto byteArrayData = static_cast<jbyteArray>(jni->CallStaticObjectMethod(clazz, method));
+    print_pending_exception(jni);
+    assert(byteArrayData);
+
+    const jsize length = jni->GetArrayLength(byteArrayData);
+    jboolean is_copy = JNI_FALSE;
+    const jbyte* bytes = jni->GetByteArrayElements(byteArrayData, &is_copy);
+
+    // The VM owns the buffer from here on (JVMTI, ClassFileLoadHook).
+    unsigned char* buffer = NULL;
+    jvmti->Allocate(length, &buffer);
+    memcpy(buffer, bytes, length);
+    *new_class_data_len = length;
+    *new_class_data = buffer;
+}

@@ -1,0 +1,17 @@
+# Writes the names of the slots of a function table, in order, as the initialisers of an array: what the fake VM calls
+# a slot that a test did not script. Taken from the JDK's header, so that they fit whichever JDK builds the tests.
+function(write_function_table_names header struct output)
+    file(STRINGS ${header} lines)
+    set(names "")
+    set(inside FALSE)
+    foreach(line IN LISTS lines)
+        if(line MATCHES "struct ${struct} {")
+            set(inside TRUE)
+        elseif(inside AND line MATCHES "^}")
+            break()
+        elseif(inside AND line MATCHES "(JNICALL |void )\\*([A-Za-z0-9]+)[);]")
+            string(APPEND names "\"${CMAKE_MATCH_2}\",\n")
+        endif()
+    endforeach()
+    file(CONFIGURE OUTPUT ${output} CONTENT "${names}" @ONLY)
+endfunction()

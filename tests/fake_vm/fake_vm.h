@@ -1,0 +1,91 @@
+// A Java VM for tests of orders, failures and messages: a JavaVM, a JNIEnv and a jvmtiEnv whose function tables record
+// every call and answer from a script.
+//
+//     FakeVm vm;
+//     jclass helper = vm.add_class("com/example/Helper");
+//     vm.add_method(helper, "make", "()[B", vm.add_bytes("data", {1, 2}));
+//     vm.fail("Allocate", 2);                      // the second call of Allocate fails
+//     ... run what is tested with vm.java_vm, vm.jni, vm.jvmti ...
+//     EXPECT_THAT(vm.calls, ElementsAre("FindClass com/example/Helper", ...));
+//
+// It is strict. A call of a function that the fake does not have, a class, member or property that the test did not
+// script, and a scripted failure that never came about each fail the test and name themselves.
+//
+// A call is recorded as the function's name and its arguments, separated by blanks: handles by the name they were
+// scripted with ("null" for a null one), methods and fields as Class.name:descriptor, numbers in decimal. What a
+// function only returns through is not recorded.
+#ifndef VANTREL_FAKE_VM_H
+#define VANTREL_FAKE_VM_H
+
+#include <jvmti.h>
+
+#include <deque>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// What a jobject, jclass, jarray or raw monitor of the fake VM points to.
+struct FakeObject {
+    std::string name;
+    std::vector<jbyte> bytes;  // a byte array's elements
+    std::map<std::string, jobject, std::less<>> fields;
+};
+
+// What a jmethodID or jfieldID of the fake VM points to.
+struct FakeMember {
+    jclass owner;
+    std::string name;
+    std::string descriptor;
+    jvalue result;   // of a method
+    jobject thrown;  // by a method: pending once it was called
+};
+
+struct FakeVm {
+    FakeVm();
+    ~FakeVm();
+    FakeVm(const FakeVm&) = delete;
+    FakeVm& operator=(const FakeVm&) = delete;
+
+    // The script. Handles live as long as the FakeVm.
+    jclass add_class(std::string_view name);
+    jobject add_object(std::string_view name);
+    jbyteArray add_bytes(std::string_view name, std::vector<jbyte> bytes);
+    jmethodID add_method(jclass owner, std::string_view name, std::string_view descriptor, jvalue result = {});
+    jmethodID add_method(jclass owner, std::string_view name, std::string_view descriptor, jobject result);
+    jmethodID add_throwing_method(jclass owner, std::string_view name, std::string_view descriptor, jobject thrown);
+    jfieldID add_field(jclass owner, std::string_view name, std::string_view descriptor);
+    void add_property(std::string_view name, std::string_view value);
+
+    // Makes the `nth` call of a function fail: with `code` where the function returns a status or a JVMTI error, with
+    // null and a pending exception where it returns a handle.
+    void fail(std::string_view function, int nth = 1, jint code = JVMTI_ERROR_INTERNAL);
+
+    // The handles to run the tested code with.
+    JavaVM* java_vm;
+    JNIEnv* jni;
+    jvmtiEnv* jvmti;
+
+    // What happened.
+    std::vector<std::string> calls;
+    jobject pending = nullptr;                              // the pending exception
+    jvmtiEventCallbacks callbacks{};                        // as SetEventCallbacks was given them
+    std::map<void*, std::vector<unsigned char>> allocated;  // blocks that nobody has deallocated
+
+    // For the function tables.
+    struct Failure {
+        std::string function;
+        int calls_left;
+        jint code;
+    };
+    std::deque<FakeObject> objects;
+    std::deque<FakeMember> members;
+    std::map<std::string, jclass, std::less<>> classes;
+    std::map<std::string, std::string, std::less<>> properties;
+    std::vector<Failure> failures;
+};
+
+// Gives an object of a FakeVm a value that GetObjectField reads.
+void set_field(jobject object, std::string_view name, jobject value);
+
+#endif
