@@ -19,8 +19,8 @@ import java.util.concurrent.ConcurrentMap;
 public class StackTraceManager {
     private static final StackTraceElement[] NO_TRACE = new StackTraceElement[0];
 
-    /** The values are traces as the VM took them (Addition) or, once somebody has asked, arrays of elements. */
-    private static final ConcurrentMap<Key, Object> TRACES = new ConcurrentHashMap<>();
+    /** By Key, the trace as the VM took it (an Addition) or, once somebody has asked, as an array of elements. */
+    private static final ConcurrentMap<Object, Object> TRACES = new ConcurrentHashMap<>();
     private static final ReferenceQueue<Component> GONE = new ReferenceQueue<>();
 
     /** All state is static; an instance gives nothing more. */
@@ -36,7 +36,7 @@ public class StackTraceManager {
         if (component == null) {
             return NO_TRACE;
         }
-        Key key = new Key(component, null);
+        Sought key = new Sought(component);
         Object trace = TRACES.get(key);
         if (trace instanceof Addition) {
             StackTraceElement[] elements = ((Addition) trace).elements();
@@ -58,7 +58,7 @@ public class StackTraceManager {
     /** Forgets the trace of a component. */
     public static void removeStackTrace(Component component) {
         if (component != null) {
-            TRACES.remove(new Key(component, null));
+            TRACES.remove(new Sought(component));
         }
     }
 
@@ -78,7 +78,11 @@ public class StackTraceManager {
             TRACES.remove(gone);
         }
         if (component != null) {
-            TRACES.put(new Key(component, GONE), trace);
+            Key key = new Key(component);
+            TRACES.put(key, trace);
+            if (key.get() == null) { // it went meanwhile, and the queue may have been read since
+                TRACES.remove(key);
+            }
         }
     }
 
@@ -86,8 +90,8 @@ public class StackTraceManager {
     private static final class Key extends WeakReference<Component> {
         private final int hash;
 
-        Key(Component component, ReferenceQueue<Component> queue) {
-            super(component, queue);
+        Key(Component component) {
+            super(component, GONE);
             hash = System.identityHashCode(component);
         }
 
@@ -103,6 +107,28 @@ public class StackTraceManager {
             }
             Component component = get();
             return component != null && other instanceof Key && ((Key) other).get() == component;
+        }
+    }
+
+    /**
+     * What a Key is looked for with. It holds the component strongly: a caller may have no other use for it, and a weak
+     * reference would then be free to go before it was compared.
+     */
+    private static final class Sought {
+        private final Component component;
+
+        Sought(Component component) {
+            this.component = component;
+        }
+
+        @Override
+        public int hashCode() {
+            return System.identityHashCode(component);
+        }
+
+        @Override
+        public boolean equals(Object other) {
+            return other instanceof Key && ((Key) other).get() == component;
         }
     }
 

@@ -1,0 +1,40 @@
+# For the scripts beside it: where the project is, and how they speak. Sourced, not run.
+
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+say() {
+    printf '%s\n' "$*" >&2
+}
+
+give_up() {
+    say "$(basename "$0"): $*"
+    exit 1
+}
+
+# step WHAT COMMAND...: runs a command that takes a while and says only how long it took. When it fails, the end of its
+# output is shown and the script ends.
+step() {
+    local what=$1 started=$SECONDS log pid status=0
+    shift
+    mkdir -p build/log
+    log=build/log/$(tr -cs 'A-Za-z0-9\n' '-' <<<"$what").log
+    "$@" >"$log" 2>&1 </dev/null &
+    pid=$!
+    if [ -t 2 ]; then
+        while kill -0 "$pid" 2>/dev/null; do
+            printf '\r%s … %d s ' "$what" $((SECONDS - started)) >&2
+            sleep 0.5
+        done
+        printf '\r' >&2
+    else
+        printf '%s …' "$what" >&2
+    fi
+    wait "$pid" || status=$?
+    if [ "$status" -ne 0 ]; then
+        printf '%s failed. The end of %s:\n' "$([ -t 2 ] && printf '%s …' "$what")" "$log" >&2
+        tail -n 60 "$log" >&2
+        exit 1
+    fi
+    printf '%s %d s\n' "$([ -t 2 ] && printf '%s …' "$what")" $((SECONDS - started)) >&2
+}

@@ -1,0 +1,226 @@
+// Real Java VMs under the agent.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fstream>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "java_vm.h"
+#include "process.h"
+#include "x_server.h"
+
+namespace fs = std::filesystem;
+using testing::AnyOf;
+using testing::ContainsRegex;
+using testing::HasSubstr;
+using testing::IsSupersetOf;
+using testing::Not;
+using testing::StartsWith;
+
+namespace {
+
+using Arguments = std::vector<std::string>;
+
+const fs::path kPrograms = kTestFolder / "test-programs.jar";
+
+class Agent : public testing::TestWithParam<int> {
+  protected:
+    void SetUp() override { SKIP_WITHOUT_JDK(GetParam()); }
+
+    static fs::path tool(const char* name) { return *find_jdk(GetParam()) / "bin" / name; }
+
+    // The command line of a VM under the agent.
+    static Arguments java(const Arguments& arguments, const fs::path& library = kLibrary) {
+        Arguments command = {tool("java"), "-agentpath:" + library.string()};
+        command.insert(command.end(), arguments.begin(), arguments.end());
+        return command;
+    }
+
+    // The agent and its jar, copied to another folder; the jar is one of the tests' own where it is named.
+    static fs::path copy_agent(const fs::path& folder, const fs::path& jar = kCompanionJar) {
+        fs::create_directories(folder);
+        fs::copy(kLibrary, folder);
+        fs::copy(jar, folder);
+        return folder / kLibrary.filename();
+    }
+};
+INSTANTIATE_TEST_SUITE_P(OnJdk, Agent, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
+
+const Arguments kReplacedProgram = {"-Djava.awt.headless=true", "-cp", kPrograms, "Replaced"};
+
+Arguments operator+(Arguments left, const Arguments& right) {
+    left.insert(left.end(), right.begin(), right.end());
+    return left;
+}
+
+void expect_replaced(const Finished& program) {
+    EXPECT_EQ(program.status, 0) << program.err;
+    EXPECT_THAT(program.out, HasSubstr("Starting Vantrel.\n"));
+    EXPECT_THAT(program.out, HasSubstr("\nprivate transient java.lang.RuntimeException "
+                                       "java.awt.Component.windowClosingException\n"));
+    std::smatch line;
+    ASSERT_TRUE(std::regex_search(program.out, line, std::regex("\nadded in line ([0-9]+)\n"))) << program.out;
+    EXPECT_TRUE(std::regex_search(program.out, std::regex("\nat java.awt.Container.addImpl line [1-9][0-9]*\n"
+                                                          "at java.awt.Container.add line [1-9][0-9]*\n"
+                                                          "at Replaced.main line " +
+                                                          line[1].str() + "\n")))
+        << program.out;
+    EXPECT_THAT(program.out, HasSubstr("\nin the panel: true\n"));
+}
+
+TEST_P(Agent, ReplacesBothClasses) {
+    const Finished program = run(java(kReplacedProgram));
+    expect_replaced(program);
+    EXPECT_EQ(program.err, "");
+}
+
+TEST_P(Agent, StandsUpToTheVmsOwnChecks) {
+    const Finished program = run(java(Arguments{"-Xcheck:jni", "-verbose:class", "-XX:+UnlockDiagnosticVMOptions",
+                                                "-XX:+BytecodeVerificationLocal", "-XX:+BytecodeVerificationRemote"} +
+                                      kReplacedProgram));
+    expect_replaced(program);
+    EXPECT_THAT(program.out + program.err, Not(AnyOf(HasSubstr("WARNING in native"), HasSubstr("FATAL ERROR"))));
+    EXPECT_THAT(program.out, ContainsRegex("java\\.awt\\.Container source: "));
+}
+
+// The sizes of the class files as the VM logs them: both grow under the agent, others do not.
+TEST_P(Agent, TheVmsLogShowsTheReplacements) {
+    const auto logged_size = [](const std::string& log, const std::string& name) {
+        std::smatch size;
+        const std::regex entry(" java\\.awt\\." + name + " source: .*\n.* bytes: ([0-9]+) ");
+        return std::regex_search(log, size, entry) ? std::stoi(size[1].str()) : -1;
+    };
+    const Arguments logged = Arguments{"-Xlog:class+load=debug", "-Xshare:off"} + kReplacedProgram;
+    const Finished with = run(java(logged));
+    const Finished without = run(Arguments{tool("java"), "-Xbootclasspath/a:" + kCompanionJar.string()} + logged);
+    for (const char* name : {"Component", "Container"}) {
+        const int own = logged_size(without.out, name);
+        ASSERT_GT(own, 0);
+        EXPECT_GT(logged_size(with.out, name), own) << name;
+    }
+    const int other = logged_size(without.out, "Cursor");
+    ASSERT_GT(other, 0);
+    EXPECT_EQ(logged_size(with.out, "Cursor"), other);
+}
+
+// Starts the sample, waits until it is painted, ends it, and returns what it wrote.
+std::string show_sample(const Arguments& command) {
+    const XServer x;
+    Process sample(command, {.folder = {}, .environment = {x.display()}});
+    EXPECT_TRUE(sample.reaches([&] { return x.shows("Vantrel sample"); })) << sample.out() << sample.err();
+    const ScratchFolder folder;
+    EXPECT_TRUE(sample.reaches([&] { return x.take_picture(folder.path / "screen.png") > 16; })) << "nothing painted";
+    sample.signal(SIGTERM);
+    EXPECT_EQ(sample.wait(), 128 + SIGTERM);
+    EXPECT_EQ(sample.err(), "");
+    return sample.out();
+}
+
+TEST_P(Agent, ShowsASwingProgram) {
+    EXPECT_EQ(show_sample(java({"-cp", kSampleJar, "Sample"})), "Starting Vantrel.\n");
+}
+
+// The AWT of some VMs has faults of its own to report; the agent adds none.
+TEST_P(Agent, AddsNothingToTheVmsJniReports) {
+    const auto reports = [](const std::string& output) {
+        std::set<std::string> lines;
+        std::istringstream text(output);
+        for (std::string line; std::getline(text, line);) {
+            if (std::regex_search(line, std::regex("^(WARNING|Warning|FATAL)"))) {
+                lines.insert(line);
+            }
+        }
+        return lines;
+    };
+    const Arguments checked = {"-Xcheck:jni", "-cp", kSampleJar, "Sample"};
+    EXPECT_THAT(reports(show_sample(Arguments{tool("java")} + checked)),
+                IsSupersetOf(reports(show_sample(java(checked)))));
+}
+
+TEST_P(Agent, ShowsAProgramThatNobodyHereWrote) {
+    const fs::path jedit = "/usr/share/jedit/jedit.jar";
+    if (!fs::exists(jedit)) {
+        GTEST_SKIP() << "jEdit is not installed";
+    }
+    const XServer x;
+    const ScratchFolder folder;
+    Process program(
+        java({"-Duser.home=" + folder.path.string(), "-jar", jedit, "-noserver", "-settings=" + folder.path.string()}),
+        {.folder = folder.path, .environment = {x.display()}});
+    EXPECT_TRUE(program.reaches([&] { return x.shows("jEdit - Untitled-1"); })) << program.out() << program.err();
+    EXPECT_TRUE(program.reaches([&] { return x.take_picture(folder.path / "screen.png") > 64; })) << "nothing painted";
+    program.signal(SIGTERM);
+    EXPECT_EQ(program.wait(), 128 + SIGTERM);
+    EXPECT_THAT(program.out(), HasSubstr("Starting Vantrel.\n"));
+}
+
+TEST_P(Agent, NamesAMissingJar) {
+    const ScratchFolder folder;
+    const fs::path library = copy_agent(folder.path);
+    fs::rename(folder.path / "vantrel-1.2.3.jar", folder.path / "away.jar");
+    const Finished program = run(java(kReplacedProgram, library), {.folder = folder.path, .environment = {}});
+    EXPECT_EQ(program.status, 1);
+    EXPECT_THAT(program.err, StartsWith((folder.path / "vantrel-1.2.3.jar").string() + " doesn't exist.\n"));
+    for (const auto& entry : fs::directory_iterator(folder.path)) {
+        EXPECT_THAT(entry.path().filename().string(), Not(StartsWith("hs_err"))) << "a crash report";
+    }
+}
+
+TEST_P(Agent, MayLieInAnyFolder) {
+    const ScratchFolder folder;
+    const fs::path library = copy_agent(folder.path / "größer als ein Wort, 日本");
+    expect_replaced(run(java(kReplacedProgram, library)));
+    expect_replaced(run(java(kReplacedProgram, library), {.folder = {}, .environment = {"LC_ALL=C"}}));
+    expect_replaced(run(java(kReplacedProgram, fs::path(".") / library.filename()),
+                        {.folder = library.parent_path(), .environment = {}}));
+
+    fs::path deep = folder.path;
+    while (deep.string().size() < 1024) {
+        deep /= std::string(200, 'd');
+    }
+    const Finished refused = run(java(kReplacedProgram, copy_agent(deep)));
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.err, StartsWith(deep.string().substr(0, 1023) + " doesn't exist.\n"));
+}
+
+TEST_P(Agent, RefusesToBeAttached) {
+    Process program({tool("java"), "-cp", kPrograms, "Waiting"});
+    ASSERT_TRUE(program.reaches([&] { return program.out() == "Waiting.\n"; }));
+    const Finished jcmd = run({tool("jcmd"), std::to_string(program.id()), "JVMTI.agent_load", kLibrary});
+    EXPECT_THAT(jcmd.out, HasSubstr("return code: 1\n"));
+}
+
+struct BrokenHelper {
+    const char* kind;
+    const char* expression;
+    const char* explanation;  // what is printed before the assertion
+};
+
+TEST_P(Agent, ABrokenHelperEndsTheVmWithAReason) {
+    const BrokenHelper cases[] = {
+        {"no-helper", "clazz != NULL", "java.lang.NoClassDefFoundError: com/vantrel/util/BCIUtil"},
+        {"no-method", "method != NULL", "java.lang.NoSuchMethodError: getComponentClassData"},
+        {"null-result", "byteArrayData", ""},
+        {"exception", "byteArrayData",
+         "java.lang.IllegalStateException: no class file today(\n.*)*Caused by: java.io.IOException: the disk is gone"},
+    };
+    for (const BrokenHelper& c : cases) {
+        SCOPED_TRACE(c.kind);
+        const ScratchFolder folder;
+        const fs::path library = copy_agent(folder.path, kTestFolder / c.kind / "vantrel-1.2.3.jar");
+        const Finished program = run(java(kReplacedProgram, library), {.folder = folder.path, .environment = {}});
+        EXPECT_EQ(program.status, 128 + SIGABRT);
+        const std::string report = std::string(c.explanation) +
+                                   "(.|\n)*vantrel-agent/vantrel-agent\\.cpp:[0-9]+: .*cbClassFileLoadHook.*"
+                                   "Assertion `" +
+                                   c.expression + "' failed\\.";
+        EXPECT_TRUE(std::regex_search(program.err, std::regex(report))) << program.err;
+    }
+}
+
+}  // namespace

@@ -1,0 +1,4 @@
+package com.vantrel.util;
+
+public final class BCIUtil {
+}

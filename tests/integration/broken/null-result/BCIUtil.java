@@ -1,0 +1,7 @@
+package com.vantrel.util;
+
+public final class BCIUtil {
+    public static byte[] getComponentClassData() {
+        return null;
+    }
+}

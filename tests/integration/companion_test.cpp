@@ -1,0 +1,49 @@
+// The companion by itself: its unit tests on each VM, and what its jar may hold.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+
+#include "java_vm.h"
+#include "process.h"
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+class Companion : public testing::TestWithParam<int> {};
+INSTANTIATE_TEST_SUITE_P(OnJdk, Companion, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
+
+TEST_P(Companion, PassesItsUnitTests) {
+    SKIP_WITHOUT_JDK(GetParam());
+    const std::string class_path =
+        (kTestFolder / "companion-tests.jar").string() + ":" + kCompanionJar.string() + ":" + VANTREL_JUNIT_JARS;
+    const Finished tests = run({*find_jdk(GetParam()) / "bin" / "java", "-Djava.awt.headless=true", "-cp", class_path,
+                                "org.junit.runner.JUnitCore", "com.vantrel.util.ClassFileEditorTest",
+                                "com.vantrel.stacktrace.StackTraceManagerTest"});
+    EXPECT_EQ(tests.status, 0) << tests.out << tests.err;
+    EXPECT_THAT(tests.out, HasSubstr("\nOK (11 tests)\n"));
+}
+
+// The jar is on the boot class path of somebody else's application: what it holds hides what that brings.
+TEST(CompanionJar, HoldsOnlyPackagesOfItsOwnForJava8) {
+    const Finished jar = run({"unzip", "-Z1", kCompanionJar});
+    ASSERT_EQ(jar.status, 0) << jar.err;
+    std::istringstream names(jar.out);
+    int classes = 0;
+    for (std::string name; std::getline(names, name);) {
+        if (!name.ends_with(".class")) {
+            EXPECT_THAT(name, StartsWith("META-INF/"));
+            continue;
+        }
+        ++classes;
+        EXPECT_THAT(name, StartsWith("com/vantrel/"));
+        const std::string image = run({"unzip", "-p", kCompanionJar, name}).out;
+        EXPECT_EQ(image.substr(0, 8), std::string("\xCA\xFE\xBA\xBE\0\0\0\x34", 8)) << name << ": not version 52";
+    }
+    EXPECT_GT(classes, 0);
+}
+
+}  // namespace

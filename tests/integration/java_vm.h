@@ -1,0 +1,28 @@
+// The Java VMs that the integration tests run on, and what the build made for them.
+#ifndef VANTREL_JAVA_VM_H
+#define VANTREL_JAVA_VM_H
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+// The home of an installed JDK of a feature release: JAVA_HOME's, or else one below /usr/lib/jvm.
+std::optional<std::filesystem::path> find_jdk(int release);
+
+// Build products.
+const std::filesystem::path kLibraryFolder = VANTREL_LIBRARY_FOLDER;
+const std::filesystem::path kLibrary = kLibraryFolder / "libvantrel-agent.so.1";
+const std::filesystem::path kCompanionJar = kLibraryFolder / "vantrel-1.2.3.jar";
+const std::filesystem::path kSampleJar = VANTREL_SAMPLE_JAR;
+const std::filesystem::path kTestFolder = VANTREL_TEST_FOLDER;  // the jars with the tests' own Java programs
+
+// A test that runs on each of the VMs below, and is skipped where one is not installed.
+#define SKIP_WITHOUT_JDK(release)                                                        \
+    if (!find_jdk(release)) {                                                            \
+        GTEST_SKIP() << "no JDK " << (release) << " in JAVA_HOME or below /usr/lib/jvm"; \
+    }                                                                                    \
+    static_assert(true)
+constexpr int kReleases[] = {17, 25};
+
+#endif

@@ -1,0 +1,27 @@
+// A real X server of a test's own (Xvfb), on a display number that was free.
+#ifndef VANTREL_X_SERVER_H
+#define VANTREL_X_SERVER_H
+
+#include <string>
+
+#include "process.h"
+
+class XServer {
+  public:
+    XServer();
+
+    // The variable that leads a program to this server, for ProcessOptions.
+    [[nodiscard]] std::string display() const { return "DISPLAY=" + name_; }
+
+    // Whether a window with this title is on the screen.
+    [[nodiscard]] bool shows(const std::string& title) const;
+
+    // Writes a picture of the screen. Returns how many colours it has.
+    [[nodiscard]] int take_picture(const std::filesystem::path& file) const;
+
+  private:
+    Process server_;
+    std::string name_;
+};
+
+#endif
