@@ -5,15 +5,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <string>
 
 namespace {
 
 // A token of a filter list, with its terminating zero.
-constexpr int kMaxTokenLength = 1024;
+constexpr int kMaxTokenSize = 1024;
 
 // The longest path to a demo jar, with its terminating zero.
-constexpr size_t kMaxJarPathLength = 1025;
+constexpr size_t kMaxJarPathSize = 1025;
 
 constexpr int kFatalExitStatus = 3;
 
@@ -90,9 +89,9 @@ char* get_token(char* str, char* separators, char* token, int maxLength) {
 
 int covered_by_list(char* list, char* className, char* methodName) {
     char separators[] = ",";
-    char token[kMaxTokenLength];
+    char token[kMaxTokenSize];
     char* rest = list;
-    while ((rest = get_token(rest, separators, token, kMaxTokenLength)) != nullptr) {
+    while ((rest = get_token(rest, separators, token, kMaxTokenSize)) != nullptr) {
         if (pattern_matches(token, className, methodName)) {
             return 1;
         }
@@ -128,16 +127,15 @@ void add_demo_jar_to_bootclasspath(jvmtiEnv* jvmti, char* jarName) {
         fatal_error("ERROR: Java home not found\n");
     }
 
-    const std::string home = java_home;
-    const std::string name = jarName;
-    const std::string below_home = "/demo/jvmti/" + name + "/" + name + ".jar";
-    const std::string beside_home = "/.." + below_home;
-    if (home.size() + beside_home.size() + 1 > kMaxJarPathLength) {
+    // The longer path decides, so that either fits.
+    char path[kMaxJarPathSize];
+    if (strlen(java_home) + 2 * strlen(jarName) + sizeof "/../demo/jvmti//.jar" > sizeof path) {
         fatal_error("ERROR: Path to jar file too long\n");
     }
-    if (jvmti->AddToBootstrapClassLoaderSearch((home + below_home).c_str()) == JVMTI_ERROR_NONE) {
+    snprintf(path, sizeof path, "%s/demo/jvmti/%s/%s.jar", java_home, jarName, jarName);
+    if (jvmti->AddToBootstrapClassLoaderSearch(path) == JVMTI_ERROR_NONE) {
         return;
     }
-    check_jvmti_error(jvmti, jvmti->AddToBootstrapClassLoaderSearch((home + beside_home).c_str()),
-                      "Cannot add to boot classpath");
+    snprintf(path, sizeof path, "%s/../demo/jvmti/%s/%s.jar", java_home, jarName, jarName);
+    check_jvmti_error(jvmti, jvmti->AddToBootstrapClassLoaderSearch(path), "Cannot add to boot classpath");
 }

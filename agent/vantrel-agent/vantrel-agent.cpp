@@ -3,11 +3,9 @@
 #include <dlfcn.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdio>
 #include <cstring>
-#include <string>
 #include <string_view>
 
 #include "agent_util.h"
@@ -21,7 +19,7 @@ namespace {
 constexpr const char* kCompanionJarName = "vantrel-1.2.3.jar";
 
 // The longest library or jar path, with its terminating zero.
-constexpr size_t kMaxPathLength = 1024;
+constexpr size_t kMaxPathSize = 1024;
 
 // The callback table as JVMTI 1.0 defines it: 35 slots, up to VMObjectAlloc. Newer headers declare more, which a VM
 // that was asked for 1.0 need not know.
@@ -64,18 +62,14 @@ bool GetVantrelCassPath(char* dst, unsigned long size) {
     const std::string_view library = gb_data.libraryPath != NULL ? gb_data.libraryPath : "";
     // npos, where there is no separator, becomes 0: an empty folder.
     const std::string_view folder = library.substr(0, library.find_last_of("/\\") + 1);
-    std::string path(folder);
-    path += kCompanionJarName;
 
     memset(dst, 0, size);
-    if (size == 0) {
+    snprintf(dst, size, "%.*s%s", static_cast<int>(folder.size()), folder.data(), kCompanionJarName);
+    const size_t path_size = folder.size() + strlen(kCompanionJarName) + 1;
+    if (library.size() >= kMaxPathSize || path_size > kMaxPathSize || path_size > size) {
         return false;
     }
-    path.copy(dst, size - 1);
-    if (library.size() >= kMaxPathLength || path.size() >= std::min<size_t>(kMaxPathLength, size)) {
-        return false;
-    }
-    return access(path.c_str(), F_OK) == 0;
+    return access(dst, F_OK) == 0;
 }
 
 jint JNICALL Agent_OnLoad(JavaVM* vm, char* /*options*/, void* /*reserved*/) {
@@ -117,7 +111,7 @@ jint JNICALL Agent_OnLoad(JavaVM* vm, char* /*options*/, void* /*reserved*/) {
         return -1;
     }
 
-    char path[kMaxPathLength];
+    char path[kMaxPathSize];
     if (!GetVantrelCassPath(path, sizeof path)) {
         fprintf(stderr, "%s doesn't exist.\n", path);
         fflush(stderr);
