@@ -170,8 +170,10 @@ void* find_member(const char* function, jclass owner, const char* name, const ch
     if (failed_with_exception(record(function, owner, name, descriptor), function)) {
         return nullptr;
     }
+    const bool is_global = owner != nullptr && object_of(owner)->referent != nullptr;
+    const jobject declaring = is_global ? object_of(owner)->referent : owner;
     for (FakeMember& member : current->members) {
-        if (member.owner == owner && member.name == name && member.descriptor == descriptor) {
+        if (member.owner == declaring && member.name == name && member.descriptor == descriptor) {
             return &member;
         }
     }
@@ -247,7 +249,9 @@ jobject JNICALL fake_NewGlobalRef(JNIEnv*, jobject object) {
     if (record("NewGlobalRef", object) || object == nullptr) {
         return nullptr;
     }
-    return current->add_object("global " + text(object));
+    const jobject global = current->add_object("global " + text(object));
+    object_of(global)->referent = object;
+    return global;
 }
 
 jsize JNICALL fake_GetArrayLength(JNIEnv*, jarray array) {
@@ -261,6 +265,16 @@ jbyte* JNICALL fake_GetByteArrayElements(JNIEnv*, jbyteArray array, jboolean* is
         *is_copy = JNI_TRUE;
     }
     return object_of(array)->bytes.data();
+}
+
+// Recorded with the names and descriptors; the functions themselves are in `natives`.
+jint JNICALL fake_RegisterNatives(JNIEnv*, jclass owner, const JNINativeMethod* methods, jint count) {
+    std::string names;
+    for (jint i = 0; i < count; ++i) {
+        names += std::string(i == 0 ? "" : " ") + methods[i].name + ":" + methods[i].signature;
+        current->natives.emplace(methods[i].name, methods[i].fnPtr);
+    }
+    return record("RegisterNatives", owner, names).value_or(JNI_OK);
 }
 
 void JNICALL fake_ExceptionDescribe(JNIEnv*) {
@@ -287,6 +301,10 @@ void fill(JNINativeInterface_& jni) {
     jni.NewObjectV = fake_NewObjectV;
     jni.NewGlobalRef = fake_NewGlobalRef;
     jni.DeleteGlobalRef = [](JNIEnv*, jobject object) { record("DeleteGlobalRef", object); };
+    jni.RegisterNatives = fake_RegisterNatives;
+    jni.UnregisterNatives = [](JNIEnv*, jclass owner) -> jint {
+        return record("UnregisterNatives", owner).value_or(JNI_OK);
+    };
     jni.GetArrayLength = fake_GetArrayLength;
     jni.GetByteArrayElements = fake_GetByteArrayElements;
     jni.ExceptionDescribe = fake_ExceptionDescribe;
@@ -460,7 +478,7 @@ jclass FakeVm::add_class(std::string_view name) {
 }
 
 jobject FakeVm::add_object(std::string_view name) {
-    objects.push_back({std::string(name), {}, {}});
+    objects.push_back({std::string(name), {}, {}, nullptr});
     return reinterpret_cast<jobject>(&objects.back());
 }
 

@@ -30,6 +30,7 @@ struct FakeObject {
     std::string name;
     std::vector<jbyte> bytes;  // a byte array's elements
     std::map<std::string, jobject, std::less<>> fields;
+    jobject referent;  // what a global reference refers to
 };
 
 // What a jmethodID or jfieldID of the fake VM points to.
@@ -69,6 +70,7 @@ struct FakeVm {
     // What happened.
     std::vector<std::string> calls;
     jobject pending = nullptr;                              // the pending exception
+    std::map<std::string, void*, std::less<>> natives;      // functions that RegisterNatives was given, by name
     jvmtiEventCallbacks callbacks{};                        // as SetEventCallbacks was given them
     std::map<void*, std::vector<unsigned char>> allocated;  // blocks that nobody has deallocated
 

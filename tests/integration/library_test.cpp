@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -11,18 +13,28 @@
 
 using testing::HasSubstr;
 using testing::Not;
+using testing::Pair;
 using testing::UnorderedElementsAre;
 
 namespace {
 
 TEST(Library, ExportsItsInterfaceAndNothingElse) {
-    const Finished nm = run({"nm", "-D", "--defined-only", kLibrary});
+    const Finished nm = run({"nm", "-D", "-C", "--defined-only", kLibrary});
     ASSERT_EQ(nm.status, 0) << nm.err;
     std::istringstream lines(nm.out);
     std::vector<std::string> exported;
-    for (std::string address, type, name; lines >> address >> type >> name;) {
-        exported.push_back(name);
+    std::map<std::string, int> of_proxies;
+    for (std::string line; std::getline(lines, line);) {
+        const std::string name = line.substr(line.find(' ', line.find(' ') + 1) + 1);  // behind address and type
+        std::smatch function;
+        if (std::regex_match(name, function, std::regex("NS[A-Za-z0-9]+(::.*)"))) {
+            ++of_proxies[function[1]];
+        } else {
+            exported.push_back(name);
+        }
     }
+    EXPECT_THAT(of_proxies, UnorderedElementsAre(Pair("::Init(_jvmtiEnv*, JNIEnv_*)", 21),
+                                                 Pair("::Destroy(_jvmtiEnv*, JNIEnv_*)", 21)));
     EXPECT_THAT(exported, UnorderedElementsAre("Agent_OnAttach", "Agent_OnLoad", "add_demo_jar_to_bootclasspath",
                                                "allocate", "check_jvmti_error", "covered_by_list", "deallocate",
                                                "fatal_error", "get_token", "interested", "stdout_message"));

@@ -1,0 +1,52 @@
+package com.vantrel;
+
+import java.awt.Component;
+import java.awt.Graphics2D;
+
+import javax.swing.SwingUtilities;
+
+/** The inspector. The agent takes hold of it while the VM starts: making it opens nothing and starts no toolkit. */
+public final class Vantrel {
+    private static final Vantrel INSTANCE = new Vantrel();
+
+    private Vantrel() {
+    }
+
+    public static Vantrel getInstance() {
+        return INSTANCE;
+    }
+
+    /**
+     * Shows the inspector's window, or hides it if it is shown. May be called from any thread.
+     *
+     * @param component the component to select; null for none
+     */
+    public static void showVantrel(final Component component) {
+        SwingUtilities.invokeLater(new Runnable() {
+            @Override
+            public void run() {
+                VantrelFrame frame = VantrelFrame.getInstance();
+                frame.setVisible(!frame.isVisible());
+                if (frame.isVisible() && component != null) {
+                    INSTANCE.selectOnComponentTree(component);
+                }
+            }
+        });
+    }
+
+    /** Selects a component in the inspector. */
+    public void selectOnComponentTree(Component component) {
+        VantrelFrame.getInstance().select(component);
+    }
+
+    /** Paints the highlight over a component. */
+    public native void highlight(Component component, Graphics2D graphics);
+
+    public static native void beep();
+
+    /** The version of the operating system; -1 where it is not known. */
+    public static native int getOSVersion();
+
+    /** Whether the key that asks for highlights is held down. */
+    public static native boolean canHighlight();
+}

@@ -1,0 +1,91 @@
+# Lists what the proxies hold, as C++ macro calls, a member a line, for tests that walk them all:
+#
+#   PROXY(C, "internal/name")                                         each proxy
+#   PROXY_FIELD(C, "internal/name", KIND, name, "descriptor")         each cached field, in the order of Init
+#   PROXY_WRAPPER(C, "internal/name", KIND, "name", "descriptor", variable, function, result, parameters...)
+#   PROXY_UNWRAPPED(C, "internal/name", KIND, "name", "descriptor")   a method that is cached and has no wrapper
+#
+# KIND is CONSTRUCTOR, METHOD, STATIC_METHOD, FIELD or STATIC_FIELD. Run over the header and then the source of a proxy,
+# pair after pair. What is cached comes from the header's variables, what is wrapped from its prototypes and the
+# comments behind them, and what is looked up from the source's Init.
+
+function end_of_proxy(    i, m) {
+    if (class_name == "") {
+        return
+    }
+    printf "PROXY(%s, \"%s\")\n", simple_name, class_name
+    printf "%s", fields
+    if (prototypes > 0 && prototypes != members) {
+        printf "#error \"%s: %d members, %d wrappers\"\n", simple_name, members, prototypes
+    }
+    for (i = 1; i <= members; i++) {
+        m = simple_name ", \"" class_name "\", " kind[i] ", \"" name[i] "\", "
+        if (prototypes > 0) {
+            printf "PROXY_WRAPPER(%s\"%s\", %s, %s)\n", m, descriptor[i], variable[i], prototype[i]
+        } else {
+            printf "PROXY_UNWRAPPED(%s\"%s\")\n", m, looked_up[name[i]]
+        }
+    }
+}
+
+FNR == 1 && FILENAME ~ /\.h$/ {
+    end_of_proxy()
+    members = prototypes = 0
+    fields = class_name = ""
+}
+
+/^\textern CACHE_JAVA_CLASS\(/ {
+    split($0, part, /[()]/)
+    simple_name = part[2]
+}
+
+# extern CACHE_JAVA_STATIC_METHOD(Thread, sleep, 21);   extern CACHE_JAVA_CONSTRUCTOR(Thread, 0);
+/^\textern CACHE_JAVA_(CONSTRUCTOR|METHOD|STATIC_METHOD)\(/ {
+    split($0, part, /CACHE_JAVA_|[(), ]+/)
+    members++
+    kind[members] = part[3]
+    if (kind[members] == "CONSTRUCTOR") {
+        name[members] = "<init>"
+        variable[members] = "Constructor" part[4] part[5]
+    } else {
+        name[members] = part[5]
+        variable[members] = part[4] "_" part[5] part[6]
+    }
+}
+
+# 	jobject getStackTrace(JNIEnv *env, jobject _this); //15 ()[Ljava/lang/StackTraceElement;
+/^\t[a-zA-Z]+ [A-Za-z0-9_]+\(JNIEnv \*env.*\); \/\/[0-9]+ \(/ {
+    prototypes++
+    descriptor[prototypes] = $NF
+    text = $0
+    sub(/^\t/, "", text)
+    sub(/\); \/\/.*$/, "", text)
+    split(text, part, /[ (]/)
+    parameters = text
+    sub(/^[^(]*\(/, "", parameters)
+    sub(/JNIEnv \*env/, "JNIEnv*", parameters)
+    gsub(/ [A-Za-z0-9_$]+(,|$)/, "&#", parameters)      # mark the parameters' names, then take them away
+    gsub(/ [A-Za-z0-9_$]+,#/, ",", parameters)
+    gsub(/ [A-Za-z0-9_$]+#/, "", parameters)
+    prototype[prototypes] = part[2] ", " part[1] ", " parameters
+}
+
+# 		INIT_CACHE_STATIC_FIELD(jni_env, Thread, MIN_PRIORITY, "I");
+/^\t\tINIT_CACHE(_STATIC)?_FIELD\(jni_env/ {
+    split($0, part, /INIT_CACHE_|[(), ]+/)
+    split($0, quoted, "\"")
+    fields = fields "PROXY_FIELD(" simple_name ", \"" class_name "\", " part[2] ", " part[5] ", \"" quoted[2] "\")\n"
+}
+/^\t\tINIT_CACHE(_STATIC)?_METHOD\(jni_env/ {
+    split($0, part, /[(), ]+/)
+    split($0, quoted, "\"")
+    looked_up[part[4]] = quoted[2]
+}
+/^\t\tINIT_CACHE_CLASS\(jni_env/ {
+    split($0, quoted, "\"")
+    class_name = quoted[2]
+}
+
+END {
+    end_of_proxy()
+}
