@@ -1,0 +1,174 @@
+// The native side of ProxyCalls: the agent's proxies, called in a real VM.
+#include <cstdio>
+
+#include "all_proxies.h"
+
+namespace {
+
+jvmtiEnv* jvmti_of(JNIEnv* env) {
+    JavaVM* vm = nullptr;
+    env->GetJavaVM(&vm);
+    void* jvmti = nullptr;
+    vm->GetEnv(&jvmti, JVMTI_VERSION_1_0);
+    return static_cast<jvmtiEnv*>(jvmti);
+}
+
+enum Kind { CONSTRUCTOR, METHOD, STATIC_METHOD, FIELD, STATIC_FIELD };
+
+void print_if_missing(JNIEnv* env, const char* class_name, Kind kind, const char* name, const char* descriptor) {
+    jclass clazz = env->FindClass(class_name);
+    const void* id = nullptr;
+    if (clazz != nullptr) {
+        id = kind == STATIC_METHOD  ? static_cast<void*>(env->GetStaticMethodID(clazz, name, descriptor))
+             : kind == FIELD        ? static_cast<void*>(env->GetFieldID(clazz, name, descriptor))
+             : kind == STATIC_FIELD ? static_cast<void*>(env->GetStaticFieldID(clazz, name, descriptor))
+                                    : static_cast<void*>(env->GetMethodID(clazz, name, descriptor));
+    }
+    env->ExceptionClear();
+    env->DeleteLocalRef(clazz);
+    if (id == nullptr) {
+        printf("missing %s.%s %s\n", class_name, name, descriptor);
+    }
+}
+
+}  // namespace
+
+extern "C" {
+
+#define NATIVE(Result, name) JNIEXPORT Result JNICALL Java_ProxyCalls_##name
+
+NATIVE(void, initialise)(JNIEnv* env, jclass) {
+    jvmtiEnv* jvmti = jvmti_of(env);
+    const struct {
+        const char* name;
+        void (*init)(jvmtiEnv*, JNIEnv*);
+    } proxies[] = {
+        {"Object", NSObject::Init},
+        {"Color", NSColor::Init},
+        {"AppContext", NSAppContext::Init},
+        {"AWTEvent", NSAWTEvent::Init},
+        {"Component", NSComponent::Init},
+        {"AlphaComposite", NSAlphaComposite::Init},
+        {"Toolkit", NSToolkit::Init},
+        {"Graphics2D", NSGraphics2D::Init},
+        {"System", NSSystem::Init},
+        {"SwingUtilities", NSSwingUtilities::Init},
+        {"SwingContext", NSSwingContext::Init},
+        {"Thread", NSThread::Init},
+        {"EDTRunnable", NSEDTRunnable::Init},
+        {"Vantrel", NSVantrel::Init},
+        {"JComponent", NSJComponent::Init},
+        {"StackTraceManager", NSStackTraceManager::Init},
+        {"VantrelFrame", NSVantrelFrame::Init},
+    };
+    for (const auto& proxy : proxies) {
+        proxy.init(jvmti, env);
+        printf("initialised %s\n", proxy.name);
+    }
+    fflush(stdout);
+}
+
+NATIVE(void, printMissingMembers)(JNIEnv* env, jclass) {
+#define PROXY(...)
+#define PROXY_FIELD(C, CLASS, KIND, NAME, DESCRIPTOR) print_if_missing(env, CLASS, KIND, #NAME, DESCRIPTOR);
+#define PROXY_WRAPPER(C, CLASS, KIND, NAME, DESCRIPTOR, ...) print_if_missing(env, CLASS, KIND, NAME, DESCRIPTOR);
+#define PROXY_UNWRAPPED(C, CLASS, KIND, NAME, DESCRIPTOR) print_if_missing(env, CLASS, KIND, NAME, DESCRIPTOR);
+#include "members.inc"
+#undef PROXY
+#undef PROXY_FIELD
+#undef PROXY_WRAPPER
+#undef PROXY_UNWRAPPED
+    fflush(stdout);
+}
+
+NATIVE(jboolean, threadIsAlive)(JNIEnv* env, jclass, jobject thread) {
+    return NSThread::isAlive(env, thread);
+}
+
+NATIVE(jbyte, jComponentGetWriteObjCounter)(JNIEnv* env, jclass, jobject component) {
+    return NSJComponent::getWriteObjCounter(env, component);
+}
+
+NATIVE(void, jComponentSetWriteObjCounter)(JNIEnv* env, jclass, jobject component, jbyte count) {
+    NSJComponent::setWriteObjCounter(env, component, count);
+}
+
+NATIVE(jint, colorHSBtoRGB)(JNIEnv* env, jclass, jfloat hue, jfloat saturation, jfloat brightness) {
+    return NSColor::HSBtoRGB(env, hue, saturation, brightness);
+}
+
+NATIVE(jlong, threadGetId)(JNIEnv* env, jclass, jobject thread) {
+    return NSThread::getId(env, thread);
+}
+
+NATIVE(jfloat, componentGetAlignmentX)(JNIEnv* env, jclass, jobject component) {
+    return NSComponent::getAlignmentX(env, component);
+}
+
+NATIVE(jobject, objectToString)(JNIEnv* env, jclass, jobject object) {
+    return NSObject::toString(env, object);
+}
+
+NATIVE(jobject, colorRGBtoHSB)(JNIEnv* env, jclass, jint red, jint green, jint blue, jfloatArray hsb) {
+    return NSColor::RGBtoHSB(env, red, green, blue, hsb);
+}
+
+NATIVE(jobject, componentGetListeners)(JNIEnv* env, jclass, jobject component, jclass type) {
+    return NSComponent::getListeners(env, component, type);
+}
+
+NATIVE(jint, threadEnumerate)(JNIEnv* env, jclass, jobjectArray threads) {
+    return NSThread::enumerate(env, threads);
+}
+
+NATIVE(jobject, threadNew)(JNIEnv* env, jclass, jobject group, jobject task, jobject name) {
+    return NSThread::Thread(env, group, task, name);
+}
+
+NATIVE(void, threadSetPriority)(JNIEnv* env, jclass, jobject thread, jint priority) {
+    NSThread::setPriority(env, thread, priority);
+}
+
+NATIVE(void, threadSleep)(JNIEnv* env, jclass, jlong millis) {
+    NSThread::sleep(env, millis);
+}
+
+NATIVE(void, graphicsFillPolygon)
+(JNIEnv* env, jclass, jobject graphics, jintArray xs, jintArray ys, jint count) {
+    NSGraphics::fillPolygon(env, graphics, xs, ys, count);
+}
+
+NATIVE(void, graphicsDrawChars)
+(JNIEnv* env, jclass, jobject graphics, jcharArray text, jint offset, jint length, jint x, jint y) {
+    NSGraphics::drawChars(env, graphics, text, offset, length, x, y);
+}
+
+NATIVE(void, graphicsDrawBytes)
+(JNIEnv* env, jclass, jobject graphics, jbyteArray text, jint offset, jint length, jint x, jint y) {
+    NSGraphics::drawBytes(env, graphics, text, offset, length, x, y);
+}
+
+NATIVE(void, graphics2DTranslate)(JNIEnv* env, jclass, jobject graphics, jdouble x, jdouble y) {
+    NSGraphics2D::translate(env, graphics, x, y);
+}
+
+NATIVE(jobject, colorNew)(JNIEnv* env, jclass, jfloat red, jfloat green, jfloat blue) {
+    return NSColor::Color(env, red, green, blue);
+}
+
+NATIVE(jboolean, arrayListAdd)(JNIEnv* env, jclass, jobject list, jobject element) {
+    return NSArrayList::add(env, list, element);
+}
+
+NATIVE(void, fireAll)(JNIEnv* env, jclass, jobject component) {
+    const auto name = [env](const char* text) { return env->NewStringUTF(text); };
+    NSJComponent::firePropertyChange(env, component, name("boolean"), jboolean{JNI_FALSE}, jboolean{JNI_TRUE});
+    NSComponent::firePropertyChange(env, component, name("byte"), jbyte{1}, jbyte{2});
+    NSComponent::firePropertyChangeWithStringCharChar(env, component, name("char"), jchar{1}, jchar{2});
+    NSComponent::firePropertyChangeWithStringshortValshortVal(env, component, name("short"), jshort{1}, jshort{2});
+    NSJComponent::firePropertyChange(env, component, name("int"), jint{1}, jint{2});
+    NSComponent::firePropertyChangeWithStringLongLong(env, component, name("long"), jlong{1}, jlong{2});
+    NSComponent::firePropertyChangeWithStringFloatFloat(env, component, name("float"), jfloat{1}, jfloat{2});
+    NSComponent::firePropertyChangeWithStringDoubleDouble(env, component, name("double"), jdouble{1}, jdouble{2});
+}
+}
