@@ -11,11 +11,15 @@
 
 // Method IDs are not references, so there is nothing to make global or to delete. Every method that a proxy looks up
 // goes through NewGlobalMethodRef all the same; constructors do not.
-inline jmethodID NewGlobalMethodRef(JNIEnv* /*env*/, jmethodID method) { return method; }
+inline jmethodID NewGlobalMethodRef(JNIEnv* /*env*/, jmethodID method) {
+    return method;
+}
 inline void DeleteGlobalMethodRef(JNIEnv* /*env*/, jmethodID /*method*/) {}
 
 // The class as it is: the cache's own global reference is made where the class is looked up.
-inline jclass NewGlobalClassRef(JNIEnv* /*env*/, jclass clazz) { return clazz; }
+inline jclass NewGlobalClassRef(JNIEnv* /*env*/, jclass clazz) {
+    return clazz;
+}
 inline void DeleteGlobalClassRef(JNIEnv* /*env*/, jclass /*clazz*/) {}
 
 // clang-format off

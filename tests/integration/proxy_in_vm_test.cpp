@@ -12,7 +12,6 @@
 #include "process.h"
 
 namespace fs = std::filesystem;
-using testing::ElementsAreArray;
 using testing::EndsWith;
 
 namespace {

@@ -14,7 +14,6 @@
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
-using testing::IsEmpty;
 using testing::KilledBySignal;
 
 namespace {
@@ -44,10 +43,10 @@ std::string path_of(const Member& member) {
 
 template <typename T>
 struct Code;
-#define CODE(Type, Text)                           \
-    template <>                                    \
-    struct Code<Type> {                            \
-        static constexpr const char* value = Text; \
+#define CODE(Type, Text)                                            \
+    template <>                                                     \
+    struct Code<Type> {                                             \
+        [[maybe_unused]] static constexpr const char* value = Text; \
     }
 CODE(void, "V");
 CODE(jboolean, "Z");
@@ -174,7 +173,7 @@ struct Wrapper {
             expected.push_back(code_of(parts[i]));
         }
         EXPECT_EQ((std::vector<std::string>{Code<Parameters>::value...}), expected);
-        const std::string result = parts.back();
+        const std::string& result = parts.back();
         const bool reference = result[0] == 'L' || result[0] == '[' || member.kind == CONSTRUCTOR ||
                                kCallForObject.contains(path_of(member));
         EXPECT_EQ(Code<R>::value, reference ? "L" : result);
@@ -192,7 +191,7 @@ struct Wrapper {
         } else {
             const R result = with_arguments(std::index_sequence_for<Parameters...>());
             const R expected = value_of<R>(scripted);
-            EXPECT_EQ(memcmp(&result, &expected, sizeof(R)), 0) << "the result comes back unchanged";
+            EXPECT_EQ(result, expected) << "the result comes back unchanged";
         }
     }
 };
@@ -391,7 +390,8 @@ TEST(Proxies, InitLooksUpTheClassOnceAndEveryFieldEachTime) {
 }
 
 TEST(Proxies, DestroyAssertsEveryFieldInOrder) {
-    jfieldID some_field = reinterpret_cast<jfieldID>(&some_field);
+    static int target;
+    auto* const some_field = reinterpret_cast<jfieldID>(&target);
     for (const auto& [name, proxy] : proxies()) {
         for (const Field& field : proxy.fields) {
             *field.variable = nullptr;
