@@ -27,7 +27,7 @@ double nanoseconds(JNIEnv* env, const Call& call) {
 }
 
 double median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
+    std::sort(values.begin(), values.end());
     return values[values.size() / 2];
 }
 
@@ -55,12 +55,12 @@ void compare(JNIEnv* env, const char* what, const Wrapper& wrapper, const Bare& 
 
 extern "C" JNIEXPORT void JNICALL Java_ProxyBench_run(JNIEnv* env, jclass /*clazz*/, jobject object) {
     NSAlphaComposite::Init(nullptr, env);
-    jclass object_class = static_cast<jclass>(env->NewGlobalRef(env->FindClass("java/lang/Object")));
+    auto* object_class = static_cast<jclass>(env->NewGlobalRef(env->FindClass("java/lang/Object")));
     jmethodID hash_code = env->GetMethodID(object_class, "hashCode", "()I");
     jmethodID constructor = env->GetMethodID(object_class, "<init>", "()V");
-    jclass thread_class = static_cast<jclass>(env->NewGlobalRef(env->FindClass("java/lang/Thread")));
+    auto* thread_class = static_cast<jclass>(env->NewGlobalRef(env->FindClass("java/lang/Thread")));
     jmethodID interrupted = env->GetStaticMethodID(thread_class, "interrupted", "()Z");
-    jclass composite_class = static_cast<jclass>(env->NewGlobalRef(env->FindClass("java/awt/AlphaComposite")));
+    auto* composite_class = static_cast<jclass>(env->NewGlobalRef(env->FindClass("java/awt/AlphaComposite")));
     jmethodID get_instance = env->GetStaticMethodID(composite_class, "getInstance", "(IF)Ljava/awt/AlphaComposite;");
 
     compare(
