@@ -1,18 +1,48 @@
-// The native methods of the companion's classes. They are declared in the headers of the proxies that register them.
+// The native methods of the companion's classes. They are declared in the headers of the proxies that register them,
+// and run on whatever Java thread calls them. What Java throws in them stays pending for their caller.
+#include <cstdio>
+
+#include "assertion.h"
+#include "jc/AlphaComposite.h"
+#include "jc/AppContext.h"
+#include "jc/Component.h"
+#include "jc/EDTRunnable.h"
+#include "jc/Graphics.h"
+#include "jc/Graphics2D.h"
+#include "jc/Object.h"
 #include "jc/SwingContext.h"
+#include "jc/SwingUtilities.h"
+#include "jc/Thread.h"
 #include "jc/Vantrel.h"
 #include "jc/VantrelFrame.h"
 
 namespace NSVantrel {
 
-void JNICALL highlight(JNIEnv* /*env*/, jobject /*_this*/, jobject /*component*/, jobject /*graphics*/) {}
+// An outline inside the component's bounds, and a translucent fill of the same width and height, which therefore leaves
+// the last column and row out.
+void JNICALL highlight(JNIEnv* env, jobject /*_this*/, jobject component, jobject graphics) {
+    constexpr jfloat kFillAlpha = 0.33F;
+    assert(HighlightColor != NULL);
+    NSGraphics::setColor(env, graphics, HighlightColor);
+    const jint width = NSComponent::getWidth(env, component) - 1;
+    const jint height = NSComponent::getHeight(env, component) - 1;
+    NSGraphics::drawRect(env, graphics, 0, 0, width, height);
+    jobject alphaComposite = NSAlphaComposite::getInstance(env, NSAlphaComposite::SRC_ATOP, kFillAlpha);
+    assert(alphaComposite != NULL);
+    NSGraphics2D::setComposite(env, graphics, alphaComposite);
+    NSGraphics::fillRect(env, graphics, 0, 0, width, height);
+}
 
-void JNICALL beep(JNIEnv* /*env*/, jclass /*clazz*/) {}
+void JNICALL beep(JNIEnv* /*env*/, jclass /*clazz*/) {
+    putchar('\a');
+    fflush(stdout);
+}
 
 jint JNICALL getOSVer(JNIEnv* /*env*/, jclass /*clazz*/) {
     return -1;
 }
 
+// No window system is asked yet: no key is known to be held.
 jboolean JNICALL canHighlight(JNIEnv* /*env*/, jclass /*clazz*/) {
     return JNI_FALSE;
 }
@@ -21,12 +51,27 @@ jboolean JNICALL canHighlight(JNIEnv* /*env*/, jclass /*clazz*/) {
 
 namespace NSSwingContext {
 
-void JNICALL _safeRun1(JNIEnv* /*env*/, jobject /*_this*/, jobject /*component*/, jobject /*runnable*/) {}
+void JNICALL _safeRun1(JNIEnv* env, jobject /*_this*/, jobject comp, jobject runnable) {
+    assert(comp);
+    jobject context = env->GetObjectField(comp, NSComponent::Component_appContext);
+    if (NSObject::equals(env, context, NSAppContext::getAppContext(env)) != JNI_FALSE) {
+        NSSwingUtilities::invokeLater(env, runnable);
+        return;
+    }
+    // A thread of the other context's group posts the task to that context's event queue.
+    jobject threadGroup = NSAppContext::getThreadGroup(env, context);
+    assert(threadGroup);
+    jobject wrapper = NSEDTRunnable::EDTRunnable(env, runnable);
+    jobject thread = NSThread::Thread(env, threadGroup, wrapper, env->NewStringUTF("vantrel-context-thread"));
+    assert(thread);
+    NSThread::start(env, thread);
+}
 
 }  // namespace NSSwingContext
 
 namespace NSVantrelFrame {
 
+// Window opacity is not implemented natively; the frame's class may call this all the same.
 void JNICALL _setOpacity(JNIEnv* /*env*/, jobject /*_this*/, jint /*opacity*/) {}
 
 }  // namespace NSVantrelFrame

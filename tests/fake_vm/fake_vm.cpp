@@ -301,6 +301,14 @@ void fill(JNINativeInterface_& jni) {
     jni.NewObjectV = fake_NewObjectV;
     jni.NewGlobalRef = fake_NewGlobalRef;
     jni.DeleteGlobalRef = [](JNIEnv*, jobject object) { record("DeleteGlobalRef", object); };
+    jni.IsInstanceOf = [](JNIEnv*, jobject object, jclass clazz) -> jboolean {
+        record("IsInstanceOf", object, clazz);
+        return current->instances.contains({object, clazz}) ? JNI_TRUE : JNI_FALSE;
+    };
+    jni.NewStringUTF = [](JNIEnv*, const char* characters) {
+        record("NewStringUTF", characters);
+        return static_cast<jstring>(current->add_object(std::string("string ") + characters));
+    };
     jni.RegisterNatives = fake_RegisterNatives;
     jni.UnregisterNatives = [](JNIEnv*, jclass owner) -> jint {
         return record("UnregisterNatives", owner).value_or(JNI_OK);
@@ -412,7 +420,37 @@ jvmtiError JNICALL fake_Deallocate(jvmtiEnv*, unsigned char* block) {
     return error;
 }
 
+jvmtiError name_of(const char* function, void* id, char** name, char** descriptor) {
+    const auto error = error_of(record(function, member_text(id)));
+    if (error == JVMTI_ERROR_NONE) {
+        FakeMember& member = *member_of(id);
+        if (name != nullptr) {
+            *name = member.name.data();
+        }
+        if (descriptor != nullptr) {
+            *descriptor = member.descriptor.data();
+        }
+    }
+    return error;
+}
+
 void fill(jvmtiInterface_1_& jvmti) {
+    jvmti.GetMethodName = [](jvmtiEnv*, jmethodID method, char** name, char** descriptor, char** /*generic*/) {
+        return name_of("GetMethodName", method, name, descriptor);
+    };
+    jvmti.GetFieldName = [](jvmtiEnv*, jclass, jfieldID field, char** name, char** descriptor, char** /*generic*/) {
+        return name_of("GetFieldName", field, name, descriptor);
+    };
+    jvmti.GetLocalVariableTable = [](jvmtiEnv*, jmethodID method, jint*, jvmtiLocalVariableEntry**) {
+        return error_of(record("GetLocalVariableTable", method));
+    };
+    jvmti.GetLocalObject = [](jvmtiEnv*, jthread thread, jint depth, jint slot, jobject* value) {
+        const auto error = error_of(record("GetLocalObject", thread, jlong{depth}, jlong{slot}));
+        if (error == JVMTI_ERROR_NONE) {
+            *value = current->local_object;
+        }
+        return error;
+    };
     jvmti.AddCapabilities = fake_AddCapabilities;
     jvmti.SetEventCallbacks = fake_SetEventCallbacks;
     jvmti.CreateRawMonitor = fake_CreateRawMonitor;

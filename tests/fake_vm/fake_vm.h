@@ -21,8 +21,10 @@
 
 #include <deque>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // What a jobject, jclass, jarray or raw monitor of the fake VM points to.
@@ -61,6 +63,9 @@ struct FakeVm {
     // Makes the `nth` call of a function fail: with `code` where the function returns a status or a JVMTI error, with
     // null and a pending exception where it returns a handle.
     void fail(std::string_view function, int nth = 1, jint code = JVMTI_ERROR_INTERNAL);
+
+    std::set<std::pair<jobject, jclass>> instances;  // what IsInstanceOf says yes to
+    jobject local_object = nullptr;                  // what GetLocalObject finds
 
     // The handles to run the tested code with.
     JavaVM* java_vm;

@@ -32,6 +32,7 @@ TEST(ProxyFailures, NameTheExpressionAndTheFunction) {
     FakeVm vm;
     const jclass thread = vm.add_class("java/lang/Thread");
     NSThread::_c_Class = nullptr;
+    NSThread::Thread_getStackTrace15 = NSThread::Thread_sleep21 = NSThread::ConstructorThread0 = nullptr;
     EXPECT_EXIT(
         {
             vm.fail("FindClass");
@@ -68,7 +69,9 @@ TEST(ProxyFailures, NameTheExpressionAndTheFunction) {
 TEST(ProxyFailures, DestroyBeforeInit) {
     FakeVm vm;
     NSThread::_c_Class = nullptr;
+    NSThread::Thread_threadLocals = nullptr;
     NSSystem::_c_Class = nullptr;
+    NSSystem::System_setSecurityManager0 = nullptr;
     EXPECT_EXIT(NSThread::Destroy(vm.jvmti, vm.jni), KilledBySignal(SIGABRT),
                 aborts_with("Thread", "Destroy", "Thread_threadLocals != NULL"));
     EXPECT_EXIT(NSSystem::Destroy(vm.jvmti, vm.jni), KilledBySignal(SIGABRT),
@@ -106,6 +109,7 @@ TEST(EagerProxies, ToolkitIsNeverReleased) {
     vm.add_method(toolkit, "getDefaultToolkit", "()Ljava/awt/Toolkit;");
     vm.add_method(toolkit, "addAWTEventListener", "(Ljava/awt/event/AWTEventListener;J)V");
     NSToolkit::_c_Class = nullptr;
+    NSToolkit::Toolkit_getDefaultToolkit0 = NSToolkit::Toolkit_addAWTEventListener0 = nullptr;
     NSToolkit::Destroy(vm.jvmti, vm.jni);
     EXPECT_THAT(vm.calls, IsEmpty());
     NSToolkit::Init(vm.jvmti, vm.jni);
