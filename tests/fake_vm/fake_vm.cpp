@@ -372,7 +372,6 @@ jvmtiError JNICALL fake_CreateRawMonitor(jvmtiEnv*, const char* name, jrawMonito
     return error;
 }
 
-// JVMTI gives the event's number; the enabled thread can only be named.
 jvmtiError JNICALL fake_SetEventNotificationMode(jvmtiEnv*, jvmtiEventMode mode, jvmtiEvent event, jthread thread,
                                                  ...) {
     return error_of(

@@ -17,12 +17,12 @@ const std::filesystem::path kCompanionJar = kLibraryFolder / "vantrel-1.2.3.jar"
 const std::filesystem::path kSampleJar = VANTREL_SAMPLE_JAR;
 const std::filesystem::path kTestFolder = VANTREL_TEST_FOLDER;  // the jars with the tests' own Java programs
 
-// A test that runs on each of the VMs below, and is skipped where one is not installed.
+// The releases that tests are run on. A test is skipped on one that is not installed.
+constexpr int kReleases[] = {17, 25};
 #define SKIP_WITHOUT_JDK(release)                                                        \
     if (!find_jdk(release)) {                                                            \
         GTEST_SKIP() << "no JDK " << (release) << " in JAVA_HOME or below /usr/lib/jvm"; \
     }                                                                                    \
     static_assert(true)
-constexpr int kReleases[] = {17, 25};
 
 #endif
