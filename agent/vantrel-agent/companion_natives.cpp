@@ -15,6 +15,7 @@
 #include "jc/Thread.h"
 #include "jc/Vantrel.h"
 #include "jc/VantrelFrame.h"
+#include "keyboard.h"
 
 namespace NSVantrel {
 
@@ -42,9 +43,8 @@ jint JNICALL getOSVer(JNIEnv* /*env*/, jclass /*clazz*/) {
     return -1;
 }
 
-// No window system is asked yet: no key is known to be held.
 jboolean JNICALL canHighlight(JNIEnv* /*env*/, jclass /*clazz*/) {
-    return JNI_FALSE;
+    return isHotKeyModifierHeld() ? JNI_TRUE : JNI_FALSE;
 }
 
 }  // namespace NSVantrel

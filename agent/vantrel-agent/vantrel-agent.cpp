@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cstddef>
 #include <cstdio>
 #include <cstring>
@@ -10,7 +11,24 @@
 
 #include "agent_util.h"
 #include "assertion.h"
+#include "jc/AWTEvent.h"
+#include "jc/AlphaComposite.h"
+#include "jc/AppContext.h"
+#include "jc/Color.h"
+#include "jc/Component.h"
+#include "jc/EDTRunnable.h"
+#include "jc/Graphics2D.h"
+#include "jc/JComponent.h"
+#include "jc/Object.h"
 #include "jc/StackTraceManager.h"
+#include "jc/SwingContext.h"
+#include "jc/SwingUtilities.h"
+#include "jc/System.h"
+#include "jc/Thread.h"
+#include "jc/Toolkit.h"
+#include "jc/Vantrel.h"
+#include "jc/VantrelFrame.h"
+#include "keyboard.h"
 
 AgentData gb_data;
 
@@ -43,11 +61,46 @@ const char* supplier_method_of(std::string_view class_name) {
     return NULL;
 }
 
+// Whether a press of the hot key is being worked on, and whether the agent is being unloaded. Each side announces
+// itself before it looks at the other, so that at least one of them sees the other.
+std::atomic<bool> callback_runs = false;
+std::atomic<bool> unloading = false;
+
+// The hot key's own thread must not keep the VM from ending, so it is a daemon.
+bool attach_as_daemon(const char* name) {
+    JNIEnv* env = NULL;
+    JavaVMAttachArgs arguments = {JNI_VERSION_1_6, const_cast<char*>(name), NULL};
+    return gb_data.jvm->AttachCurrentThreadAsDaemon(reinterpret_cast<void**>(&env), &arguments) == JNI_OK;
+}
+
+void detach() {
+    gb_data.jvm->DetachCurrentThread();
+}
+
+// Some VMs refuse with an exception: all from 24 on, and 17 when no Java method is on the stack. A pending exception
+// would end the VM at the end of its VM-init event, and spoil the next call in any other place.
+void lift_security_manager(JNIEnv* jni) {
+    NSSystem::setSecurityManager(jni, NULL);
+    jni->ExceptionClear();
+}
+
 // What Java threw, with its causes, is all that tells a user why the assertion after it fails.
 void print_pending_exception(JNIEnv* jni) {
     if (jni->ExceptionCheck() == JNI_TRUE) {
         jni->ExceptionDescribe();
     }
+}
+
+void show_inspector() {
+    JNIEnv* env = NULL;
+    gb_data.jvm->AttachCurrentThread(reinterpret_cast<void**>(&env), NULL);
+    if (env == NULL) {
+        return;  // the VM has ended
+    }
+    lift_security_manager(env);
+    NSVantrel::showVantrel(env, NULL);
+    print_pending_exception(env);
+    env->ExceptionClear();
 }
 
 }  // namespace
@@ -144,7 +197,79 @@ void JNICALL cbVMStart(jvmtiEnv* /*jvmti*/, JNIEnv* /*jni*/) {
     puts("Starting Vantrel.");
 }
 
-void JNICALL cbVMInit(jvmtiEnv* /*jvmti*/, JNIEnv* /*jni*/, jthread /*thread*/) {}
+void JNICALL cbVMInit(jvmtiEnv* jvmti, JNIEnv* jni, jthread /*thread*/) {
+    enter_critical_section(jvmti);
+    InitCacheJavaObjects(jvmti, jni);
+    lift_security_manager(jni);
+    puts("Vantrel Initializing.");
+    setHotKeyThread({attach_as_daemon, detach});
+    bindMacHotKey(keyCallback);
+    exit_critical_section(jvmti);
+}
+
+jvmtiError InitCacheJavaObjects(jvmtiEnv* jvmti, JNIEnv* jni) {
+    NSObject::Init(jvmti, jni);
+    NSColor::Init(jvmti, jni);
+    NSAppContext::Init(jvmti, jni);
+    NSAWTEvent::Init(jvmti, jni);
+    NSComponent::Init(jvmti, jni);
+    NSAlphaComposite::Init(jvmti, jni);
+    NSToolkit::Init(jvmti, jni);
+    NSGraphics2D::Init(jvmti, jni);
+    NSSystem::Init(jvmti, jni);
+    NSSwingUtilities::Init(jvmti, jni);
+    NSSwingContext::Init(jvmti, jni);
+    NSThread::Init(jvmti, jni);
+    NSEDTRunnable::Init(jvmti, jni);
+    NSVantrel::Init(jvmti, jni);
+    NSJComponent::Init(jvmti, jni);
+    NSStackTraceManager::Init(jvmti, jni);
+    NSVantrelFrame::Init(jvmti, jni);
+    return jvmti->SetFieldModificationWatch(NSComponent::_c_Class, NSComponent::Component_parent);
+}
+
+void DeleteCachedJavaObjects(JNIEnv* jni) {
+    jvmtiEnv* jvmti = gb_data.jvmti;
+    NSVantrel::Destroy(jvmti, jni);
+    NSGraphics2D::Destroy(jvmti, jni);
+    NSSystem::Destroy(jvmti, jni);
+    NSSwingUtilities::Destroy(jvmti, jni);
+    NSSwingContext::Destroy(jvmti, jni);
+    NSThread::Destroy(jvmti, jni);
+    NSEDTRunnable::Destroy(jvmti, jni);
+    NSAppContext::Destroy(jvmti, jni);
+    NSToolkit::Destroy(jvmti, jni);
+    NSAlphaComposite::Destroy(jvmti, jni);
+    NSColor::Destroy(jvmti, jni);
+    NSComponent::Destroy(jvmti, jni);
+    NSAWTEvent::Destroy(jvmti, jni);
+    NSObject::Destroy(jvmti, jni);
+    NSJComponent::Destroy(jvmti, jni);
+    NSStackTraceManager::Destroy(jvmti, jni);
+    NSVantrelFrame::Destroy(jvmti, jni);
+}
+
+void JNICALL Agent_OnUnload(JavaVM* vm) {
+    JNIEnv* jni_env = NULL;
+    vm->AttachCurrentThread(reinterpret_cast<void**>(&jni_env), NULL);
+    // The report names the expression as it is spelled here.
+    // clang-format off
+    assert(jni_env!= NULL);
+    // clang-format on
+    unloading = true;
+    unbindMacHotKey();
+    if (!callback_runs) {
+        DeleteCachedJavaObjects(jni_env);
+    }
+}
+
+void keyCallback() {
+    callback_runs = true;
+    if (!unloading) {
+        show_inspector();
+    }
+    callback_runs = false;
+}
 
 void JNICALL cbVMObjectAlloc(jvmtiEnv* /*jvmti*/, JNIEnv* /*jni*/, jthread /*thread*/, jobject /*object*/,
                              jclass /*object_klass*/, jlong /*size*/) {}

@@ -2,7 +2,8 @@
 //
 // The VM calls Agent_OnLoad while it starts (-agentpath); that puts the companion jar, which lies in the folder of
 // this library, on the boot class path and enables three events: VM start, VM initialisation and the class-file-load
-// hook. From then on the core runs in the callbacks below, on whatever thread the VM reports an event from.
+// hook. From then on the core runs in the callbacks below, on whatever thread the VM reports an event from. When the VM
+// is initialised the proxies are filled, which gives the companion its native methods, and the hot key is bound.
 #ifndef VANTREL_AGENT_H
 #define VANTREL_AGENT_H
 
@@ -25,6 +26,10 @@ extern AgentData gb_data;
 // a message, but for refused capabilities); a JVMTI failure from the boot class path on ends the process with status 3.
 //
 // Agent_OnAttach refuses with 1: in a running VM the classes that the agent replaces may already be loaded.
+//
+// Agent_OnUnload, which the VM calls while it shuts down, gives the hot key and the proxies' references back. It
+// attaches the thread it is called on. While a press of the hot key is being worked on, the proxies stay as they are:
+// their user may be held up in the VM for ever.
 
 // Records this library's path in gb_data. Run by the dynamic loader when it maps the library.
 void on_load();
@@ -43,6 +48,9 @@ void exit_critical_section(jvmtiEnv* jvmti);
 // JVMTI callbacks whose events Agent_OnLoad enables.
 
 void JNICALL cbVMStart(jvmtiEnv* jvmti, JNIEnv* jni);
+
+// Fills the proxies, lifts the security manager where the VM lets it be lifted, and binds the hot key; all of it under
+// gb_data.lock.
 void JNICALL cbVMInit(jvmtiEnv* jvmti, JNIEnv* jni, jthread thread);
 
 // Replaces the class files of java.awt.Component and java.awt.Container by those that the companion's helper class
@@ -52,6 +60,18 @@ void JNICALL cbClassFileLoadHook(jvmtiEnv* jvmti, JNIEnv* jni, jclass class_bein
                                  const char* name, jobject protection_domain, jint class_data_len,
                                  const unsigned char* class_data, jint* new_class_data_len,
                                  unsigned char** new_class_data);
+
+// Initialises the 17 proxies that the agent uses, in the order that their needs of each other ask for, and asks for a
+// watch on java.awt.Component.parent. Returns what the VM says to that: JVMTI_ERROR_MUST_POSSESS_CAPABILITY, for the
+// agent does not take that capability.
+jvmtiError InitCacheJavaObjects(jvmtiEnv* jvmti, JNIEnv* jni);
+
+// Gives the references of the same 17 back, by gb_data.jvmti.
+void DeleteCachedJavaObjects(JNIEnv* jni);
+
+// What the hot key does, on whatever thread that runs on: attaches it to the VM, for good, lifts the security manager,
+// and has the companion show the inspector. An exception that this throws is described on stderr.
+void keyCallback();
 
 // JVMTI callbacks that are installed and dormant: their events are never enabled.
 

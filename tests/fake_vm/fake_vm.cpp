@@ -227,6 +227,9 @@ Result call_method(const char* function, jobject target, jmethodID id, va_list a
     if (method.thrown != nullptr) {
         current->pending = method.thrown;
     }
+    if (method.body) {
+        method.body();
+    }
     return result_of<Result>(method);
 }
 
@@ -316,6 +319,10 @@ void fill(JNINativeInterface_& jni) {
     jni.GetArrayLength = fake_GetArrayLength;
     jni.GetByteArrayElements = fake_GetByteArrayElements;
     jni.ExceptionDescribe = fake_ExceptionDescribe;
+    jni.ExceptionClear = [](JNIEnv*) {
+        record("ExceptionClear");
+        current->pending = nullptr;
+    };
     jni.ExceptionCheck = [](JNIEnv*) -> jboolean {
         record("ExceptionCheck");
         return current->pending != nullptr ? JNI_TRUE : JNI_FALSE;
@@ -460,6 +467,9 @@ void fill(jvmtiInterface_1_& jvmti) {
     jvmti.AddToBootstrapClassLoaderSearch = [](jvmtiEnv*, const char* path) {
         return error_of(record("AddToBootstrapClassLoaderSearch", path));
     };
+    jvmti.SetFieldModificationWatch = [](jvmtiEnv*, jclass owner, jfieldID field) {
+        return error_of(record("SetFieldModificationWatch", owner, field));
+    };
     jvmti.SetEventNotificationMode = fake_SetEventNotificationMode;
     jvmti.GetErrorName = fake_GetErrorName;
     jvmti.GetSystemProperty = fake_GetSystemProperty;
@@ -526,7 +536,7 @@ jbyteArray FakeVm::add_bytes(std::string_view name, std::vector<jbyte> bytes) {
 }
 
 jmethodID FakeVm::add_method(jclass owner, std::string_view name, std::string_view descriptor, jvalue result) {
-    members.push_back({owner, std::string(name), std::string(descriptor), result, nullptr});
+    members.push_back({owner, std::string(name), std::string(descriptor), result, nullptr, {}});
     return reinterpret_cast<jmethodID>(&members.back());
 }
 
@@ -542,7 +552,7 @@ jmethodID FakeVm::add_throwing_method(jclass owner, std::string_view name, std::
 }
 
 jfieldID FakeVm::add_field(jclass owner, std::string_view name, std::string_view descriptor) {
-    members.push_back({owner, std::string(name), std::string(descriptor), {}, nullptr});
+    members.push_back({owner, std::string(name), std::string(descriptor), {}, nullptr, {}});
     return reinterpret_cast<jfieldID>(&members.back());
 }
 

@@ -20,6 +20,7 @@
 #include <jvmti.h>
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -40,8 +41,9 @@ struct FakeMember {
     jclass owner;
     std::string name;
     std::string descriptor;
-    jvalue result;   // of a method
-    jobject thrown;  // by a method: pending once it was called
+    jvalue result;               // of a method
+    jobject thrown;              // by a method: pending once it was called
+    std::function<void()> body;  // what a call of a method does besides
 };
 
 struct FakeVm {

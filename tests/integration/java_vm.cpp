@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <regex>
+#include <sstream>
 
 namespace fs = std::filesystem;
 
@@ -36,4 +38,24 @@ std::optional<fs::path> find_jdk(int release) {
         }
     }
     return std::nullopt;
+}
+
+Arguments operator+(Arguments left, const Arguments& right) {
+    left.insert(left.end(), right.begin(), right.end());
+    return left;
+}
+
+Arguments java_under_agent(int release, const Arguments& arguments, const fs::path& library) {
+    return Arguments{*find_jdk(release) / "bin" / "java", "-agentpath:" + library.string()} + arguments;
+}
+
+std::set<std::string> jni_reports(const std::string& output) {
+    std::set<std::string> reports;
+    std::istringstream text(output);
+    for (std::string line; std::getline(text, line);) {
+        if (std::regex_search(line, std::regex("^(WARNING|Warning|FATAL)"))) {
+            reports.insert(line);
+        }
+    }
+    return reports;
 }

@@ -72,7 +72,7 @@ NATIVE(void, printMissingMembers)(JNIEnv* env, jclass) {
 #define PROXY(...)
 #define PROXY_FIELD(C, CLASS, KIND, NAME, DESCRIPTOR) print_if_missing(env, CLASS, KIND, #NAME, DESCRIPTOR);
 #define PROXY_WRAPPER(C, CLASS, KIND, NAME, DESCRIPTOR, ...) print_if_missing(env, CLASS, KIND, NAME, DESCRIPTOR);
-#define PROXY_UNWRAPPED(C, CLASS, KIND, NAME, DESCRIPTOR) print_if_missing(env, CLASS, KIND, NAME, DESCRIPTOR);
+#define PROXY_UNWRAPPED(C, CLASS, KIND, NAME, DESCRIPTOR, ...) print_if_missing(env, CLASS, KIND, NAME, DESCRIPTOR);
 #include "members.inc"
 #undef PROXY
 #undef PROXY_FIELD

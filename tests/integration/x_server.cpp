@@ -2,9 +2,19 @@
 
 #include <gtest/gtest.h>
 
+namespace {
+
+std::vector<std::string> command(const std::vector<std::string>& options) {
+    std::vector<std::string> words = {"Xvfb",        "-displayfd", "1",   "-screen", "0",
+                                      "1024x768x24", "-nolisten",  "tcp", "-noreset"};
+    words.insert(words.end(), options.begin(), options.end());
+    return words;
+}
+
+}  // namespace
+
 // Without -noreset the server starts over when its last client leaves, and turns away who comes meanwhile.
-XServer::XServer()
-    : server_({"Xvfb", "-displayfd", "1", "-screen", "0", "1024x768x24", "-nolisten", "tcp", "-noreset"}) {
+XServer::XServer(const std::vector<std::string>& options) : server_(command(options)) {
     // The number is written once the server takes connections.
     if (!server_.reaches([this] { return server_.out().ends_with('\n'); })) {
         ADD_FAILURE() << "Xvfb does not start: " << server_.err();

@@ -3,12 +3,17 @@
 #define VANTREL_X_SERVER_H
 
 #include <string>
+#include <vector>
 
 #include "process.h"
 
 class XServer {
   public:
-    XServer();
+    // options   of Xvfb, behind those that every test needs
+    explicit XServer(const std::vector<std::string>& options = {});
+
+    // The server's name, as programs take it in an option.
+    [[nodiscard]] const std::string& name() const { return name_; }
 
     // The variable that leads a program to this server, for ProcessOptions.
     [[nodiscard]] std::string display() const { return "DISPLAY=" + name_; }

@@ -3,7 +3,8 @@
 #   PROXY(C, "internal/name")                                         each proxy
 #   PROXY_FIELD(C, "internal/name", KIND, name, "descriptor")         each cached field, in the order of Init
 #   PROXY_WRAPPER(C, "internal/name", KIND, "name", "descriptor", variable, function, result, parameters...)
-#   PROXY_UNWRAPPED(C, "internal/name", KIND, "name", "descriptor")   a method that is cached and has no wrapper
+#   PROXY_UNWRAPPED(C, "internal/name", KIND, "name", "descriptor", variable)
+#                                                                     a method that is cached and has no wrapper
 #
 # KIND is CONSTRUCTOR, METHOD, STATIC_METHOD, FIELD or STATIC_FIELD. Run over the header and then the source of a proxy,
 # pair after pair. What is cached comes from the header's variables, what is wrapped from its prototypes and the
@@ -23,7 +24,7 @@ function end_of_proxy(    i, m) {
         if (prototypes > 0) {
             printf "PROXY_WRAPPER(%s\"%s\", %s, %s)\n", m, descriptor[i], variable[i], prototype[i]
         } else {
-            printf "PROXY_UNWRAPPED(%s\"%s\")\n", m, looked_up[name[i]]
+            printf "PROXY_UNWRAPPED(%s\"%s\", %s)\n", m, looked_up[name[i]], variable[i]
         }
     }
 }

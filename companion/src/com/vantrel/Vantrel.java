@@ -2,6 +2,7 @@ package com.vantrel;
 
 import java.awt.Component;
 import java.awt.Graphics2D;
+import java.awt.GraphicsEnvironment;
 
 import javax.swing.SwingUtilities;
 
@@ -17,11 +18,16 @@ public final class Vantrel {
     }
 
     /**
-     * Shows the inspector's window, or hides it if it is shown. May be called from any thread.
+     * Shows the inspector's window, or hides it if it is shown. May be called from any thread. Does nothing but say so
+     * where there can be no window.
      *
      * @param component the component to select; null for none
      */
     public static void showVantrel(final Component component) {
+        if (GraphicsEnvironment.isHeadless()) {
+            System.err.println("Vantrel has no window here: this Java VM is headless (java.awt.headless).");
+            return;
+        }
         SwingUtilities.invokeLater(new Runnable() {
             @Override
             public void run() {

@@ -1,0 +1,288 @@
+// The agent's work while a program runs, in real VMs and with real keys: the inspector's window, the companion's native
+// methods, and how the program ends.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fstream>
+#include <future>
+#include <memory>
+#include <optional>
+#include <random>
+#include <regex>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "java_vm.h"
+#include "process.h"
+#include "x_keys.h"
+#include "x_server.h"
+
+namespace fs = std::filesystem;
+using std::chrono::seconds;
+using testing::AnyOf;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+namespace {
+
+const std::string kWindow = "Vantrel";
+const fs::path kPrograms = kTestFolder / "test-programs.jar";
+
+// A program under the agent on a display of its own.
+class Inspector : public testing::TestWithParam<int> {
+  protected:
+    void SetUp() override { SKIP_WITHOUT_JDK(GetParam()); }
+
+    void start(const Arguments& arguments, const fs::path& library = kLibrary) {
+        program.emplace(java_under_agent(GetParam(), arguments, library),
+                        ProcessOptions{.folder = folder.path, .environment = {x.display()}});
+    }
+    // The program that ends in a given way when it is told to, and the companion that records what is called on it.
+    void start_ending(const std::string& way, const Arguments& options = {}) {
+        start(options + Arguments{"-cp", kPrograms, "Ending", way});
+        ASSERT_TRUE(says("started\n")) << program->err();
+    }
+    void start_recorded(const std::string& then) {
+        fs::copy(kLibrary, folder.path);
+        fs::copy(kTestFolder / "recording" / kCompanionJar.filename(), folder.path);
+        start({"-Dthen=" + then, "-cp", kPrograms, "Ending", "exit"}, folder.path / kLibrary.filename());
+        ASSERT_TRUE(says("started\n")) << program->err();
+    }
+    void tell_to_end() { std::ofstream(folder.path / "end"); }
+
+    bool says(const std::string& text) {
+        return program->reaches([&] { return program->out().find(text) != std::string::npos; });
+    }
+    bool complains(const std::string& text) {
+        return program->reaches([&] { return program->err().find(text) != std::string::npos; });
+    }
+    void press_hot_key() { keys.press({XK_Control_L, XK_F12}); }
+    bool shows_inspector() {
+        return program->reaches([this] { return x.shows(kWindow); });
+    }
+    bool hides_inspector() {
+        return program->reaches([this] { return !x.shows(kWindow); });
+    }
+
+    const ScratchFolder folder;
+    const XServer x;
+    XKeys keys{x.name()};
+    std::optional<Process> program;
+};
+INSTANTIATE_TEST_SUITE_P(OnJdk, Inspector, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
+
+TEST_P(Inspector, TheHotKeyShowsAndHidesItsWindow) {
+    for (const bool managed : {false, true}) {
+        SCOPED_TRACE(managed ? "with a window manager" : "without a window manager");
+        std::optional<Process> manager;
+        if (managed) {
+            manager.emplace(Arguments{"openbox"}, ProcessOptions{.folder = {}, .environment = {x.display()}});
+            ASSERT_TRUE(manager->reaches([this] {
+                return run({"xprop", "-display", x.name(), "-root", "_NET_SUPPORTING_WM_CHECK"}).out.find("0x") !=
+                       std::string::npos;
+            }));
+        }
+        start({"-cp", kSampleJar, "Sample"});
+        ASSERT_TRUE(program->reaches([&] { return x.shows("Vantrel sample"); })) << program->err();
+        for (int round = 0; round < 2; ++round) {
+            EXPECT_FALSE(x.shows(kWindow));
+            press_hot_key();
+            EXPECT_TRUE(shows_inspector());
+            press_hot_key();
+            EXPECT_TRUE(hides_inspector());
+        }
+        program->signal(SIGTERM);
+        EXPECT_EQ(program->wait(), 128 + SIGTERM);
+        EXPECT_EQ(program->out(), kAgentOut);
+        EXPECT_EQ(program->err(), kAgentErr);
+    }
+}
+
+TEST_P(Inspector, EveryPressIsACallOnOneDaemonThread) {
+    start_recorded("");
+    for (int press = 1; press <= 3; ++press) {
+        press_hot_key();
+        EXPECT_TRUE(says("call " + std::to_string(press)));
+    }
+    const std::regex calls(
+        "\ncall 1: null on vantrel-hotkey ([0-9]+), a daemon\n"
+        "call 2: null on vantrel-hotkey \\1, a daemon\n"
+        "call 3: null on vantrel-hotkey \\1, a daemon\n");
+    EXPECT_TRUE(std::regex_search(program->out(), calls)) << program->out();
+}
+
+TEST_P(Inspector, AFaultOfTheInspectorIsDescribedAndTheNextPressStartsClean) {
+    start_recorded("throw");
+    for (int press = 1; press <= 2; ++press) {
+        press_hot_key();
+        EXPECT_TRUE(complains("java.lang.IllegalStateException: fault " + std::to_string(press) + "\n"));
+        EXPECT_THAT(program->err(), HasSubstr("at com.vantrel.Vantrel.showVantrel(")) << "with its stack";
+    }
+    tell_to_end();
+    EXPECT_EQ(program->wait(), 3);
+}
+
+TEST_P(Inspector, AHeadlessVmSaysThatItHasNoWindow) {
+    start_ending("exit", {"-Djava.awt.headless=true"});
+    press_hot_key();
+    EXPECT_TRUE(complains("Vantrel has no window here: this Java VM is headless (java.awt.headless).\n"));
+    tell_to_end();
+    EXPECT_EQ(program->wait(), 3);
+}
+
+// All that the agent does at run time, under the VM's own checks.
+TEST_P(Inspector, TheNativesDoTheirWork) {
+    start({"-Xcheck:jni", "--add-exports", "java.desktop/sun.awt=ALL-UNNAMED", "-cp", kPrograms, "Natives"});
+    ASSERT_TRUE(says("ready, free\n")) << program->out() << program->err();
+    const std::string said = std::regex_replace(program->out(), std::regex("(WARNING|Warning|\tat |\t- ).*\n"), "");
+    EXPECT_THAT(said, HasSubstr("system -1\n"
+                                "beep [\a]\n"
+                                "OOOOOOOOOO..\n"
+                                "OttttttttO..\n"
+                                "OttttttttO..\n"
+                                "OttttttttO..\n"
+                                "OOOOOOOOOO..\n"
+                                "............\n"
+                                "............\n"
+                                "event thread of main, new threads: 0\n"
+                                "event thread of other posted by vantrel-context-thread\n"));
+
+    const fs::path picture = folder.path / "screen.png";
+    const auto colour_at = [&](const std::string& place) {
+        EXPECT_GT(x.take_picture(picture), 0);
+        return run({"convert", picture, "-crop", "1x1+" + place, "-depth", "8", "-format", "%[hex:u]", "info:"}).out;
+    };
+    // Outside the tint and inside it; blending on the screen's surface rounds otherwise than on an image of its own.
+    EXPECT_TRUE(program->reaches([&] { return colour_at("399+249") == "FC7E00"; })) << colour_at("399+249");
+    EXPECT_THAT(colour_at("350+225"), AnyOf("FED5AB", "FDD4AB"));
+    EXPECT_THAT(colour_at("300+200"), AnyOf("FC7E00", "FB7D00"));
+
+    for (const xcb_keysym_t control : {XK_Control_L, XK_Control_R}) {
+        for (const xcb_keysym_t other : {XK_Shift_L, XK_Alt_L, XK_Super_L, XK_F12}) {
+            keys.press({other});
+        }
+        const size_t before = program->out().size();
+        keys.down(control);
+        EXPECT_TRUE(program->reaches([&] { return program->out().substr(before) == "held\n"; }))
+            << program->out().substr(before);
+        keys.up(control);
+        EXPECT_TRUE(program->reaches([&] { return program->out().substr(before) == "held\nfree\n"; }))
+            << program->out().substr(before);
+    }
+
+    press_hot_key();
+    EXPECT_TRUE(shows_inspector());
+    press_hot_key();
+    EXPECT_TRUE(hides_inspector());
+    program->signal(SIGTERM);
+    EXPECT_EQ(program->wait(), 128 + SIGTERM);
+
+    // The AWT of some VMs has faults of its own. The agent's natives call Java several times in a row and leave what it
+    // throws to their caller: that is all that the VM has against them.
+    const std::set<std::string> others = jni_reports(
+        run({*find_jdk(GetParam()) / "bin" / "java", "-Xcheck:jni", "-cp", kPrograms, "Ending", "dispose", "at once"},
+            {.folder = {}, .environment = {x.display()}})
+            .out);
+    for (const std::string& report : jni_reports(program->out() + program->err())) {
+        if (!others.contains(report)) {
+            EXPECT_THAT(report, StartsWith("WARNING in native method: JNI call made without checking exceptions when "
+                                           "required to from Call"));
+        }
+    }
+}
+
+TEST_P(Inspector, NeverKeepsAProgramAlive) {
+    const struct {
+        const char* way;
+        int presses;
+    } cases[] = {{"dispose", 0}, {"dispose", 1}, {"dispose", 2}, {"return", 1}};
+    for (const auto& [way, presses] : cases) {
+        SCOPED_TRACE(std::string(way) + " " + std::to_string(presses));
+        start_ending(way);
+        for (int press = 1; press <= presses; ++press) {
+            press_hot_key();
+            EXPECT_TRUE(press % 2 == 1 ? shows_inspector() : hides_inspector());
+        }
+        tell_to_end();
+        EXPECT_EQ(program->wait(seconds(10)), 0);
+        EXPECT_EQ(program->err(), kAgentErr);
+        fs::remove(folder.path / "end");
+    }
+}
+
+TEST_P(Inspector, NeverKeepsAProgramFromEnding) {
+    for (const char* then : {"sleep", "spin"}) {
+        SCOPED_TRACE(then);
+        start_recorded(then);
+        press_hot_key();
+        EXPECT_TRUE(says("call 1: "));
+        tell_to_end();
+        EXPECT_EQ(program->wait(seconds(2)), 3);
+        for (const fs::path& entry : fs::directory_iterator(folder.path)) {
+            fs::remove(entry);
+        }
+    }
+}
+
+TEST_P(Inspector, ADisplayThatGoesAwayDoesNotEndAProgramWithoutWindows) {
+    auto display = std::make_unique<XServer>();
+    program.emplace(java_under_agent(GetParam(), {"-cp", kPrograms, "Ending", "exit"}),
+                    ProcessOptions{.folder = folder.path, .environment = {display->display()}});
+    ASSERT_TRUE(says("started\n"));
+    display.reset();
+    std::this_thread::sleep_for(seconds(1));
+    tell_to_end();
+    EXPECT_EQ(program->wait(), 3);
+    EXPECT_EQ(program->err(), kAgentErr);
+}
+
+// Some by themselves; some are ended while the hot key is pressed at any moment of their life.
+TEST_P(Inspector, StartsAndEndsTwoHundredTimes) {
+    constexpr int kCycles = 100;  // of each kind
+    struct Way {
+        const char* name;
+        int status;
+    };
+    const auto cycles = [this](const XServer& display, const std::vector<Way>& ways) {
+        for (size_t cycle = 0; cycle < kCycles; ++cycle) {
+            const Way& way = ways[cycle % ways.size()];
+            const Finished ended = run(java_under_agent(GetParam(), {"-cp", kPrograms, "Ending", way.name, "at once"}),
+                                       {.folder = folder.path, .environment = {display.display()}});
+            EXPECT_EQ(ended.status, way.status) << way.name << "\n" << ended.out << ended.err;
+            EXPECT_THAT(ended.out, HasSubstr("started\n"));
+        }
+    };
+    const XServer quiet;
+    auto by_themselves = std::async(std::launch::async, [&] {
+        cycles(quiet, {{"return", 0}, {"throw", 1}, {"dispose", 0}});
+    });
+    auto while_pressed = std::async(std::launch::async, [&] { cycles(x, {{"exit", 3}, {"event thread", 3}}); });
+    std::mt19937 random(1);
+    while (while_pressed.wait_for(std::chrono::milliseconds(random() % 50)) != std::future_status::ready) {
+        press_hot_key();
+    }
+    by_themselves.wait();
+    for (const auto& entry : fs::directory_iterator(folder.path)) {
+        ADD_FAILURE() << "left behind: " << entry.path().filename();
+    }
+}
+
+TEST(SecurityManager, DoesNotEndAnOldVm) {
+    constexpr int kLastReleaseWithOne = 17;
+    SKIP_WITHOUT_JDK(kLastReleaseWithOne);
+    const ScratchFolder folder;
+    std::ofstream(folder.path / "all.policy") << "grant { permission java.security.AllPermission; };\n";
+    const Finished program = run(
+        java_under_agent(kLastReleaseWithOne, {"-Djava.security.manager", "-Djava.security.policy=all.policy",
+                                               "-Djava.awt.headless=true", "-cp", kPrograms, "Ending", "exit", "now"}),
+        {.folder = folder.path, .environment = {"DISPLAY="}});
+    EXPECT_EQ(program.status, 3) << program.err;
+    EXPECT_THAT(program.out, EndsWith(kAgentOut + "started\n"));
+    EXPECT_THAT(program.err, Not(HasSubstr("Exception")));
+}
+
+}  // namespace

@@ -1,0 +1,239 @@
+// The agent from the VM's initialisation to its end, with the hot key's presses in between.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "all_proxies.h"
+#include "fake_vm.h"
+#include "vantrel-agent.h"
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::ExitedWithCode;
+using testing::IsEmpty;
+using testing::KilledBySignal;
+using testing::Not;
+using testing::StartsWith;
+
+namespace {
+
+struct Method {
+    const char* class_name;
+    const char* name;
+    const char* descriptor;
+    jmethodID* variable;
+};
+const Method kMethods[] = {
+#define PROXY(...)
+#define PROXY_FIELD(...)
+#define PROXY_WRAPPER(C, CLASS, KIND, NAME, DESCRIPTOR, VARIABLE, ...) {CLASS, NAME, DESCRIPTOR, &NS##C::VARIABLE},
+#define PROXY_UNWRAPPED(C, CLASS, KIND, NAME, DESCRIPTOR, VARIABLE) {CLASS, NAME, DESCRIPTOR, &NS##C::VARIABLE},
+#include "members.inc"
+#undef PROXY
+#undef PROXY_FIELD
+#undef PROXY_WRAPPER
+#undef PROXY_UNWRAPPED
+};
+
+// A VM that has everything the proxies look for, and proxies that have not looked yet.
+struct VmLifecycle : testing::Test {
+    void SetUp() override {
+        setenv("DISPLAY", "", 1);
+        vm.add_property("java.home", "/jdk");
+        const jobject result = vm.add_object("result");
+#define PROXY(C, CLASS)  \
+    vm.add_class(CLASS); \
+    NS##C::_c_Class = nullptr;
+#define PROXY_FIELD(C, CLASS, KIND, NAME, DESCRIPTOR) vm.add_field(vm.classes.at(CLASS), #NAME, DESCRIPTOR);
+#define PROXY_WRAPPER(...)
+#define PROXY_UNWRAPPED(...)
+#include "members.inc"
+#undef PROXY
+#undef PROXY_FIELD
+#undef PROXY_WRAPPER
+#undef PROXY_UNWRAPPED
+        for (const Method& method : kMethods) {
+            vm.add_method(vm.classes.at(method.class_name), method.name, method.descriptor, result);
+            *method.variable = nullptr;
+        }
+        gb_data.jvm = vm.java_vm;
+        gb_data.jvmti = vm.jvmti;
+        vm.jvmti->CreateRawMonitor("agent data", &gb_data.lock);
+        vm.calls.clear();
+    }
+    void TearDown() override {
+        gb_data = before;
+    }
+
+    FakeMember& method(const std::string& class_name, const std::string& name) {
+        for (FakeMember& member : vm.members) {
+            if (member.owner == vm.classes.at(class_name) && member.name == name) {
+                return member;
+            }
+        }
+        throw std::invalid_argument(name);
+    }
+
+    void initialise() {
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        cbVMInit(vm.jvmti, vm.jni, nullptr);
+        out = testing::internal::GetCapturedStdout();
+        err = testing::internal::GetCapturedStderr();
+    }
+
+    // The calls so far, but for the look-ups.
+    std::vector<std::string> telling_calls() const {
+        std::vector<std::string> telling;
+        for (const std::string& call : vm.calls) {
+            const std::string function = call.substr(0, call.find(' '));
+            if (function != "FindClass" && !function.ends_with("ID")) {
+                telling.push_back(call);
+            }
+        }
+        return telling;
+    }
+
+    const std::string set_security_manager =
+        "CallStaticObjectMethodV global java/lang/System "
+        "java/lang/System.setSecurityManager:(Ljava/lang/SecurityManager;)V null";
+    const std::string show_vantrel =
+        "CallStaticVoidMethodV global com/vantrel/Vantrel "
+        "com/vantrel/Vantrel.showVantrel:(Ljava/awt/Component;)V null";
+
+    FakeVm vm;
+    const AgentData before = gb_data;
+    std::string out;
+    std::string err;
+};
+
+TEST_F(VmLifecycle, InitialisationFillsTheProxiesInOrderUnderTheMonitor) {
+    method("java/lang/System", "setSecurityManager").thrown = vm.add_object("a refusal");
+    vm.fail("SetFieldModificationWatch", 1, JVMTI_ERROR_MUST_POSSESS_CAPABILITY);
+    initialise();
+    EXPECT_EQ(out,
+              "Vantrel Initializing.\n"
+              "Pressing \u2318+F12 to toggle the Vantrel window visible.\n");
+    EXPECT_EQ(err,
+              "vantrel-agent: on this platform the hot key is Control+F12.\n"
+              "vantrel-agent: no hot key: DISPLAY is not set.\n");
+    EXPECT_EQ(vm.pending, nullptr);
+    EXPECT_THAT(
+        telling_calls(),
+        ElementsAre("RawMonitorEnter monitor agent data", "NewGlobalRef java/lang/Object",
+                    "NewGlobalRef java/awt/Color", "NewGlobalRef sun/awt/AppContext", "NewGlobalRef java/awt/AWTEvent",
+                    "NewGlobalRef java/awt/Component", "NewGlobalRef java/awt/AlphaComposite",
+                    "NewGlobalRef java/awt/Toolkit", "NewGlobalRef java/awt/Graphics2D",
+                    "NewGlobalRef java/lang/System", "NewGlobalRef javax/swing/SwingUtilities",
+                    "NewGlobalRef com/vantrel/SwingContext",
+                    "RegisterNatives global com/vantrel/SwingContext "
+                    "safeRun1:(Ljava/awt/Component;Ljava/lang/Runnable;)V",
+                    "NewGlobalRef java/lang/Thread", "NewGlobalRef com/vantrel/EDTRunnable",
+                    "RegisterNatives com/vantrel/Vantrel "
+                    "highlight:(Ljava/awt/Component;Ljava/awt/Graphics2D;)V beep:()V getOSVersion:()I canHighlight:()Z",
+                    "NewGlobalRef com/vantrel/Vantrel",
+                    "CallStaticObjectMethodV global com/vantrel/Vantrel "
+                    "com/vantrel/Vantrel.getInstance:()Lcom/vantrel/Vantrel;",
+                    "NewGlobalRef result", "NewObjectV global java/awt/Color java/awt/Color.<init>:(I)V 16547328",
+                    "NewGlobalRef result", "NewGlobalRef javax/swing/JComponent",
+                    "NewGlobalRef com/vantrel/stacktrace/StackTraceManager", "NewGlobalRef com/vantrel/VantrelFrame",
+                    "RegisterNatives global com/vantrel/VantrelFrame setOpacity:(I)V", "GetSystemProperty java.home",
+                    "SetFieldModificationWatch global java/awt/Component "
+                    "java/awt/Component.parent:Ljava/awt/Container;",
+                    set_security_manager, "ExceptionClear", "RawMonitorExit monitor agent data"));
+
+    // A second event is tolerated: every class is there already.
+    vm.calls.clear();
+    initialise();
+    EXPECT_THAT(telling_calls(), Not(Contains(StartsWith("NewGlobalRef java/"))));
+}
+
+TEST_F(VmLifecycle, TheResultIsWhatTheVmSaysToTheWatch) {
+    vm.fail("SetFieldModificationWatch", 1, JVMTI_ERROR_MUST_POSSESS_CAPABILITY);
+    EXPECT_EQ(InitCacheJavaObjects(vm.jvmti, vm.jni), JVMTI_ERROR_MUST_POSSESS_CAPABILITY);
+}
+
+TEST_F(VmLifecycle, AFailingMonitorEndsTheProcess) {
+    const std::string message = "ERROR: JVMTI: 113\\(error name 113\\): Cannot enter with raw monitor\n$";
+    for (const char* function : {"RawMonitorEnter", "RawMonitorExit"}) {
+        EXPECT_EXIT(
+            {
+                vm.fail(function);
+                cbVMInit(vm.jvmti, vm.jni, nullptr);
+            },
+            ExitedWithCode(3), message);
+    }
+}
+
+TEST_F(VmLifecycle, APressLiftsTheSecurityManagerAndShowsTheInspector) {
+    initialise();
+    method("java/lang/System", "setSecurityManager").thrown = vm.add_object("a refusal");
+    jobject pending = vm.add_object("not looked at yet");
+    method("com/vantrel/Vantrel", "showVantrel").body = [&] { pending = vm.pending; };
+    for (int press = 0; press < 2; ++press) {
+        vm.calls.clear();
+        vm.pending = nullptr;
+        keyCallback();
+        EXPECT_THAT(vm.calls, ElementsAre("AttachCurrentThread null", set_security_manager, "ExceptionClear",
+                                          show_vantrel, "ExceptionCheck", "ExceptionClear"));
+        EXPECT_EQ(pending, nullptr) << "the refusal is cleared before Java is called again";
+    }
+}
+
+TEST_F(VmLifecycle, WhatTheInspectorThrowsIsDescribedAndCleared) {
+    initialise();
+    method("com/vantrel/Vantrel", "showVantrel").thrown = vm.add_object("a fault");
+    testing::internal::CaptureStderr();
+    keyCallback();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "described: a fault\n");
+    EXPECT_EQ(vm.pending, nullptr);
+}
+
+TEST_F(VmLifecycle, APressAfterTheVmHasEndedDoesNothing) {
+    vm.fail("AttachCurrentThread");
+    keyCallback();
+    EXPECT_THAT(vm.calls, ElementsAre("AttachCurrentThread null"));
+}
+
+TEST_F(VmLifecycle, UnloadWithoutAnEnvironmentIsAnAssertion) {
+    EXPECT_EXIT(
+        {
+            vm.fail("AttachCurrentThread");
+            Agent_OnUnload(vm.java_vm);
+        },
+        KilledBySignal(SIGABRT), "vantrel-agent\\.cpp:[0-9]+: .*Agent_OnUnload.*Assertion `jni_env!= NULL' failed");
+}
+
+// Last, for the agent stays unloaded.
+TEST_F(VmLifecycle, UnloadGivesTheProxiesBackInOrder) {
+    initialise();
+    vm.calls.clear();
+    method("com/vantrel/Vantrel", "showVantrel").body = [this] { Agent_OnUnload(vm.java_vm); };
+    keyCallback();
+    EXPECT_THAT(vm.calls, Not(Contains(StartsWith("Delete")))) << "the press still uses them";
+
+    vm.calls.clear();
+    keyCallback();
+    EXPECT_THAT(vm.calls, IsEmpty()) << "no press begins after the unload";
+
+    Agent_OnUnload(vm.java_vm);
+    EXPECT_THAT(
+        vm.calls,
+        ElementsAre("AttachCurrentThread null", "UnregisterNatives global com/vantrel/Vantrel",
+                    "DeleteGlobalRef global com/vantrel/Vantrel", "DeleteGlobalRef global result",
+                    "DeleteGlobalRef global result", "DeleteGlobalRef global java/awt/Graphics2D",
+                    "DeleteGlobalRef global java/lang/System", "DeleteGlobalRef global javax/swing/SwingUtilities",
+                    "DeleteGlobalRef global com/vantrel/SwingContext", "DeleteGlobalRef global java/lang/Thread",
+                    "DeleteGlobalRef global com/vantrel/EDTRunnable", "DeleteGlobalRef global sun/awt/AppContext",
+                    "DeleteGlobalRef global java/awt/AlphaComposite", "DeleteGlobalRef global java/awt/Color",
+                    "DeleteGlobalRef global java/awt/Component", "DeleteGlobalRef global java/awt/AWTEvent",
+                    "DeleteGlobalRef global java/lang/Object", "DeleteGlobalRef global javax/swing/JComponent",
+                    "DeleteGlobalRef global com/vantrel/stacktrace/StackTraceManager",
+                    "DeleteGlobalRef global com/vantrel/VantrelFrame"));
+}
+
+}  // namespace
