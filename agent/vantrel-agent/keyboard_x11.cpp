@@ -78,7 +78,7 @@ std::vector<Combination> hot_key_combinations(xcb_connection_t* connection) {
         return {};
     }
     // What a key makes when it is pressed alone.
-    const auto keysym_of = [&](int key) {
+    const auto keysym_of = [&](size_t key) {
         return xcb_get_keyboard_mapping_keysyms(keyboard.get())[(key - first) * keyboard->keysyms_per_keycode];
     };
 
@@ -92,7 +92,7 @@ std::vector<Combination> hot_key_combinations(xcb_connection_t* connection) {
     }
 
     std::vector<Combination> combinations;
-    for (int key = first; key <= last; ++key) {
+    for (unsigned key = first; key <= last; ++key) {
         if (keysym_of(key) != XK_F12) {
             continue;
         }
@@ -282,7 +282,7 @@ bool start_hot_key_thread(Binding binding) {
     const bool started = pthread_create(&thread, NULL, hot_key_thread_main, argument.get()) == 0;
     pthread_sigmask(SIG_SETMASK, &before, NULL);
     if (started) {
-        argument.release();
+        (void)argument.release();  // the thread's now
         pthread_detach(thread);
     }
     return started;

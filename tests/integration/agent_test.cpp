@@ -15,7 +15,6 @@
 #include "x_server.h"
 
 namespace fs = std::filesystem;
-using testing::AnyOf;
 using testing::ContainsRegex;
 using testing::ElementsAre;
 using testing::HasSubstr;

@@ -261,7 +261,7 @@ TEST_P(Inspector, StartsAndEndsTwoHundredTimes) {
         cycles(quiet, {{"return", 0}, {"throw", 1}, {"dispose", 0}});
     });
     auto while_pressed = std::async(std::launch::async, [&] { cycles(x, {{"exit", 3}, {"event thread", 3}}); });
-    std::mt19937 random(1);
+    std::mt19937 random(std::random_device{}());
     while (while_pressed.wait_for(std::chrono::milliseconds(random() % 50)) != std::future_status::ready) {
         press_hot_key();
     }

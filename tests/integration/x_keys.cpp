@@ -36,7 +36,7 @@ xcb_keycode_t XKeys::key_of(xcb_keysym_t keysym) const {
     const auto map =
         owned(xcb_get_keyboard_mapping_reply(x, xcb_get_keyboard_mapping(x, setup->min_keycode, count), nullptr));
     const xcb_keysym_t* keysyms = xcb_get_keyboard_mapping_keysyms(map.get());
-    for (int key = 0; key < count; ++key) {
+    for (size_t key = 0; key < count; ++key) {
         if (keysyms[key * map->keysyms_per_keycode] == keysym) {
             return static_cast<xcb_keycode_t>(setup->min_keycode + key);
         }
