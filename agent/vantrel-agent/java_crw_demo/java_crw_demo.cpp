@@ -1,0 +1,1 @@
+#include "java_crw_demo.h"
