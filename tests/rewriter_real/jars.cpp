@@ -1,0 +1,39 @@
+#include "jars.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const fs::path kFolder = "/usr/share/java";
+
+}  // namespace
+
+fs::path installed_jar(const std::string& name) {
+    const fs::path file = kFolder / name;
+    EXPECT_TRUE(fs::exists(file)) << file << " is missing; scripts/setup installs it";
+    return file;
+}
+
+std::vector<fs::path> usual_jars() {
+    std::vector<fs::path> jars;
+    for (const char* name : {"ant.jar", "commons-collections4.jar", "commons-lang3.jar", "groovy.jar", "guava.jar",
+                             "jython.jar", "batik-all.jar", "xalan2.jar", "xercesImpl.jar"}) {
+        jars.push_back(installed_jar(name));
+    }
+    return jars;
+}
+
+std::vector<fs::path> all_jars() {
+    std::vector<fs::path> jars;
+    for (const fs::directory_entry& entry : fs::directory_iterator(kFolder)) {
+        if (entry.path().extension() == ".jar" && !entry.is_symlink()) {
+            jars.push_back(entry.path());
+        }
+    }
+    std::sort(jars.begin(), jars.end());
+    return jars;
+}

@@ -1,0 +1,64 @@
+// Real classes, linked with full verification as they are and rewritten.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "jars.h"
+#include "java_vm.h"
+#include "process.h"
+#include "programs.h"
+
+using testing::ContainsRegex;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+class Linking : public testing::TestWithParam<int> {};
+INSTANTIATE_TEST_SUITE_P(OnJdk, Linking, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
+
+Finished link_side_by_side(int release, const Arguments& arguments) {
+    return run_long(verifying_java(release) +
+                    Arguments{"-Xmx1g", "-cp", kTestFolder / "rewriter-linking.jar", "linking.SideBySide", "--library",
+                              VANTREL_REWRITE_CLASSES} +
+                    arguments);
+}
+
+TEST_P(Linking, NoUsualClassFailsThatDidNotFailBefore) {
+    SKIP_WITHOUT_JDK(GetParam());
+    Arguments arguments{"--strict", "--every", "3"};
+    for (const std::filesystem::path& jar : usual_jars()) {
+        arguments.push_back(jar);
+    }
+    const Finished linking = link_side_by_side(GetParam(), arguments);
+    EXPECT_EQ(linking.status, 0) << linking.out << linking.err;
+    // Of all kinds that there are, and most of them can be linked at all.
+    for (const char* version : {"47", "49", "50", "51", "52"}) {
+        EXPECT_THAT(linking.out, ContainsRegex(std::string("version ") + version + ": [0-9]{2,}"));
+    }
+    EXPECT_THAT(linking.out, ContainsRegex("\nlinked as they are: [0-9]{4}"));
+    std::cout << linking.out;
+}
+
+// That what is linked is verified, that it is not run, and that a failure is told of.
+TEST_P(Linking, TellsOfAClassThatOnlyFailsRewritten) {
+    SKIP_WITHOUT_JDK(GetParam());
+    const std::string programs = kTestFolder / "rewriter-programs.jar";
+    const Finished whole = link_side_by_side(GetParam(), {programs});
+    EXPECT_EQ(whole.status, 0) << whole.out << whole.err;
+    EXPECT_THAT(whole.out, HasSubstr("ALL_SMALL linked: "));
+
+    // sipush 12345, istore_1 becomes sipush 12345, astore_1.
+    const Finished damaged = link_side_by_side(GetParam(), {"--damage", "1130393c", "1130394c", programs});
+    EXPECT_EQ(damaged.status, 1) << damaged.out << damaged.err;
+    for (const char* combination :
+         {"ALL_SMALL", "ALL_LARGE", "ALL_IN_SYSTEM_CLASS", "CALL", "RETURN", "NEW_ARRAY", "NOTHING"}) {
+        EXPECT_THAT(damaged.out, HasSubstr(std::string(combination) + " failed: 1\n"));
+        EXPECT_THAT(damaged.out, HasSubstr(std::string("failure: ") + combination +
+                                           ": Damageable: java.lang.VerifyError: Bad type on operand stack"));
+    }
+    EXPECT_THAT(whole.out + damaged.out, Not(HasSubstr("initialised")));
+}
+
+}  // namespace
