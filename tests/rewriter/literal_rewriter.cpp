@@ -597,6 +597,10 @@ void skip_padding(MethodState& mi, std::int32_t pc) {
     skip(mi.ci, switch_operands(pc) - (pc + 1));
 }
 
+void require_inside_code(const MethodState& mi) {
+    crw_assert(mi.ci, input_code_offset(mi) <= mi.code_len, "pos <= mi->code_len");
+}
+
 void skip_switch(MethodState& mi, std::int32_t pc, std::uint32_t opcode) {
     ClassState& ci = mi.ci;
     skip_padding(mi, pc);
@@ -604,12 +608,14 @@ void skip_switch(MethodState& mi, std::int32_t pc, std::uint32_t opcode) {
     if (opcode == opc_tableswitch) {
         const std::int64_t low = read_s4(ci);
         const std::int64_t high = read_s4(ci);
+        require_inside_code(mi);
         if (high < low) {
             out_of_bounds(ci);
         }
         skip(ci, (high - low + 1) * 4);
     } else {
         const std::int64_t npairs = read_s4(ci);
+        require_inside_code(mi);
         if (npairs < 0) {
             out_of_bounds(ci);
         }
@@ -617,14 +623,19 @@ void skip_switch(MethodState& mi, std::int32_t pc, std::uint32_t opcode) {
     }
 }
 
+void skip_wide(MethodState& mi) {
+    const std::uint32_t modified = read_u1(mi.ci);
+    require_inside_code(mi);
+    skip(mi.ci, wide_operand_length(modified));
+}
+
 void plan_instruction(MethodState& mi) {
     ClassState& ci = mi.ci;
     const std::int32_t pc = input_code_offset(mi);
     const std::uint32_t opcode = read_u1(ci);
     if (opcode == opc_wide) {
-        const std::uint32_t modified = read_u1(ci);
-        skip(ci, wide_operand_length(modified));
-        crw_assert(ci, input_code_offset(mi) <= mi.code_len, "pos <= mi->code_len");
+        skip_wide(mi);
+        require_inside_code(mi);
         return;
     }
 
@@ -641,7 +652,7 @@ void plan_instruction(MethodState& mi) {
         skip(ci, opcode_length(opcode) - 1);
     }
     const std::int32_t pc_next = input_code_offset(mi);
-    crw_assert(ci, pc_next <= mi.code_len, "pos <= mi->code_len");
+    require_inside_code(mi);
     if (!return_injection.empty()) {
         adjust_map(mi, pc_next, static_cast<std::int32_t>(return_injection.size()));
     }
@@ -686,8 +697,7 @@ bool adjust_instruction(MethodState& mi) {
         return false;
     }
     if (opcode == opc_wide) {
-        const std::uint32_t modified = read_u1(ci);
-        skip(ci, wide_operand_length(modified));
+        skip_wide(mi);
         return true;
     }
     skip(ci, opcode_length(opcode) - 1);
@@ -785,30 +795,46 @@ void write_instruction(MethodState& mi, std::int64_t start_of_output_bytecodes) 
 
 // The tables of the Code attribute.
 
+// An attribute must not be longer than what is left of the image.
+std::uint32_t copy_attribute_length(ClassState& ci) {
+    const std::uint32_t attr_len = copy_u4(ci);
+    if (attr_len > ci.input_len - ci.input_position) {
+        out_of_bounds(ci);
+    }
+    return attr_len;
+}
+
 void begin_attribute(ClassState& ci, std::uint32_t attr_len) {
-    ci.attribute_end = std::min(ci.input_len, ci.input_position + attr_len);
+    ci.attribute_end = ci.input_position + attr_len;
 }
 
 void end_attribute(ClassState& ci) {
     ci.attribute_end = ci.input_len;
 }
 
+// The number of entries of a table, which must fit into its attribute.
+std::uint32_t copy_table_length(ClassState& ci, std::uint32_t entry_size) {
+    const std::uint32_t attr_len = copy_attribute_length(ci);
+    const std::uint32_t count = copy_u2(ci);
+    if (2 + count * entry_size > attr_len) {
+        out_of_bounds(ci);
+    }
+    return count;
+}
+
 void write_line_table(MethodState& mi) {
     ClassState& ci = mi.ci;
-    begin_attribute(ci, copy_u4(ci));
-    const std::uint32_t count = copy_u2(ci);
+    const std::uint32_t count = copy_table_length(ci, 4);
     for (std::uint32_t i = 0; i < count; i++) {
         const std::uint32_t start_pc = read_u2(ci);
         write_u2(ci, start_pc == 0 ? 0 : static_cast<std::uint32_t>(method_code_map(mi, start_pc)));
         copy_u2(ci);
     }
-    end_attribute(ci);
 }
 
 void write_var_table(MethodState& mi) {
     ClassState& ci = mi.ci;
-    begin_attribute(ci, copy_u4(ci));
-    const std::uint32_t count = copy_u2(ci);
+    const std::uint32_t count = copy_table_length(ci, 10);
     for (std::uint32_t i = 0; i < count; i++) {
         const std::uint32_t start_pc = read_u2(ci);
         const std::uint32_t length = read_u2(ci);
@@ -820,7 +846,6 @@ void write_var_table(MethodState& mi) {
         copy_u2(ci);
         copy_u2(ci);
     }
-    end_attribute(ci);
 }
 
 void copy_verification_types(MethodState& mi, std::uint32_t count) {
@@ -849,7 +874,7 @@ void patch_stack_map_length(ClassState& ci, std::int64_t position, std::uint32_t
 void write_stackmap_table(MethodState& mi) {
     ClassState& ci = mi.ci;
     const std::int64_t length_position = ci.output_position;
-    const std::uint32_t attr_len = copy_u4(ci);
+    const std::uint32_t attr_len = copy_attribute_length(ci);
     begin_attribute(ci, attr_len);
     const std::uint32_t count = copy_u2(ci);
     if (count == 0) {
@@ -921,7 +946,7 @@ void write_stackmap_table(MethodState& mi) {
 void write_cldc_stackmap(MethodState& mi) {
     ClassState& ci = mi.ci;
     const std::int64_t length_position = ci.output_position;
-    const std::uint32_t attr_len = copy_u4(ci);
+    const std::uint32_t attr_len = copy_attribute_length(ci);
     begin_attribute(ci, attr_len);
     const std::uint32_t count = copy_u2(ci);
     if (count == 0) {
@@ -1000,7 +1025,7 @@ bool is_left_alone(const ClassState& ci, const std::string& name, std::int32_t c
 
 void method_write_bytecodes(ClassState& ci, std::uint32_t number) {
     const std::int64_t length_position = ci.output_position;
-    const std::uint32_t attr_len = copy_u4(ci);
+    const std::uint32_t attr_len = copy_attribute_length(ci);
     const std::int64_t max_stack_position = ci.output_position;
     const std::uint32_t max_stack = copy_u2(ci);
     copy_u2(ci);  // max_locals

@@ -176,14 +176,16 @@ std::size_t near_target(Random& random, const Draft& draft, std::size_t pc) {
 // A target that will be about as far from the instruction as a 16-bit offset leads, within `reach`.
 std::size_t far_target(Random& random, const Draft& draft, const Instruction& from, std::size_t reach) {
     const std::size_t distance = far_limit + reach / 8 - random.below(reach);
-    const bool forwards = from.planned < distance || random.one_in(2);
     const auto& instructions = draft.instructions;
-    const std::size_t planned = forwards ? from.planned + distance : from.planned - distance;
-    const auto found = std::ranges::lower_bound(instructions, planned, {}, &Instruction::planned);
-    if (found == instructions.end() || !fits(from.pc, found->pc)) {
+    const bool room_ahead = from.planned + distance <= instructions.back().planned;
+    const bool room_behind = from.planned >= distance;
+    if (!room_ahead && !room_behind) {
         return near_target(random, draft, from.pc);
     }
-    return found->pc;
+    const bool forwards = room_ahead && (!room_behind || random.one_in(2));
+    const std::size_t planned = forwards ? from.planned + distance : from.planned - distance;
+    const std::size_t target = std::ranges::lower_bound(instructions, planned, {}, &Instruction::planned)->pc;
+    return fits(from.pc, target) ? target : near_target(random, draft, from.pc);
 }
 
 void overwrite(Bytes& bytes, std::size_t at, const Bytes& with) {
@@ -363,17 +365,18 @@ Code far_code(Random& random, bool switches) {
     dense.switches = switches ? random.between(5, 120) : 0;
     dense.long_filler = random.one_in(2);
 
-    // Branches stand in clusters of about `cluster` bytes, where a branch of the full distance has room.
-    const std::size_t room = wanted > far_limit ? wanted - far_limit : wanted / 3;
-    const std::size_t cluster = random.between(300, 1500);
-    std::size_t next_cluster = random.below(std::min<std::size_t>(room, 2000));
+    // Branches stand in clusters, most of them where a branch of the full distance has room.
     Draft draft;
+    std::size_t cluster_end = 0;
+    std::size_t next_cluster = random.below(1000);
     while (draft.bytes.size() < wanted) {
         const std::size_t pc = draft.bytes.size();
-        add_random(random, draft, pc >= next_cluster && pc < next_cluster + cluster ? dense : quiet);
-        if (pc >= next_cluster + cluster) {
-            next_cluster = pc + random.between(2000, 16000);
+        if (pc >= next_cluster) {
+            const bool has_room = grows || pc + far_limit < wanted || pc > far_limit;
+            cluster_end = pc + random.between(300, 2500);
+            next_cluster = cluster_end + (has_room ? random.below(2000) : random.between(3000, 9000));
         }
+        add_random(random, draft, pc < cluster_end ? dense : quiet);
     }
     return finish(random, draft, reach);
 }
