@@ -1068,12 +1068,15 @@ void method_write_bytecodes(ClassState& ci, std::uint32_t number) {
 
     inject_at_entry(mi);
     rewind_to_code(mi);
+    Layout layout;
     while (input_code_offset(mi) < code_len) {
+        layout.instructions.push_back(input_code_offset(mi));
         plan_instruction(mi);
     }
     const auto code =
         ci.input.subspan(static_cast<std::size_t>(mi.start_of_input_bytecodes), static_cast<std::size_t>(code_len));
-    Layout layout{.code = {code.begin(), code.end()}, .planned_map = mi.map, .widening = {}};
+    layout.code.assign(code.begin(), code.end());
+    layout.planned_map = mi.map;
 
     rewind_to_code(mi);
     while (input_code_offset(mi) < code_len) {

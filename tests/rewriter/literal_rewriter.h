@@ -27,9 +27,10 @@ struct Options {
 
 // How an instrumented method was laid out, for tests that ask how its branches came to be widened.
 struct Layout {
-    std::vector<std::uint8_t> code;         // as it was
-    std::vector<std::int32_t> planned_map;  // old pc to new pc before any branch was relocated
-    std::vector<std::int8_t> widening;      // by old pc, when nothing changed any more
+    std::vector<std::uint8_t> code;          // as it was
+    std::vector<std::int32_t> instructions;  // the old pcs at which they start
+    std::vector<std::int32_t> planned_map;   // old pc to new pc before any branch was relocated
+    std::vector<std::int8_t> widening;       // by old pc, when nothing changed any more
 };
 
 struct Result {

@@ -5,14 +5,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <functional>
-#include <iostream>
 #include <map>
 #include <memory>
-#include <set>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -25,6 +25,7 @@
 namespace {
 
 using class_builder::Bytes;
+namespace op = class_builder::op;
 using literal_rewriter::Layout;
 using literal_rewriter::Options;
 using random_classes::Random;
@@ -101,23 +102,74 @@ struct QuietOutput {
 struct Tally {
     std::size_t methods = 0;
     std::size_t images = 0;
-    std::size_t widened = 0;   // branches
-    std::size_t repadded = 0;  // switches
+    std::size_t widened = 0;      // branches
+    std::size_t repadded = 0;     // switches
+    std::size_t not_minimal = 0;  // methods in which another set of branches would have done
     std::map<std::string, std::size_t> failures;
     std::string problem;  // the first disagreement, which ends the comparison
 };
 
-bool is_switch(const Layout& layout, std::size_t pc) {
-    return layout.code[pc] == class_builder::op::tableswitch || layout.code[pc] == class_builder::op::lookupswitch;
+bool is_switch(unsigned opcode) {
+    return opcode == op::tableswitch || opcode == op::lookupswitch;
+}
+
+bool is_two_byte_branch(unsigned opcode) {
+    return (opcode >= op::ifeq && opcode <= op::jsr) || opcode == op::ifnull || opcode == op::ifnonnull;
+}
+
+// The map with every instruction's widening in it. Switches get the padding that is right where they then are.
+std::vector<std::int32_t> settle(const Layout& layout, std::vector<std::int8_t>& widening) {
+    std::vector<std::int32_t> map = layout.planned_map;
+    std::int32_t shift = 0;
+    for (std::size_t i = 0; i < layout.instructions.size(); i++) {
+        const auto pc = static_cast<std::size_t>(layout.instructions[i]);
+        const std::size_t end = i + 1 < layout.instructions.size()
+                                    ? static_cast<std::size_t>(layout.instructions[i + 1])
+                                    : layout.code.size();
+        std::for_each(map.begin() + static_cast<std::ptrdiff_t>(pc), map.begin() + static_cast<std::ptrdiff_t>(end),
+                      [shift](std::int32_t& new_pc) { new_pc += shift; });
+        if (is_switch(layout.code[pc])) {
+            const auto old_padding = static_cast<std::int32_t>(3 - pc % 4);
+            widening[pc] = static_cast<std::int8_t>(3 - map[pc] % 4 - old_padding);
+        }
+        shift += widening[pc];
+    }
+    map.back() += shift;
+    return map;
+}
+
+// Widens what has to be widened and nothing else: in rounds, each on a map in which everything is where it would be.
+// What the rewriter does is something else: it looks at branches while the paddings behind them are still wrong.
+std::vector<std::int8_t> minimal_widening(const Layout& layout) {
+    std::vector<std::int8_t> widening(layout.planned_map.size());
+    for (bool changed = true; changed;) {
+        changed = false;
+        const std::vector<std::int32_t> map = settle(layout, widening);
+        for (const std::int32_t pc : layout.instructions) {
+            const auto at = static_cast<std::size_t>(pc);
+            const unsigned opcode = layout.code[at];
+            if (!is_two_byte_branch(opcode) || widening[at] != 0) {
+                continue;
+            }
+            const auto offset = static_cast<std::int16_t>(layout.code[at + 1] << 8 | layout.code[at + 2]);
+            const std::int32_t new_offset = map[static_cast<std::size_t>(pc + offset)] - map[at];
+            if (new_offset < -32768 || new_offset > 32767) {
+                widening[at] = opcode == op::goto_ || opcode == op::jsr ? 2 : 5;
+                changed = true;
+            }
+        }
+    }
+    return widening;
 }
 
 void count(Tally& tally, const std::vector<Layout>& layouts) {
     for (const Layout& layout : layouts) {
         for (std::size_t pc = 0; pc < layout.code.size(); pc++) {
             if (layout.widening[pc] != 0) {
-                (is_switch(layout, pc) ? tally.repadded : tally.widened)++;
+                (is_switch(layout.code[pc]) ? tally.repadded : tally.widened)++;
             }
         }
+        tally.not_minimal += minimal_widening(layout) != layout.widening ? 1 : 0;
     }
 }
 
@@ -150,13 +202,7 @@ void tell(const Tally& tally) {
     testing::Test::RecordProperty("images", static_cast<int>(tally.images));
     testing::Test::RecordProperty("widened", static_cast<int>(tally.widened));
     testing::Test::RecordProperty("repadded", static_cast<int>(tally.repadded));
-    if (std::getenv("SHOW") != nullptr) {
-        std::cerr << tally.methods << " methods, " << tally.images << " images, " << tally.widened << " widened, "
-                  << tally.repadded << " repadded\n";
-        for (const auto& [text, n] : tally.failures) {
-            std::cerr << n << " " << text << "\n";
-        }
-    }
+    testing::Test::RecordProperty("not minimal", static_cast<int>(tally.not_minimal));
 }
 
 TEST(Oracle, AgreesOnSmallMethods) {
@@ -169,19 +215,21 @@ TEST(Oracle, AgreesOnSmallMethods) {
 
 TEST(Oracle, AgreesOnFarBranches) {
     const Tally tally =
-        compare(2'000'000, 150, [](std::uint64_t seed) { return random_classes::far_branches(seed, false); });
+        compare(2'000'000, 200, [](std::uint64_t seed) { return random_classes::far_branches(seed, false); });
     tell(tally);
-    EXPECT_GT(tally.images, 75);
+    EXPECT_GT(tally.images, 150);
     EXPECT_GT(tally.widened, 10'000);
+    EXPECT_EQ(tally.not_minimal, 0) << "without paddings there is but one set of branches that have to be widened";
 }
 
 TEST(Oracle, AgreesOnFarBranchesBetweenSwitches) {
     const Tally tally =
-        compare(3'000'000, 150, [](std::uint64_t seed) { return random_classes::far_branches(seed, true); });
+        compare(3'000'000, 200, [](std::uint64_t seed) { return random_classes::far_branches(seed, true); });
     tell(tally);
-    EXPECT_GT(tally.images, 75);
+    EXPECT_GT(tally.images, 150);
     EXPECT_GT(tally.widened, 10'000);
     EXPECT_GT(tally.repadded, 1000);
+    EXPECT_GT(tally.not_minimal, 10) << "methods that tell the order of the scan";
 }
 
 // Changes, removes or doubles some bytes.
