@@ -38,7 +38,7 @@ JNIEXPORT jbyteArray JNICALL Java_linking_Rewriter_rewrite(JNIEnv* env, jclass /
                                                                    .system_class = system == JNI_TRUE,
                                                                    .name = text != nullptr ? kept.c_str() : nullptr,
                                                                    .method_names = {}});
-        const jsize length = static_cast<jsize>(image.size());
+        const auto length = static_cast<jsize>(image.size());
         jbyteArray array = env->NewByteArray(length);
         if (array != nullptr) {
             env->SetByteArrayRegion(array, 0, length, reinterpret_cast<const jbyte*>(image.data()));
@@ -66,7 +66,8 @@ JNIEXPORT jboolean JNICALL Java_linking_Rewriter_isLinked(JNIEnv* env, jclass /*
     jint status = 0;
     if (env->GetJavaVM(&vm) != JNI_OK || vm->GetEnv(reinterpret_cast<void**>(&jvmti), JVMTI_VERSION_1_2) != JNI_OK ||
         jvmti->GetClassStatus(asked, &status) != JVMTI_ERROR_NONE) {
-        env->FatalError("no class status");
+        env->FatalError("no class status");  // does not return
+        return JNI_FALSE;
     }
     jvmti->DisposeEnvironment();
     constexpr jint kLinked = JVMTI_CLASS_STATUS_VERIFIED | JVMTI_CLASS_STATUS_PREPARED;

@@ -20,7 +20,7 @@ thread_local const MethodNames* current_names = nullptr;
 
 void pass_names_on(unsigned class_number, const char** names, const char** descriptors, int count) {
     if (current_names != nullptr && *current_names) {
-        const size_t methods = static_cast<size_t>(count);
+        const auto methods = static_cast<size_t>(count);
         (*current_names)(class_number, {names, methods}, {descriptors, methods});
     }
 }
