@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace fs = std::filesystem;
 
 namespace {
@@ -13,7 +11,7 @@ const fs::path kFolder = "/usr/share/java";
 }  // namespace
 
 fs::path installed_jar(const std::string& name) {
-    const fs::path file = kFolder / name;
+    fs::path file = kFolder / name;
     EXPECT_TRUE(fs::exists(file)) << file << " is missing; scripts/setup installs it";
     return file;
 }
@@ -24,16 +22,5 @@ std::vector<fs::path> usual_jars() {
                              "jython.jar", "batik-all.jar", "xalan2.jar", "xercesImpl.jar"}) {
         jars.push_back(installed_jar(name));
     }
-    return jars;
-}
-
-std::vector<fs::path> all_jars() {
-    std::vector<fs::path> jars;
-    for (const fs::directory_entry& entry : fs::directory_iterator(kFolder)) {
-        if (entry.path().extension() == ".jar" && !entry.is_symlink()) {
-            jars.push_back(entry.path());
-        }
-    }
-    std::sort(jars.begin(), jars.end());
     return jars;
 }

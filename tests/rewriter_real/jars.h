@@ -12,7 +12,4 @@ std::filesystem::path installed_jar(const std::string& name);
 // and of generators.
 std::vector<std::filesystem::path> usual_jars();
 
-// All in /usr/share/java.
-std::vector<std::filesystem::path> all_jars();
-
 #endif
