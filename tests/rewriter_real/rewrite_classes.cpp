@@ -15,6 +15,9 @@ ClassImage bytes_of(JNIEnv* env, jbyteArray array) {
     return bytes;
 }
 
+// One for all calls: a VM sweeps up disposed ones late, and slows down until then.
+jvmtiEnv* jvmti = nullptr;
+
 void throw_refusal(JNIEnv* env, const std::exception& failure) {
     if (jclass refusal = env->FindClass("linking/Refusal")) {
         env->ThrowNew(refusal, failure.what());
@@ -24,6 +27,10 @@ void throw_refusal(JNIEnv* env, const std::exception& failure) {
 }  // namespace
 
 extern "C" {
+
+JNIEXPORT jint JNICALL JNI_OnLoad(JavaVM* vm, void* /*reserved*/) {
+    return vm->GetEnv(reinterpret_cast<void**>(&jvmti), JVMTI_VERSION_1_2) == JNI_OK ? JNI_VERSION_1_8 : JNI_ERR;
+}
 
 JNIEXPORT jbyteArray JNICALL Java_linking_Rewriter_rewrite(JNIEnv* env, jclass /*type*/, jbyteArray original,
                                                            jstring name, jint trackers, jint number, jboolean system) {
@@ -61,15 +68,10 @@ JNIEXPORT jstring JNICALL Java_linking_Rewriter_className(JNIEnv* env, jclass /*
 
 // Reflection is what has classes linked; JVMTI is asked whether that came to pass.
 JNIEXPORT jboolean JNICALL Java_linking_Rewriter_isLinked(JNIEnv* env, jclass /*type*/, jclass asked) {
-    JavaVM* vm = nullptr;
-    jvmtiEnv* jvmti = nullptr;
     jint status = 0;
-    if (env->GetJavaVM(&vm) != JNI_OK || vm->GetEnv(reinterpret_cast<void**>(&jvmti), JVMTI_VERSION_1_2) != JNI_OK ||
-        jvmti->GetClassStatus(asked, &status) != JVMTI_ERROR_NONE) {
-        env->FatalError("no class status");  // does not return
-        return JNI_FALSE;
+    if (jvmti->GetClassStatus(asked, &status) != JVMTI_ERROR_NONE) {
+        env->FatalError("no class status");
     }
-    jvmti->DisposeEnvironment();
     constexpr jint kLinked = JVMTI_CLASS_STATUS_VERIFIED | JVMTI_CLASS_STATUS_PREPARED;
     return (status & kLinked) == kLinked ? JNI_TRUE : JNI_FALSE;
 }
