@@ -50,7 +50,7 @@ int constant_pool_count(const fs::path& file) {
 
 // "#7" and so on for "{7}" where the pool of the class ends with 0.
 std::string numbered(std::string text, int first) {
-    for (std::smatch match; std::regex_search(text, match, std::regex("\\{(\\d+)\\}"));) {
+    for (std::smatch match; std::regex_search(text, match, std::regex(R"(\{(\d+)\})"));) {
         text = match.prefix().str() + "#" + std::to_string(first + std::stoi(match[1])) + match.suffix().str();
     }
     return text;
