@@ -157,7 +157,7 @@ std::vector<std::int8_t> minimal_widening(const Layout& layout) {
                 continue;
             }
             const auto offset = static_cast<std::int16_t>(layout.code[at + 1] << 8 | layout.code[at + 2]);
-            const std::int32_t new_offset = map[static_cast<std::size_t>(pc + offset)] - map[at];
+            const std::int32_t new_offset = map[static_cast<std::size_t>(std::int64_t{pc} + offset)] - map[at];
             if (new_offset < -32768 || new_offset > 32767) {
                 widening[at] = opcode == op::goto_ || opcode == op::jsr ? 2 : 5;
                 changed = true;
@@ -218,9 +218,9 @@ TEST(Oracle, AgreesOnSmallMethods) {
 
 TEST(Oracle, AgreesOnFarBranches) {
     const Tally tally =
-        compare(2'000'000, 500, [](std::uint64_t seed) { return random_classes::far_branches(seed, false); });
+        compare(2'000'000, 300, [](std::uint64_t seed) { return random_classes::far_branches(seed, false); });
     tell(tally);
-    EXPECT_GT(tally.images, 400);
+    EXPECT_GT(tally.images, 250);
     EXPECT_GT(tally.widened, 10'000);
     EXPECT_EQ(tally.not_minimal, 0) << "without paddings there is but one set of branches that have to be widened";
 }
@@ -402,11 +402,12 @@ TEST(Oracle, FailsInTheSameWordsOnMutatedClasses) {
     const Tally tally = compare_mutations(4'000'000, 600, 200, random_classes::small_methods);
     tell(tally);
     EXPECT_GT(tally.images, 10'000) << "mutations that leave a class that can be rewritten";
+    static constexpr const char* inside_images =
+        "CRW ASSERTION FAILURE: ( (ci) != NULL && (ci)->input_position <= (ci)->input_len && "
+        "(ci)->output_position <= (ci)->output_len)";
     for (const char* text :
-         {"CRW ASSERTION FAILURE: ( (ci) != NULL && (ci)->input_position <= (ci)->input_len && (ci)->output_position "
-          "<= (ci)->output_len)",
-          "CRW ASSERTION FAILURE: pos <= mi->code_len", "CRW ASSERTION FAILURE: new_attr_len >= attr_len",
-          "CRW ASSERTION FAILURE: attr_len==2",
+         {inside_images, "CRW ASSERTION FAILURE: pos <= mi->code_len",
+          "CRW ASSERTION FAILURE: new_attr_len >= attr_len", "CRW ASSERTION FAILURE: attr_len==2",
           "CRW ASSERTION FAILURE: c_index > 0 && c_index < ci->cpool_count_plus_one", "Cannot allocate <= 0 bytes",
           "Invalid opcode supplied to opcode_length()", "Invalid opcode supplied to wide opcode",
           "Unknown frame type in StackMapTable attribute"}) {

@@ -82,7 +82,7 @@ Bytes random_bytes(Random& random, std::size_t count) {
 
 Bytes filler(Random& random, bool long_filler) {
     const std::size_t n = random.below(fillers.size() + 3);
-    const unsigned local = static_cast<unsigned>(random.below(0x10000));
+    const auto local = static_cast<unsigned>(random.below(0x10000));
     if (n == fillers.size()) {
         return wide_iinc(local, static_cast<int>(random.below(2000)) - 1000);
     }
@@ -216,6 +216,7 @@ Bytes aim(Random& random, Draft& draft, std::size_t reach) {
                 overwrite(draft.bytes, pc, tableswitch(pc, fallback, low, offsets));
             } else {
                 std::vector<Pair> pairs;
+                pairs.reserve(offsets.size());
                 for (const std::int64_t o : offsets) {
                     pairs.push_back({static_cast<std::int64_t>(random.below(0x100000000)), o});
                 }
