@@ -35,10 +35,10 @@ TEST(Library, ExportsItsInterfaceAndNothingElse) {
     }
     EXPECT_THAT(of_proxies, UnorderedElementsAre(Pair("::Init(_jvmtiEnv*, JNIEnv_*)", 21),
                                                  Pair("::Destroy(_jvmtiEnv*, JNIEnv_*)", 21)));
-    EXPECT_THAT(exported, UnorderedElementsAre("Agent_OnAttach", "Agent_OnLoad", "Agent_OnUnload",
-                                               "add_demo_jar_to_bootclasspath", "allocate", "check_jvmti_error",
-                                               "covered_by_list", "deallocate", "fatal_error", "get_token",
-                                               "interested", "stdout_message"));
+    EXPECT_THAT(exported, UnorderedElementsAre(
+                              "Agent_OnAttach", "Agent_OnLoad", "Agent_OnUnload", "add_demo_jar_to_bootclasspath",
+                              "allocate", "check_jvmti_error", "covered_by_list", "deallocate", "fatal_error",
+                              "get_token", "interested", "java_crw_demo", "java_crw_demo_classname", "stdout_message"));
 }
 
 // Another library's `allocate` must not come between ours and its callers.

@@ -1,1 +1,161 @@
 #include "java_crw_demo.h"
+
+#include <cstdlib>
+#include <new>
+#include <string_view>
+
+#include "class_image.h"
+#include "class_rewrite_state.h"
+
+namespace crw {
+
+namespace {
+
+struct Free {
+    void operator()(void* block) const { free(block); }
+};
+template <typename T>
+using Owned = std::unique_ptr<T[], Free>;
+
+constexpr const char* kOutOfMemory = "Ran out of malloc memory";
+
+template <typename T>
+Owned<T> allocate(size_t size, JavaCrwDemoErrorHandler handler) {
+    Owned<T> block(static_cast<T*>(malloc(size)));
+    if (!block) {
+        fatal_error(handler, kOutOfMemory);
+    }
+    return block;
+}
+
+// How much longer than the class file its new image may be: every method may double, and a few hundred bytes cover the
+// added constants and members.
+size_t allowance(size_t file_len) {
+    constexpr size_t kForConstantsAndMembers = 512;
+    return 2 * file_len + kForConstantsAndMembers;
+}
+
+void require_argument(bool holds, const char* failure, JavaCrwDemoErrorHandler handler) {
+    if (!holds) {
+        fatal_error(handler, failure);
+    }
+}
+
+bool is_class_signature(const char* signature) {
+    return signature != nullptr && std::string_view(signature).starts_with('L') &&
+           std::string_view(signature).ends_with(';');
+}
+
+void require_tracker(const Tracker& tracker, std::string_view signature, const char* failure,
+                     JavaCrwDemoErrorHandler handler) {
+    require_argument(tracker.name == nullptr || (tracker.signature != nullptr && tracker.signature == signature),
+                     failure, handler);
+}
+
+// The arguments have been checked. Returns the new image, and leaves its length in the state's output position.
+Owned<unsigned char> rewrite(ClassRewriteState& ci) {
+    ci.output_len = allowance(ci.input_len);
+    Owned<unsigned char> image = allocate<unsigned char>(ci.output_len, ci.fatal_error_handler);
+    ci.output = image.get();
+    inject_class(ci);
+    // Shrinking leaves the block as it is where it fails.
+    if (void* shrunk = realloc(image.get(), ci.output_position)) {
+        (void)image.release();
+        image.reset(static_cast<unsigned char*>(shrunk));
+    }
+    return image;
+}
+
+void check_trackers(const ClassRewriteState& ci) {
+    const JavaCrwDemoErrorHandler handler = ci.fatal_error_handler;
+    require_tracker(ci.call_tracker, "(II)V", "call_sig is not (II)V", handler);
+    require_tracker(ci.return_tracker, "(II)V", "return_sig is not (II)V", handler);
+    require_tracker(ci.object_init_tracker, "(Ljava/lang/Object;)V", "obj_init_sig is not (Ljava/lang/Object;)V",
+                    handler);
+    require_tracker(ci.newarray_tracker, "(Ljava/lang/Object;)V", "newarray_sig is not (Ljava/lang/Object;)V", handler);
+}
+
+// Runs one of the functions below. Their results are set to nothing before a failure can come.
+template <typename Body>
+void guarded(JavaCrwDemoErrorHandler handler, const Body& body) {
+    try {
+        try {
+            body();
+        } catch (const std::bad_alloc&) {
+            fatal_error(handler, kOutOfMemory);
+        }
+    } catch (const Failed&) {
+        // The handler was told, and returned.
+    }
+}
+
+}  // namespace
+
+}  // namespace crw
+
+using namespace crw;
+
+void java_crw_demo(unsigned class_number, const char* name, const unsigned char* file_image, long file_len,
+                   int system_class, const char* tclass_name, const char* tclass_sig, const char* call_name,
+                   const char* call_sig, const char* return_name, const char* return_sig, const char* obj_init_name,
+                   const char* obj_init_sig, const char* newarray_name, const char* newarray_sig,
+                   unsigned char** pnew_file_image, long* pnew_file_len, JavaCrwDemoErrorHandler fatal_error_handler,
+                   JavaCrwDemoMethodNames mnum_callback) {
+    const JavaCrwDemoErrorHandler handler = fatal_error_handler;
+    guarded(handler, [&] {
+        require_argument(pnew_file_image != nullptr, "pnew_file_image==NULL", handler);
+        require_argument(pnew_file_len != nullptr, "pnew_file_len==NULL", handler);
+        *pnew_file_image = nullptr;
+        *pnew_file_len = 0;
+        if (file_len == 0) {
+            return;
+        }
+        require_argument(file_image != nullptr, "file_image == NULL", handler);
+        require_argument(file_len > 0, "file_len < 0", handler);
+        require_argument(system_class == 0 || system_class == 1, "system_class is not 0 or 1", handler);
+        require_argument(tclass_name != nullptr, "tclass_name == NULL", handler);
+        require_argument(is_class_signature(tclass_sig), "tclass_sig is not a valid class signature", handler);
+
+        ClassRewriteState ci;
+        ci.number = class_number;
+        ci.input = file_image;
+        ci.input_len = static_cast<size_t>(file_len);
+        ci.is_system_class = system_class == 1;
+        ci.tracker_class_name = tclass_name;
+        ci.call_tracker = {call_name, call_sig};
+        ci.return_tracker = {return_name, return_sig};
+        ci.object_init_tracker = {obj_init_name, obj_init_sig};
+        ci.newarray_tracker = {newarray_name, newarray_sig};
+        ci.fatal_error_handler = handler;
+        ci.mnum_callback = mnum_callback;
+        check_trackers(ci);
+        if (name != nullptr) {
+            require(ci, std::string_view(name).find('.') == std::string_view::npos, "strchr(name,'.')==NULL");
+            ci.name = name;
+            ci.is_thread_class = *ci.name == "java/lang/Thread";
+        }
+        *pnew_file_image = rewrite(ci).release();
+        *pnew_file_len = static_cast<long>(ci.output_position);
+    });
+}
+
+char* java_crw_demo_classname(const unsigned char* file_image, long file_len,
+                              JavaCrwDemoErrorHandler fatal_error_handler) {
+    char* result = nullptr;
+    guarded(fatal_error_handler, [&] {
+        if (file_image == nullptr || file_len == 0) {
+            return;
+        }
+        ClassRewriteState ci;
+        ci.fatal_error_handler = fatal_error_handler;
+        require(ci, file_len > 0, kInsideImages);
+        ci.input = file_image;
+        ci.input_len = static_cast<size_t>(file_len);
+        const std::string_view name = read_class_name(ci);
+        Owned<char> copy = allocate<char>(name.size() + 1, fatal_error_handler);
+        memcpy(copy.get(), name.data(), name.size());
+        copy[name.size()] = '\0';
+        result = copy.release();
+    });
+    return result;
+}

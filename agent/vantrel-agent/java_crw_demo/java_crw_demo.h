@@ -28,6 +28,12 @@
 extern "C" {
 #endif
 
+#ifdef __GNUC__
+#define JAVA_CRW_DEMO_EXPORT __attribute__((visibility("default")))
+#else
+#define JAVA_CRW_DEMO_EXPORT
+#endif
+
 /* Told of a failure. The texts are the rewriter's and last until the handler returns. */
 typedef void (*JavaCrwDemoErrorHandler)(const char* message, const char* source_file, int line);
 
@@ -61,19 +67,21 @@ typedef void (*JavaCrwDemoMethodNames)(unsigned class_number, const char** names
  *
  * The new image is at most 2 * file_len + 512 bytes long; a class that would need more fails.
  */
-void java_crw_demo(unsigned class_number, const char* name, const unsigned char* file_image, long file_len,
-                   int system_class, const char* tclass_name, const char* tclass_sig, const char* call_name,
-                   const char* call_sig, const char* return_name, const char* return_sig, const char* obj_init_name,
-                   const char* obj_init_sig, const char* newarray_name, const char* newarray_sig,
-                   unsigned char** pnew_file_image, long* pnew_file_len, JavaCrwDemoErrorHandler fatal_error_handler,
-                   JavaCrwDemoMethodNames mnum_callback);
+JAVA_CRW_DEMO_EXPORT void java_crw_demo(unsigned class_number, const char* name, const unsigned char* file_image,
+                                        long file_len, int system_class, const char* tclass_name,
+                                        const char* tclass_sig, const char* call_name, const char* call_sig,
+                                        const char* return_name, const char* return_sig, const char* obj_init_name,
+                                        const char* obj_init_sig, const char* newarray_name, const char* newarray_sig,
+                                        unsigned char** pnew_file_image, long* pnew_file_len,
+                                        JavaCrwDemoErrorHandler fatal_error_handler,
+                                        JavaCrwDemoMethodNames mnum_callback);
 
 /*
  * The name of the class in an image, in internal form, which the caller frees with free(). NULL for an image that is
  * NULL or empty, and after a failure whose handler returned.
  */
-char* java_crw_demo_classname(const unsigned char* file_image, long file_len,
-                              JavaCrwDemoErrorHandler fatal_error_handler);
+JAVA_CRW_DEMO_EXPORT char* java_crw_demo_classname(const unsigned char* file_image, long file_len,
+                                                   JavaCrwDemoErrorHandler fatal_error_handler);
 
 #ifdef __cplusplus
 }

@@ -1,0 +1,173 @@
+#include "class_image.h"
+
+#include <cstdio>
+
+#include "constant_pool.h"
+#include "injection.h"
+
+namespace crw {
+
+namespace {
+
+constexpr uint32_t kMagic = 0xCAFEBABE;
+constexpr uint16_t kNewestMajorVersion = 52;
+
+// JVM specification, tables 4.5-A and 4.6-A.
+constexpr uint16_t kPublic = 0x0001;
+constexpr uint16_t kPrivate = 0x0002;
+constexpr uint16_t kStatic = 0x0008;
+constexpr uint16_t kNative = 0x0100;
+
+// access_flags, name_index and descriptor_index of a field, or interface indexes: counts of bytes.
+constexpr size_t kFieldHeadSize = 6;
+constexpr size_t kInterfaceSize = 2;
+
+uint16_t require_index(const ClassRewriteState& ci, uint16_t index) {
+    require(ci, index > 0 && index < ci.cpool_count_plus_one, "c_index > 0 && c_index < ci->cpool_count_plus_one");
+    return index;
+}
+
+void copy_magic(ClassRewriteState& ci) {
+    require(ci, copy_u4(ci) == kMagic, "magic==0xCAFEBABE");
+}
+
+void copy_versions(ClassRewriteState& ci) {
+    copy_u2(ci);
+    require(ci, copy_u2(ci) <= kNewestMajorVersion,
+            "(classfileMajorVersion <= JVM_CLASSFILE_MAJOR_VERSION) || "
+            "((classfileMajorVersion == JVM_CLASSFILE_MAJOR_VERSION) && "
+            "(classfileMinorVersion <= JVM_CLASSFILE_MINOR_VERSION))");
+}
+
+void copy_this_class(ClassRewriteState& ci) {
+    const std::string_view own_name = cpool_class_name(ci, require_index(ci, copy_u2(ci)));
+    if (!ci.name) {
+        ci.name = own_name;
+        require(ci, own_name.find('.') == std::string_view::npos, "strchr(ci->name,'.')==NULL");
+    } else {
+        require(ci, *ci.name == own_name, "(int)strlen(ci->name)==cs.len && strncmp(ci->name, cs.ptr, cs.len)==0");
+    }
+}
+
+// Only java.lang.Object has no superclass.
+void copy_super_class(ClassRewriteState& ci) {
+    if (copy_u2(ci) == 0) {
+        ci.is_object_class = true;
+        require(ci, *ci.name == "java/lang/Object", "strcmp(ci->name,\"java/lang/Object\")==0");
+    }
+}
+
+void copy_attributes(ClassRewriteState& ci) {
+    const uint16_t count = copy_u2(ci);
+    for (uint16_t i = 0; i < count; ++i) {
+        copy_u2(ci);
+        copy_bytes(ci, copy_u4(ci));
+    }
+}
+
+// A field or method of its own for java.lang.Object, without attributes.
+void add_member(ClassRewriteState& ci, uint16_t access_flags, uint32_t name_index, uint32_t descriptor_index) {
+    write_u2(ci, access_flags);
+    write_u2(ci, name_index);
+    write_u2(ci, descriptor_index);
+    write_u2(ci, 0);
+}
+
+// The number of fields or methods, to which java.lang.Object gets one more.
+uint16_t copy_member_count(ClassRewriteState& ci) {
+    const uint16_t count = read_u2(ci);
+    write_u2(ci, count + (ci.is_object_class ? 1U : 0U));
+    return count;
+}
+
+void copy_fields(ClassRewriteState& ci) {
+    if (ci.is_object_class) {
+        printf("add field to : %s\n", ci.name->c_str());
+    }
+    const uint16_t count = copy_member_count(ci);
+    for (uint16_t i = 0; i < count; ++i) {
+        copy_bytes(ci, kFieldHeadSize);
+        copy_attributes(ci);
+    }
+    if (ci.is_object_class) {
+        add_member(ci, kPrivate | kStatic, ci.track_name_index, ci.track_desc_index);
+    }
+}
+
+void copy_method(ClassRewriteState& ci, uint16_t number) {
+    copy_u2(ci);  // access_flags
+    ci.method_names.push_back(cpool_text(ci, copy_u2(ci)));
+    ci.method_descriptors.push_back(cpool_text(ci, copy_u2(ci)));
+    const uint16_t attribute_count = copy_u2(ci);
+    for (uint16_t i = 0; i < attribute_count; ++i) {
+        if (attribute_match(ci, copy_u2(ci), "Code")) {
+            method_write_bytecodes(ci, number);
+        } else {
+            copy_bytes(ci, copy_u4(ci));
+        }
+    }
+}
+
+void copy_methods(ClassRewriteState& ci) {
+    const uint16_t count = copy_member_count(ci);
+    ci.method_names.reserve(count);
+    ci.method_descriptors.reserve(count);
+    for (uint16_t number = 0; number < count; ++number) {
+        copy_method(ci, number);
+    }
+    if (ci.is_object_class) {
+        add_member(ci, kPublic | kNative, ci.get_track_id_name_index, ci.get_track_id_desc_index);
+    }
+}
+
+// The texts with zeros behind them, as C wants them, in one block.
+std::vector<const char*> c_strings(const std::vector<std::string_view>& texts, std::string& block) {
+    size_t size = 0;
+    for (const std::string_view text : texts) {
+        size += text.size() + 1;
+    }
+    block.reserve(size);
+    std::vector<const char*> strings;
+    strings.reserve(texts.size());
+    for (const std::string_view text : texts) {
+        strings.push_back(block.data() + block.size());
+        block.append(text).push_back('\0');
+    }
+    return strings;
+}
+
+void tell_method_names(const ClassRewriteState& ci) {
+    std::string name_block;
+    std::string descriptor_block;
+    std::vector<const char*> names = c_strings(ci.method_names, name_block);
+    std::vector<const char*> descriptors = c_strings(ci.method_descriptors, descriptor_block);
+    ci.mnum_callback(ci.number, names.data(), descriptors.data(), static_cast<int>(names.size()));
+}
+
+}  // namespace
+
+void inject_class(ClassRewriteState& ci) {
+    copy_magic(ci);
+    copy_versions(ci);
+    cpool_setup(ci);
+    copy_u2(ci);  // access_flags
+    copy_this_class(ci);
+    copy_super_class(ci);
+    copy_bytes(ci, copy_u2(ci) * kInterfaceSize);
+    copy_fields(ci);
+    copy_methods(ci);
+    if (ci.mnum_callback != nullptr) {
+        tell_method_names(ci);
+    }
+    copy_attributes(ci);
+}
+
+std::string_view read_class_name(ClassRewriteState& ci) {
+    require(ci, read_u4(ci) == kMagic, "magic==0xCAFEBABE");
+    read_u4(ci);  // versions
+    cpool_index(ci);
+    read_u2(ci);  // access_flags
+    return cpool_class_name(ci, require_index(ci, read_u2(ci)));
+}
+
+}  // namespace crw

@@ -1,0 +1,167 @@
+#include "constant_pool.h"
+
+#include <cstdio>
+
+namespace crw {
+
+namespace {
+
+// JVM specification, table 4.4-B.
+enum Tag : uint8_t {
+    kUtf8 = 1,
+    kInteger = 3,
+    kFloat = 4,
+    kLong = 5,
+    kDouble = 6,
+    kClass = 7,
+    kString = 8,
+    kFieldref = 9,
+    kMethodref = 10,
+    kInterfaceMethodref = 11,
+    kNameAndType = 12,
+    kMethodHandle = 15,
+    kMethodType = 16,
+    kInvokeDynamic = 18,
+};
+
+// How many bytes follow the tag; those of a Utf8 entry's text come on top. 0 for a tag that is none.
+constexpr uint8_t kSizes[] = {0, 2, 0, 4, 4, 8, 8, 2, 2, 4, 4, 4, 4, 0, 0, 3, 2, 0, 4};
+
+constexpr const char* kIndexRule = "c_index > 0 && c_index < ci->cpool_count_plus_one";
+
+// The capacity that the pool has is the class file's count and this, in 16 bits.
+constexpr uint32_t kGrowth = 0x7FFF;
+
+// The largest class number that is pushed without a constant.
+constexpr uint32_t kLargestImmediate = 0x7FFF;
+
+[[noreturn]] void unknown_tag(const ClassRewriteState& ci, int tag) {
+    constexpr size_t kMessageSize = 256;
+    char message[kMessageSize];
+    snprintf(message, sizeof message, "Unknown tag: %d, at ipos %hu", tag,
+             static_cast<unsigned short>(ci.input_position));
+    fatal_error(ci.fatal_error_handler, message);
+}
+
+// Records an entry whose bytes have been written. Returns its index.
+uint16_t append(ClassRewriteState& ci, AppendedConstant constant) {
+    ci.appended_constants.push_back(constant);
+    return ci.cpool_count_plus_one++;
+}
+
+uint16_t add_utf8(ClassRewriteState& ci, std::string_view text) {
+    write_u1(ci, kUtf8);
+    require(ci, text.size() <= 0xFFFF, "len==(len & 0xFFFF)");
+    write_u2(ci, static_cast<uint32_t>(text.size()));
+    write_bytes(ci, text.data(), text.size());
+    return append(ci, {kUtf8, 0, text});
+}
+
+uint16_t add_class(ClassRewriteState& ci, uint16_t name_index) {
+    write_u1(ci, kClass);
+    write_u2(ci, name_index);
+    return append(ci, {kClass, name_index, {}});
+}
+
+// An entry that holds two values of two bytes.
+uint16_t add_pair(ClassRewriteState& ci, Tag tag, uint32_t first, uint32_t second) {
+    write_u1(ci, tag);
+    write_u2(ci, first);
+    write_u2(ci, second);
+    return append(ci, {tag, static_cast<uint16_t>(first), {}});
+}
+
+uint16_t add_method(ClassRewriteState& ci, const Tracker& tracker) {
+    const uint16_t name = add_utf8(ci, tracker.name);
+    const uint16_t descriptor = add_utf8(ci, tracker.signature);
+    return add_pair(ci, kMethodref, ci.tracker_class_index, add_pair(ci, kNameAndType, name, descriptor));
+}
+
+}  // namespace
+
+void cpool_index(ClassRewriteState& ci) {
+    const uint16_t count_plus_one = read_u2(ci);
+    require(ci, count_plus_one > 1, "count_plus_one>1");
+    ci.cpool_max_elements = static_cast<uint16_t>(count_plus_one + kGrowth);
+    if (ci.cpool_max_elements == 0) {
+        fatal_error(ci.fatal_error_handler, "Cannot allocate <= 0 bytes");
+    }
+    ci.cpool_count_plus_one = count_plus_one;
+    ci.constant_positions.assign(count_plus_one, 0);
+    for (uint32_t index = 1; index < count_plus_one; ++index) {
+        const size_t position = ci.input_position;
+        const uint8_t tag = read_u1(ci);
+        const size_t size = tag < sizeof kSizes ? kSizes[tag] : 0;
+        if (size == 0) {
+            unknown_tag(ci, tag);
+        }
+        ci.constant_positions[index] = static_cast<uint32_t>(position);
+        require(ci, position <= UINT32_MAX, kInsideImages);
+        const uint8_t* bytes = read_bytes(ci, size);
+        if (tag == kUtf8) {
+            read_bytes(ci, u2_at(bytes));
+        } else if (tag == kLong || tag == kDouble) {
+            ++index;
+        }
+    }
+    // What is appended is a few dozen entries: it fits, unless the capacity has wrapped to less than the count.
+    require(ci, ci.cpool_count_plus_one < ci.cpool_max_elements, "ci->cpool_count_plus_one < ci->cpool_max_elements");
+}
+
+void cpool_setup(ClassRewriteState& ci) {
+    const size_t start = ci.input_position;
+    const size_t count_position = ci.output_position;
+    cpool_index(ci);
+    write_bytes(ci, ci.input + start, ci.input_position - start);
+
+    const bool pushes_class_number = ci.call_tracker.name != nullptr || ci.return_tracker.name != nullptr;
+    if (pushes_class_number && ci.number > kLargestImmediate) {
+        ci.class_number_index = add_pair(ci, kInteger, ci.number >> 16U, ci.number & 0xFFFFU);
+    }
+    ci.tracker_class_index = add_class(ci, add_utf8(ci, ci.tracker_class_name));
+    for (Tracker* tracker : {&ci.object_init_tracker, &ci.newarray_tracker, &ci.call_tracker, &ci.return_tracker}) {
+        if (tracker->name != nullptr) {
+            tracker->index = add_method(ci, *tracker);
+        }
+    }
+    ci.get_track_id_name_index = add_utf8(ci, "getTrackId");
+    ci.get_track_id_desc_index = add_utf8(ci, "()I");
+    ci.get_track_id_method_name_and_type_index =
+        add_pair(ci, kNameAndType, ci.get_track_id_name_index, ci.get_track_id_desc_index);
+    ci.get_track_id_method_ref_index =
+        add_pair(ci, kMethodref, ci.tracker_class_index, ci.get_track_id_method_name_and_type_index);
+    ci.track_name_index = add_utf8(ci, "objectTrackId");
+    ci.track_desc_index = add_utf8(ci, "I");
+    ci.track_field_index = add_pair(ci, kFieldref, ci.tracker_class_index,
+                                    add_pair(ci, kNameAndType, ci.track_name_index, ci.track_desc_index));
+
+    put_u2(ci.output + count_position, ci.cpool_count_plus_one);
+}
+
+std::string_view cpool_text(const ClassRewriteState& ci, uint32_t index) {
+    require(ci, index > 0 && index < ci.cpool_count_plus_one, kIndexRule);
+    const size_t own_count = ci.constant_positions.size();
+    if (index >= own_count) {
+        const AppendedConstant& constant = ci.appended_constants[index - own_count];
+        require(ci, constant.tag == kUtf8, kIndexRule);
+        return constant.text;
+    }
+    const uint8_t* entry = ci.input + ci.constant_positions[index];
+    require(ci, ci.constant_positions[index] != 0 && entry[0] == kUtf8, kIndexRule);
+    return {reinterpret_cast<const char*>(entry) + 3, u2_at(entry + 1)};
+}
+
+std::string_view cpool_class_name(const ClassRewriteState& ci, uint32_t index) {
+    require(ci, index > 0 && index < ci.cpool_count_plus_one, kIndexRule);
+    const size_t own_count = ci.constant_positions.size();
+    if (index >= own_count) {
+        const AppendedConstant& constant = ci.appended_constants[index - own_count];
+        require(ci, constant.tag == kClass, kIndexRule);
+        return cpool_text(ci, constant.first_value);
+    }
+    const uint8_t* entry = ci.input + ci.constant_positions[index];
+    require(ci, ci.constant_positions[index] != 0 && entry[0] == kClass, kIndexRule);
+    return cpool_text(ci, u2_at(entry + 1));
+}
+
+}  // namespace crw
