@@ -100,7 +100,7 @@ Zip open_jar(const fs::path& path) {
         zip_error_init_with_code(&error, code);
         const std::string reason = text_of(error);
         zip_error_fini(&error);
-        fail_on_zip("read", path, reason + " (is it a whole jar?)");
+        fail_on_zip("read", path, reason + " (is it a whole jar, with nothing before it?)");
     }
     return zip;
 }
