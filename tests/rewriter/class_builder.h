@@ -138,14 +138,14 @@ struct ConstantPool {
     [[nodiscard]] std::string text(unsigned index) const;
 
     unsigned count = 1;  // constant_pool_count
-    Bytes bytes;
-    std::map<unsigned, Bytes> entries;
-    std::map<Bytes, std::uint16_t> known;
+    Bytes bytes = {};
+    std::map<unsigned, Bytes> entries = {};
+    std::map<Bytes, std::uint16_t> known = {};
 };
 
 struct Attribute {
-    std::string name;
-    Bytes body;
+    std::string name = {};
+    Bytes body = {};
     std::optional<std::uint32_t> length = std::nullopt;  // the length given in the image, where it is not the body's
 
     bool operator==(const Attribute&) const = default;
@@ -163,9 +163,9 @@ struct Handler {
 struct Code {
     unsigned max_stack = 4;
     unsigned max_locals = 4;
-    Bytes bytes;
-    std::vector<Handler> handlers;
-    std::vector<Attribute> attributes;
+    Bytes bytes = {};
+    std::vector<Handler> handlers = {};
+    std::vector<Attribute> attributes = {};
 
     bool operator==(const Code&) const = default;
 };
@@ -174,8 +174,8 @@ struct Member {  // a field or a method
     unsigned access = 0x0009;
     std::string name = "m";
     std::string descriptor = "()V";
-    std::optional<Code> code;
-    std::vector<Attribute> attributes;  // those besides Code
+    std::optional<Code> code = {};
+    std::vector<Attribute> attributes = {};  // those besides Code
 
     bool operator==(const Member&) const = default;
 };
@@ -183,14 +183,14 @@ struct Member {  // a field or a method
 struct ClassFile {
     unsigned minor = 0;
     unsigned major = 49;
-    ConstantPool pool;  // what assemble needs besides is added behind what is here
+    ConstantPool pool = {};  // what assemble needs besides is added behind what is here
     unsigned access = 0x0021;
     std::string name = "com/example/Sample";
     std::string super = "java/lang/Object";  // empty: none
-    std::vector<std::string> interfaces;
-    std::vector<Member> fields;
-    std::vector<Member> methods;
-    std::vector<Attribute> attributes;
+    std::vector<std::string> interfaces = {};
+    std::vector<Member> fields = {};
+    std::vector<Member> methods = {};
+    std::vector<Attribute> attributes = {};
 };
 
 Bytes assemble(ClassFile file);

@@ -9,7 +9,7 @@ namespace crw {
 
 namespace {
 
-constexpr std::string_view kSources = "java_crw_demo";
+constexpr std::string_view kSources = "java_crw_demo/";
 
 // A source file's path from the rewriter's own folder on, wherever it was built.
 const char* from_sources_on(const char* file) {

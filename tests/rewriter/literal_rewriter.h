@@ -1,0 +1,47 @@
+// The rewriter once more, as plainly as it can be said, for tests to compare the real one with.
+//
+// One function an operation, byte after byte, and branches relocated by scanning the code from pc 0 again after each
+// single change. It is slow and means to be: whatever the real rewriter does faster must give the same images and
+// fail with the same words. It shares no code with it.
+#ifndef VANTREL_LITERAL_REWRITER_H
+#define VANTREL_LITERAL_REWRITER_H
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace literal_rewriter {
+
+struct Options {
+    std::uint32_t class_number = 0;
+    std::optional<std::string> name;
+    bool system_class = false;
+    std::string tracker_class = "com/example/Tracker";
+    std::optional<std::string> call_name;
+    std::optional<std::string> return_name;
+    std::optional<std::string> obj_init_name;
+    std::optional<std::string> newarray_name;
+};
+
+// How an instrumented method was laid out, for tests that ask how its branches came to be widened.
+struct Layout {
+    std::vector<std::uint8_t> code;          // as it was
+    std::vector<std::int32_t> instructions;  // the old pcs at which they start
+    std::vector<std::int32_t> planned_map;   // old pc to new pc before any branch was relocated
+    std::vector<std::int8_t> widening;       // by old pc, when nothing changed any more
+};
+
+struct Result {
+    std::vector<std::uint8_t> image;  // empty after a failure
+    std::string failure;              // what a fatal error handler is told; empty on success
+    std::vector<Layout> layouts;
+};
+
+// Argument checks are not its business: the class name and the image are all that can be wrong.
+Result rewrite(std::span<const std::uint8_t> image, const Options& options);
+
+}  // namespace literal_rewriter
+
+#endif
