@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <regex>
 #include <string>
 #include <vector>
 
@@ -129,10 +128,10 @@ TEST(Arguments, ManualDescribesEachOptionOfHelp) {
     const std::string manual = contents(VANTREL_REWRITE_MANUAL);
     int options = 0;
     for (const std::string& line : lines_of(run({kRewrite, "--help"}).out)) {
-        std::smatch names;
-        if (std::regex_search(line, names, std::regex("^  (?:-\\w,)?(--?[-a-z]+)[ ,]"))) {
+        if (line.starts_with("  -")) {
             ++options;
-            EXPECT_THAT(manual, HasSubstr("`" + names[1].str()));
+            const std::string names = line.substr(2, line.find(' ', 2) - 2);  // -h,--help
+            EXPECT_THAT(manual, HasSubstr("`" + names.substr(names.find(',') + 1)));
         }
     }
     EXPECT_EQ(options, 12);

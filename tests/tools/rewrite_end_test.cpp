@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <string>
@@ -20,12 +21,9 @@ namespace {
 constexpr int kMany = 10000;  // classes; enough to be met in the middle
 
 bool has_temporary(const fs::path& folder) {
-    for (const auto& entry : fs::directory_iterator(folder)) {
-        if (entry.path().filename().string().starts_with(".vantrel-rewrite-")) {
-            return true;
-        }
-    }
-    return false;
+    return std::any_of(fs::directory_iterator(folder), fs::directory_iterator(), [](const auto& entry) {
+        return entry.path().filename().string().starts_with(".vantrel-rewrite-");
+    });
 }
 
 struct Stop {

@@ -12,7 +12,7 @@
 #include "file.h"
 
 // Entries' times have no time zone: libzip reads them as local times and writes them so again. In a zone without
-// summer time each of them survives that; to be called before any thread starts.
+// summer time each of them survives that, except for dates that do not exist. To be called before any thread starts.
 void use_exact_zip_times();
 
 // Discards what was not written with zip_close.

@@ -1,6 +1,7 @@
 #include "plan.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <string>
 #include <system_error>
@@ -12,6 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// One of the results, or something in one.
 struct Result {
     Kind kind;
     fs::path source;
@@ -66,7 +68,7 @@ Kind kind_of_input(const fs::path& input) {
 // The name that an input has in the folder that it is in, also if it was given as "." or "classes/".
 fs::path own_name(const fs::path& input) {
     const fs::path absolute = (fs::absolute(input) / "").lexically_normal().parent_path();
-    const fs::path name = absolute.filename();
+    fs::path name = absolute.filename();
     if (name.empty()) {
         throw Failure{input.string() + " has no name of its own; give OUT a name that is not there yet"};
     }
@@ -122,51 +124,55 @@ void check_map(const fs::path& map, const std::vector<Result>& results) {
     }
 }
 
-class Planner {
-  public:
-    Plan plan;
+// What is in a folder, sorted by name.
+std::vector<Result> contents_of(const Result& folder) {
+    std::error_code error;
+    std::vector<fs::directory_entry> entries;
+    for (fs::directory_iterator entry(folder.source, error); !error && entry != fs::directory_iterator();
+         entry.increment(error)) {
+        entries.push_back(*entry);
+    }
+    if (error) {
+        throw Failure{"cannot read " + folder.source.string() + ": " + error.message()};
+    }
+    std::sort(entries.begin(), entries.end());
+    std::vector<Result> contents;
+    for (const fs::directory_entry& entry : entries) {
+        const fs::path& source = entry.path();
+        Kind kind = kind_by_name(source);
+        if (entry.is_symlink()) {
+            kind = Kind::Link;
+        } else if (entry.is_directory()) {
+            kind = Kind::Folder;
+        } else if (!entry.is_regular_file()) {
+            throw Failure{source.string() + " is neither a file nor a folder; take it out of the input"};
+        }
+        contents.push_back({kind, source, folder.target / source.filename()});
+    }
+    return contents;
+}
 
-    void add(Kind kind, const fs::path& source, const fs::path& target) {
+// Adds a result to the plan, with all that is in it.
+void add(Plan& plan, Result result) {
+    std::vector<Result> rest{std::move(result)};
+    while (!rest.empty()) {
         interrupt::check();
-        Piece piece{kind, source, target, plan.class_count, {}};
-        if (kind == Kind::ClassFile) {
+        const Result next = std::move(rest.back());
+        rest.pop_back();
+        Piece piece{next.kind, next.source, next.target, plan.class_count, {}};
+        if (next.kind == Kind::ClassFile) {
             ++plan.class_count;
-        } else if (kind == Kind::Jar) {
-            piece.classes = classes_of_jar(source);
+        } else if (next.kind == Kind::Jar) {
+            piece.classes = classes_of_jar(next.source);
             plan.class_count += piece.classes.size();
+        } else if (next.kind == Kind::Folder) {
+            std::vector<Result> contents = contents_of(next);
+            rest.insert(rest.end(), std::make_move_iterator(contents.rbegin()),
+                        std::make_move_iterator(contents.rend()));
         }
         plan.pieces.push_back(std::move(piece));
-        if (kind == Kind::Folder) {
-            add_contents(source, target);
-        }
     }
-
-  private:
-    void add_contents(const fs::path& folder, const fs::path& target) {
-        std::error_code error;
-        std::vector<fs::directory_entry> entries;
-        for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
-             entry.increment(error)) {
-            entries.push_back(*entry);
-        }
-        if (error) {
-            throw Failure{"cannot read " + folder.string() + ": " + error.message()};
-        }
-        std::sort(entries.begin(), entries.end());
-        for (const fs::directory_entry& entry : entries) {
-            const fs::path& source = entry.path();
-            Kind kind = kind_by_name(source);
-            if (entry.is_symlink()) {
-                kind = Kind::Link;
-            } else if (entry.is_directory()) {
-                kind = Kind::Folder;
-            } else if (!entry.is_regular_file()) {
-                throw Failure{source.string() + " is neither a file nor a folder; take it out of the input"};
-            }
-            add(kind, source, target / source.filename());
-        }
-    }
-};
+}
 
 }  // namespace
 
@@ -201,20 +207,20 @@ Plan make_plan(const Arguments& arguments, Staging& staging) {
         check_map(map, results);
     }
 
-    Planner planner;
+    Plan plan;
     if (into_folder && !out_is_folder) {
         const fs::path folder = staging.stage(real_out);
-        planner.plan.pieces.push_back({Kind::Folder, {}, folder, 0, {}});
+        plan.pieces.push_back({Kind::Folder, {}, folder, 0, {}});
         for (const Result& result : results) {
-            planner.add(result.kind, result.source, folder / result.target.filename());
+            add(plan, {result.kind, result.source, folder / result.target.filename()});
         }
     } else {
         for (const Result& result : results) {
-            planner.add(result.kind, result.source, staging.stage(result.target));
+            add(plan, {result.kind, result.source, staging.stage(result.target)});
         }
     }
     if (!map.empty()) {
-        planner.plan.map = staging.stage(map);
+        plan.map = staging.stage(map);
     }
-    return std::move(planner.plan);
+    return plan;
 }

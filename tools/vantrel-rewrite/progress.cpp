@@ -33,7 +33,7 @@ void Progress::step() {
     }
 }
 
-void Progress::clear() {
+void Progress::clear() const {
     if (shown_) {
         std::fputs("\r\033[K", stderr);
     }

@@ -18,7 +18,7 @@ class Progress {
     void step();
 
     // Takes the line away, so that others can be written.
-    void clear();
+    void clear() const;
 
   private:
     void draw();
