@@ -93,6 +93,20 @@ TEST(Output, MayBeTheInput) {
     EXPECT_THAT(names_in(scratch.path / "there"), ElementsAre("a.jar"));
 }
 
+// As with cp, a file that is there lends its permissions to what replaces it, and a new one has the input's.
+TEST(Output, HasThePermissionsThatACopyWouldHave) {
+    const ScratchFolder scratch;
+    const fs::perms own = fs::perms::owner_read | fs::perms::owner_write;
+    write(scratch.path / "A.class", program_class());
+    write(scratch.path / "old.class", "old");
+    fs::permissions(scratch.path / "A.class", own);
+    fs::permissions(scratch.path / "old.class", fs::perms::owner_all);
+    ASSERT_EQ(rewrite({"-o", "old.class", "A.class"}, scratch.path).status, 0);
+    ASSERT_EQ(rewrite({"-o", "new.class", "A.class"}, scratch.path).status, 0);
+    EXPECT_EQ(fs::status(scratch.path / "old.class").permissions(), fs::perms::owner_all);
+    EXPECT_EQ(fs::status(scratch.path / "new.class").permissions(), own);
+}
+
 // Numbers run on over all inputs, in the order of each: of the arguments, of a jar, of the sorted names of a folder.
 TEST(Output, NumbersClassesInOrder) {
     const ScratchFolder scratch;
