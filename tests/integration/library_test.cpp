@@ -1,19 +1,23 @@
 // The shared library as a linker sees it.
+#include <dlfcn.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <map>
 #include <regex>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "java_crw_demo.h"
 #include "java_vm.h"
 #include "process.h"
 
 using testing::HasSubstr;
 using testing::Not;
 using testing::Pair;
+using testing::ThrowsMessage;
 using testing::UnorderedElementsAre;
 
 namespace {
@@ -48,6 +52,22 @@ TEST(Library, ItsOwnReferencesBindInside) {
     for (const char* name : {"allocate", "check_jvmti_error", "covered_by_list", "fatal_error", "get_token"}) {
         EXPECT_THAT(readelf.out, Not(HasSubstr(std::string(" ") + name)));
     }
+}
+
+// The library has a C++ runtime of its own: an exception that a caller's error handler throws must still find its way.
+TEST(Library, AnErrorHandlerMayThrowThroughIt) {
+    void* library = dlopen(kLibrary.c_str(), RTLD_NOW);
+    ASSERT_NE(library, nullptr) << dlerror();
+    auto* const class_name =
+        reinterpret_cast<decltype(&java_crw_demo_classname)>(dlsym(library, "java_crw_demo_classname"));
+    ASSERT_NE(class_name, nullptr);
+    const unsigned char image[] = {0xCA, 0xFE, 0xBA};
+    const auto handler = [](const char* message, const char*, int) { throw std::runtime_error(message); };
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_THAT([&] { class_name(image, sizeof image, handler); },
+                    ThrowsMessage<std::runtime_error>(HasSubstr("(ci)->input_position <= (ci)->input_len")));
+    }
+    dlclose(library);
 }
 
 TEST(Library, NeedsNoCppRuntime) {

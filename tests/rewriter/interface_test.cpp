@@ -12,9 +12,7 @@
 
 using namespace class_builder;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::KilledBySignal;
-using testing::MatchesRegex;
 using testing::StartsWith;
 
 namespace {
@@ -212,24 +210,24 @@ TEST(RewriterInterface, LeavesDelicateMethodsOfSystemClassesAlone) {
     const Bytes longer = {op::nop, op::return_};
     const struct {
         const char* name;
+        const char* class_name;  // as the caller knows it
         Bytes code;
         int system_class;
-        const char* class_name;  // as the caller knows it
         bool left_alone;
     } cases[] = {
-        {"<init>", lone, 1, nullptr, true},
-        {"<init>", lone, 0, nullptr, false},
-        {"<init>", longer, 1, nullptr, false},
-        {"finalize", lone, 1, nullptr, true},
-        {"finalize", longer, 1, nullptr, false},
-        {"<clinit>", lone, 1, nullptr, true},
-        {"<clinit>", longer, 1, nullptr, true},
-        {"<clinit>", longer, 0, nullptr, false},
-        {"run", lone, 1, nullptr, false},
-        {"currentThread", longer, 1, "java/lang/Thread", true},
-        {"currentThread", lone, 1, "java/lang/Thread", true},
-        {"currentThread", lone, 0, "java/lang/Thread", false},
-        {"currentThread", lone, 1, nullptr, false},  // the class is known by the caller's name only
+        {"<init>", nullptr, lone, 1, true},
+        {"<init>", nullptr, lone, 0, false},
+        {"<init>", nullptr, longer, 1, false},
+        {"finalize", nullptr, lone, 1, true},
+        {"finalize", nullptr, longer, 1, false},
+        {"<clinit>", nullptr, lone, 1, true},
+        {"<clinit>", nullptr, longer, 1, true},
+        {"<clinit>", nullptr, longer, 0, false},
+        {"run", nullptr, lone, 1, false},
+        {"currentThread", "java/lang/Thread", longer, 1, true},
+        {"currentThread", "java/lang/Thread", lone, 1, true},
+        {"currentThread", "java/lang/Thread", lone, 0, false},
+        {"currentThread", nullptr, lone, 1, false},  // the class is known by the caller's name only
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c.name) + " of " + std::to_string(c.code.size()) + " bytes");

@@ -326,7 +326,7 @@ const std::string& class_text(const ClassState& ci, std::uint32_t c_index) {
 
 // Texts end at their first zero byte where they are handled as C strings.
 std::string c_string(const std::string& text) {
-    return text.c_str();
+    return text.substr(0, text.find('\0'));
 }
 
 bool attribute_match(const ClassState& ci, std::uint32_t name_index, std::string_view name) {
@@ -539,7 +539,7 @@ void inject_bytecodes(MethodState& mi, std::int32_t at, const Bytes& bytecodes) 
 // Adds to map[at] and every later entry.
 void adjust_map(MethodState& mi, std::int32_t at, std::int32_t amount) {
     crw_assert(mi.ci, at <= mi.code_len, "at <= mi->code_len");
-    for (std::size_t i = static_cast<std::size_t>(at); i < mi.map.size(); i++) {
+    for (auto i = static_cast<std::size_t>(at); i < mi.map.size(); i++) {
         mi.map[i] += amount;
     }
 }
@@ -670,7 +670,7 @@ bool adjust_instruction(MethodState& mi) {
     ClassState& ci = mi.ci;
     const std::int32_t pc = input_code_offset(mi);
     crw_assert(ci, pc <= mi.code_len, "pos <= mi->code_len");
-    const std::int32_t widening = mi.widening[static_cast<std::size_t>(pc)];
+    const std::int8_t widening = mi.widening[static_cast<std::size_t>(pc)];
     const std::int32_t new_pc = mi.map[static_cast<std::size_t>(pc)];
     const std::uint32_t opcode = read_u1(ci);
 
@@ -968,9 +968,8 @@ void method_write_code_attribute(MethodState& mi) {
     const std::uint32_t name_index = copy_u2(ci);
     if (attribute_match(ci, name_index, "LineNumberTable")) {
         write_line_table(mi);
-    } else if (attribute_match(ci, name_index, "LocalVariableTable")) {
-        write_var_table(mi);
-    } else if (attribute_match(ci, name_index, "LocalVariableTypeTable")) {
+    } else if (attribute_match(ci, name_index, "LocalVariableTable") ||
+               attribute_match(ci, name_index, "LocalVariableTypeTable")) {
         write_var_table(mi);
     } else if (attribute_match(ci, name_index, "StackMapTable")) {
         write_stackmap_table(mi);

@@ -82,7 +82,7 @@ Bytes random_bytes(Random& random, std::size_t count) {
 
 Bytes filler(Random& random, bool long_filler) {
     const std::size_t n = random.below(fillers.size() + 3);
-    const unsigned local = static_cast<unsigned>(random.below(0x10000));
+    const auto local = static_cast<unsigned>(random.below(0x10000));
     if (n == fillers.size()) {
         return wide_iinc(local, static_cast<int>(random.below(2000)) - 1000);
     }
@@ -216,6 +216,7 @@ Bytes aim(Random& random, Draft& draft, std::size_t reach) {
                 overwrite(draft.bytes, pc, tableswitch(pc, fallback, low, offsets));
             } else {
                 std::vector<Pair> pairs;
+                pairs.reserve(offsets.size());
                 for (const std::int64_t o : offsets) {
                     pairs.push_back({static_cast<std::int64_t>(random.below(0x100000000)), o});
                 }
@@ -348,10 +349,12 @@ Code small_code(Random& random) {
 }
 
 Code far_code(Random& random, bool switches) {
-    static constexpr std::array<unsigned, 5> reaches = {8, 40, 200, 800, 3000};
+    static constexpr std::array<unsigned, 5> reaches = {16, 80, 400, 1500, 4000};
     const std::size_t reach = pick(random, reaches);
-    const bool grows = random.one_in(4);  // most of the distance comes from injections
-    const std::size_t wanted = grows ? random.between(15000, 30000) : random.between(33500, 62000);
+    const bool grows = random.one_in(6);  // most of the distance comes from injections
+    const std::size_t wanted = grows              ? random.between(15000, 30000)
+                               : random.one_in(4) ? random.between(36000, 62000)
+                                                  : random.between(32800, 36000);
     const std::size_t density = random.between(30, 400);
     const std::size_t injections = grows ? 150 : random.below(3) * random.below(12);
     const Mix quiet = {.branches = 2,
@@ -362,7 +365,7 @@ Code far_code(Random& random, bool switches) {
                        .long_filler = true};
     Mix dense = quiet;
     dense.branches = density;
-    dense.switches = switches ? random.between(5, 120) : 0;
+    dense.switches = switches ? random.between(5, 350) : 0;
     dense.long_filler = random.one_in(2);
 
     // Branches stand in clusters, most of them where a branch of the full distance has room.

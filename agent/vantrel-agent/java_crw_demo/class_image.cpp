@@ -22,6 +22,11 @@ constexpr uint16_t kNative = 0x0100;
 constexpr size_t kFieldHeadSize = 6;
 constexpr size_t kInterfaceSize = 2;
 
+// Names are read as C texts are: up to a zero, which the class file's encoding of text does not have.
+std::string_view c_string(std::string_view text) {
+    return text.substr(0, text.find('\0'));
+}
+
 uint16_t require_index(const ClassRewriteState& ci, uint16_t index) {
     require(ci, index > 0 && index < ci.cpool_count_plus_one, "c_index > 0 && c_index < ci->cpool_count_plus_one");
     return index;
@@ -42,8 +47,8 @@ void copy_versions(ClassRewriteState& ci) {
 void copy_this_class(ClassRewriteState& ci) {
     const std::string_view own_name = cpool_class_name(ci, require_index(ci, copy_u2(ci)));
     if (!ci.name) {
-        ci.name = own_name;
-        require(ci, own_name.find('.') == std::string_view::npos, "strchr(ci->name,'.')==NULL");
+        ci.name = c_string(own_name);
+        require(ci, ci.name->find('.') == std::string_view::npos, "strchr(ci->name,'.')==NULL");
     } else {
         require(ci, *ci.name == own_name, "(int)strlen(ci->name)==cs.len && strncmp(ci->name, cs.ptr, cs.len)==0");
     }
@@ -96,8 +101,8 @@ void copy_fields(ClassRewriteState& ci) {
 
 void copy_method(ClassRewriteState& ci, uint16_t number) {
     copy_u2(ci);  // access_flags
-    ci.method_names.push_back(cpool_text(ci, copy_u2(ci)));
-    ci.method_descriptors.push_back(cpool_text(ci, copy_u2(ci)));
+    ci.method_names.push_back(c_string(cpool_text(ci, copy_u2(ci))));
+    ci.method_descriptors.push_back(c_string(cpool_text(ci, copy_u2(ci))));
     const uint16_t attribute_count = copy_u2(ci);
     for (uint16_t i = 0; i < attribute_count; ++i) {
         if (attribute_match(ci, copy_u2(ci), "Code")) {

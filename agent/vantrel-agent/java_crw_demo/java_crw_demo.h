@@ -34,6 +34,8 @@ extern "C" {
 #define JAVA_CRW_DEMO_EXPORT
 #endif
 
+/* NOLINTBEGIN(modernize-use-using): C has no other way. */
+
 /* Told of a failure. The texts are the rewriter's and last until the handler returns. */
 typedef void (*JavaCrwDemoErrorHandler)(const char* message, const char* source_file, int line);
 
@@ -43,6 +45,8 @@ typedef void (*JavaCrwDemoErrorHandler)(const char* message, const char* source_
  */
 typedef void (*JavaCrwDemoMethodNames)(unsigned class_number, const char** names, const char** descriptors,
                                        int method_count);
+
+/* NOLINTEND(modernize-use-using) */
 
 /*
  * Rewrites a class image.

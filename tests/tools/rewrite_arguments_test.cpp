@@ -1,0 +1,140 @@
+// What vantrel-rewrite says to a command line, and to inputs and outputs that it cannot use. Each refusal is one line
+// that says what is wrong, and leaves the folder as it was.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tool_kit.h"
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::SizeIs;
+using testing::StartsWith;
+
+namespace {
+
+struct Refused {
+    const char* name;
+    Words arguments;
+    const char* says;
+};
+
+class Refusal : public testing::TestWithParam<Refused> {};
+
+TEST_P(Refusal, IsOneLineAndLeavesAllAsItWas) {
+    const ScratchFolder scratch;
+    const auto& folder = scratch.path;
+    write(folder / "A.class", program_class());
+    write(folder / "tree/A.class", program_class());
+    write(folder / "other/A.class", program_class());
+    write(folder / "there/tree/note", "kept");
+    write(folder / "text", "no class");
+    write(folder / "text.jar", "no jar");
+    write(folder / "bad/text.jar", "no jar");
+    const std::string jar = contents(kProgramJar);
+    write(folder / "program.jar", jar);
+    write(folder / "short.jar", jar.substr(0, jar.size() / 2));
+    write(folder / "script.jar", "#!/bin/sh\n" + jar);
+    write(folder / "start.jar", "#!/bin/sh\n" + jar);
+    ASSERT_EQ(run({"zip", "-qA", folder / "start.jar"}).status, 0);
+    const auto before = names_in(folder);
+
+    Words command{kRewrite};
+    command.insert(command.end(), GetParam().arguments.begin(), GetParam().arguments.end());
+    const Finished refused = run(command, {.folder = folder, .environment = {}});
+
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_EQ(refused.out, "");
+    EXPECT_THAT(lines_of(refused.err), SizeIs(1)) << refused.err;
+    EXPECT_THAT(refused.err, StartsWith("vantrel-rewrite: "));
+    EXPECT_THAT(refused.err, HasSubstr(GetParam().says));
+    EXPECT_EQ(names_in(folder), before);
+    EXPECT_EQ(contents(folder / "A.class"), program_class());
+    EXPECT_EQ(contents(folder / "program.jar"), jar);
+    EXPECT_EQ(contents(folder / "text"), "no class");
+}
+
+Words with_tracker(Words arguments) {
+    arguments.insert(arguments.begin(), {"--tracker", "com/x/Tracker"});
+    return arguments;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    OfOptions, Refusal,
+    testing::ValuesIn(std::vector<Refused>{
+        {"Nothing", {}, "--tracker is required"},
+        {"NoTracker", {"-o", "out", "A.class"}, "--tracker is required"},
+        {"NoOutput", with_tracker({"A.class"}), "--output is required"},
+        {"NoInput", with_tracker({"-o", "out"}), "IN is required"},
+        {"UnknownOption", with_tracker({"--trace", "-o", "out", "A.class"}), "--trace"},
+        {"OptionWithoutValue", with_tracker({"-o", "out", "A.class", "--call"}), "--call"},
+        {"EmptyTracker", {"--tracker", "", "-o", "out", "A.class"}, "'' is not a class name"},
+        {"TrackerWithGap", {"--tracker", "com..x", "-o", "out", "A.class"}, "'com..x' is not a class name"},
+        {"TrackerAsDescriptor", {"--tracker", "Lx/T;", "-o", "out", "A.class"}, "'Lx/T;' is not a class name"},
+        {"MethodWithClass", with_tracker({"--call", "T.in", "-o", "out", "A.class"}), "'T.in' is not a method's name"},
+        {"MethodWithParameters", with_tracker({"--return", "out()", "-o", "out", "A.class"}), "--return: 'out()'"},
+        {"EmptyMethod", with_tracker({"--new-array", "", "-o", "out", "A.class"}), "--new-array: ''"},
+        {"NoWorkers", with_tracker({"-j", "0", "-o", "out", "A.class"}), "-j"},
+        {"WorkersInWords", with_tracker({"-j", "two", "-o", "out", "A.class"}), "-j"}}),
+    [](const auto& info) { return info.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(
+    OfInputs, Refusal,
+    testing::ValuesIn(std::vector<Refused>{
+        {"Missing", with_tracker({"-o", "out", "A.class", "none.jar"}), "none.jar: there is no such file"},
+        {"NoClassAndNoJar", with_tracker({"-o", "out", "text"}), "text is neither a class file nor a jar"},
+        {"JarInNameOnly", with_tracker({"-o", "out", "text.jar"}), "cannot read text.jar: Not a zip archive"},
+        {"CutJar", with_tracker({"-o", "out", "short.jar"}), "cannot read short.jar: "},
+        {"CutJarBehindAGoodOne", with_tracker({"-o", "out", "program.jar", "short.jar"}), "cannot read short.jar: "},
+        {"BadJarInAFolder", with_tracker({"-o", "out", "bad"}), "cannot read bad/text.jar: Not a zip archive"},
+        {"JarBehindAScript", with_tracker({"-o", "out", "script.jar"}), "whole jar, with nothing before it?"},
+        {"JarThatKnowsOfItsScript", with_tracker({"-o", "out", "start.jar"}),
+         "start.jar has something before its first"},
+        {"Device", with_tracker({"-o", "out", "/dev/null"}), "/dev/null is neither a file nor a folder"}}),
+    [](const auto& info) { return info.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(
+    OfOutputs, Refusal,
+    testing::ValuesIn(std::vector<Refused>{
+        {"InNoFolder", with_tracker({"-o", "none/out", "A.class"}), "none is not a folder; make it first"},
+        {"InAFile", with_tracker({"-o", "text/out", "A.class"}), "text/out"},
+        {"FileForSeveral", with_tracker({"-o", "text", "A.class", "program.jar"}), "text is a file; several results"},
+        {"Device", with_tracker({"-o", "/dev/null", "A.class"}), "/dev/null is not a file that can be replaced"},
+        {"NotWritable", with_tracker({"-o", "/proc/out", "A.class"}), "cannot write /proc/"},
+        {"FolderThatIsThere", with_tracker({"-o", "there", "tree"}), "there/tree is there already; remove it"},
+        {"FolderInsideTheInput", with_tracker({"-o", "tree/out", "tree"}), "would be in the input tree"},
+        {"TheInputItself", with_tracker({"-o", ".", "tree"}), "would be in the input tree"},
+        {"TwoOfOneName", with_tracker({"-o", "out", "A.class", "other/A.class"}),
+         "A.class and other/A.class would both"},
+        {"MapIsTheInput", with_tracker({"--map", "A.class", "-o", "out", "A.class"}),
+         "A.class is an input or a result"},
+        {"MapIsTheOutput", with_tracker({"--map", "out", "-o", "out", "A.class"}), "out is an input or a result"},
+        {"MapIsAFolder", with_tracker({"--map", "tree", "-o", "out", "A.class"}), "tree is not a file"}}),
+    [](const auto& info) { return info.param.name; });
+
+TEST(Arguments, HelpAndVersionGoToStdout) {
+    const Finished help = run({kRewrite, "--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_EQ(help.err, "");
+    EXPECT_THAT(help.out, HasSubstr("Examples:"));
+    const Finished version = run({kRewrite, "--version"});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_THAT(lines_of(version.out), ElementsAre(StartsWith("vantrel-rewrite ")));
+}
+
+TEST(Arguments, ManualDescribesEachOptionOfHelp) {
+    const std::string manual = contents(VANTREL_REWRITE_MANUAL);
+    int options = 0;
+    for (const std::string& line : lines_of(run({kRewrite, "--help"}).out)) {
+        if (line.starts_with("  -")) {
+            ++options;
+            const std::string names = line.substr(2, line.find(' ', 2) - 2);  // -h,--help
+            EXPECT_THAT(manual, HasSubstr("`" + names.substr(names.find(',') + 1)));
+        }
+    }
+    EXPECT_EQ(options, 12);
+}
+
+}  // namespace

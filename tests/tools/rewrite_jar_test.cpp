@@ -1,0 +1,201 @@
+// What vantrel-rewrite does to a jar: classes become others, all else stays.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+
+#include "tool_kit.h"
+
+using testing::AllOf;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+// 45 is the oldest version; 53, the first that is too new.
+constexpr int kTooNew = 53;
+
+TEST(Jar, KeepsAllButTheContentsOfItsClasses) {
+    const ScratchFolder scratch;
+    const std::vector<Entry> before{
+        {"META-INF/", "", 946782246, true},
+        {"META-INF/MANIFEST.MF", "Manifest-Version: 1.0\r\nMain-Class: Program\r\n\r\n", 1000000000},
+        {"z/stored.bin", std::string("\0\1\2", 3), 315532800, true, "the first second of an archive's time"},
+        {"Program.class", program_class(), 1111111110, false, "a class"},
+        {"a/empty", "", 1234567890, true},
+        {"Program$Square.class", program_class("Program$Square"), 1711852200, true,
+         "half past two on a day without that hour"},
+        {"lib/inner.jar", contents(kProgramJar), 1300000000, true},
+        {"META-INF/versions/8/Program.class", program_class(), 1400000000},
+    };
+    make_jar(scratch.path / "in.jar", before, "the jar's own words");
+
+    const Finished done = run(rewrite_command({"-o", "out.jar", "in.jar"}),
+                              {.folder = scratch.path, .environment = {"TZ=CET-1CEST,M3.5.0,M10.5.0/3"}});
+
+    ASSERT_EQ(done.status, 0) << done.err;
+    EXPECT_EQ(done.out, "3 classes: 3 rewritten, 0 too new, 0 failed\n");
+    EXPECT_EQ(done.err, "");
+    std::vector<Entry> after = entries_of(scratch.path / "out.jar");
+    ASSERT_EQ(after.size(), before.size());
+    for (size_t index = 0; index < before.size(); ++index) {
+        if (before[index].name.ends_with(".class")) {
+            EXPECT_THAT(after[index].contents, AllOf(HasSubstr("com/x/Tracker"), HasSubstr("entered")));
+            after[index].contents = before[index].contents;
+        }
+        EXPECT_EQ(after[index], before[index]) << before[index].name;
+    }
+    EXPECT_EQ(comment_of(scratch.path / "out.jar"), "the jar's own words");
+}
+
+// The jar tool writes sizes behind the entries and marks a jar as one; zip adds times and owners of its own.
+TEST(Jar, OfOtherToolsKeepsTheRecordsOfItsEntries) {
+    const ScratchFolder scratch;
+    write(scratch.path / "files/Program.class", program_class());
+    write(scratch.path / "files/text", std::string(1000, 'x'));
+    ASSERT_EQ(run({"zip", "-qr", "../in.jar", "."}, {.folder = scratch.path / "files", .environment = {}}).status, 0);
+    ASSERT_EQ(rewrite({"-o", "out.jar", "in.jar"}, scratch.path).status, 0);
+    const auto record = [&](const std::string& jar, const std::string& entry) {
+        std::string kept;
+        for (const std::string& line : lines_of(run({"unzip", "-Zv", (scratch.path / jar).string(), entry}).out)) {
+            for (const char* what : {"modified on", "extra field", "attributes", "compression method", "subfield"}) {
+                kept += line.find(what) != std::string::npos ? line + "\n" : "";
+            }
+        }
+        return kept;
+    };
+    for (const char* entry : {"Program.class", "text"}) {
+        EXPECT_THAT(record("in.jar", entry), AllOf(HasSubstr("UT extra field"), HasSubstr("Unix file attributes")));
+        EXPECT_EQ(record("out.jar", entry), record("in.jar", entry));
+    }
+}
+
+TEST(Jar, CopiesAndNamesWhatItCannotRewrite) {
+    const ScratchFolder scratch;
+    const std::string cut = program_class().substr(0, 200);
+    const std::vector<Entry> before{
+        {"New.class", of_version(program_class(), kTooNew)},
+        {"Program.class", program_class()},
+        {"Cut.class", cut},
+        {"Text.class", "no class at all"},
+        {"Empty.class", ""},
+    };
+    make_jar(scratch.path / "in.jar", before);
+
+    const Finished quiet = rewrite({"--map", "quiet.map", "-o", "quiet.jar", "in.jar"}, scratch.path);
+    EXPECT_EQ(quiet.status, 1);
+    EXPECT_EQ(quiet.out, "5 classes: 1 rewritten, 1 too new, 3 failed (--verbose names them)\n");
+    EXPECT_EQ(quiet.err, "");
+
+    const Finished verbose = rewrite({"--verbose", "--map", "map", "-o", "out.jar", "in.jar"}, scratch.path);
+    EXPECT_EQ(verbose.status, 1);
+    EXPECT_EQ(verbose.out, "5 classes: 1 rewritten, 1 too new, 3 failed\n");
+    EXPECT_THAT(lines_of(verbose.err),
+                ElementsAre("in.jar: New.class: not rewritten: version 53 is newer than 52",
+                            HasSubstr("in.jar: Cut.class: not rewritten: CRW ASSERTION FAILURE: "),
+                            HasSubstr("in.jar: Text.class: not rewritten: CRW ASSERTION FAILURE: magic==0xCAFEBABE"),
+                            "in.jar: Empty.class: not rewritten: the file is empty"));
+
+    const std::vector<Entry> after = entries_of(scratch.path / "out.jar");
+    ASSERT_EQ(after.size(), before.size());
+    for (size_t index = 0; index < before.size(); ++index) {
+        EXPECT_EQ(after[index] == before[index], before[index].name != "Program.class") << before[index].name;
+    }
+    for (const std::string& line : lines_of(contents(scratch.path / "map"))) {
+        EXPECT_THAT(line, HasSubstr("1\t")) << "the second class, and no other";
+        EXPECT_THAT(line, HasSubstr("\tProgram\t"));
+    }
+    EXPECT_EQ(contents(scratch.path / "quiet.jar"), contents(scratch.path / "out.jar"));
+}
+
+// Class files that are too new are no failure, and a jar of nothing else is left alone, signature and all.
+TEST(Jar, OfTooNewClassesIsCopiedByteForByte) {
+    const ScratchFolder scratch;
+    make_jar(scratch.path / "in.jar",
+             {{"META-INF/MANIFEST.MF", "Manifest-Version: 1.0\r\n\r\nName: New.class\r\nSHA-256-Digest: AA==\r\n\r\n"},
+              {"META-INF/A.SF", "signature"},
+              {"New.class", of_version(program_class(), kTooNew)}});
+    const Finished done = rewrite({"-o", "out.jar", "in.jar"}, scratch.path);
+    EXPECT_EQ(done.status, 0);
+    EXPECT_EQ(done.out, "1 class: 0 rewritten, 1 too new, 0 failed (--verbose names them)\n");
+    EXPECT_EQ(contents(scratch.path / "out.jar"), contents(scratch.path / "in.jar"));
+}
+
+// An entry whose packed bytes are damaged cannot be read, but it can be carried over.
+TEST(Jar, CarriesADamagedClassOver) {
+    const ScratchFolder scratch;
+    const std::string marker = "these bytes will be others";
+    make_jar(scratch.path / "in.jar", {{"Program.class", program_class()}, {"Bad.class", marker, 946782246, true}});
+    std::string jar = contents(scratch.path / "in.jar");
+    jar.replace(jar.find(marker), 5, "THESE");
+    write(scratch.path / "in.jar", jar);
+
+    const Finished done = rewrite({"--verbose", "-o", "out.jar", "in.jar"}, scratch.path);
+
+    EXPECT_EQ(done.status, 1);
+    EXPECT_THAT(done.err, HasSubstr("in.jar: Bad.class: not rewritten: cannot read in.jar: CRC error"));
+    EXPECT_THAT(contents(scratch.path / "out.jar"), HasSubstr("THESE bytes will be others"));
+}
+
+TEST(Jar, ThatWasSignedWorksUnsigned) {
+    const ScratchFolder scratch;
+    const std::string keys = scratch.path / "keys";
+    const Finished keytool = run({kJdk / "bin/keytool", "-genkeypair", "-keystore", keys, "-storepass", "secret",
+                                  "-alias", "me", "-keyalg", "EC", "-dname", "CN=me"});
+    ASSERT_EQ(keytool.status, 0) << keytool.out << keytool.err;
+    // A class that is left alone, so that its digest must go as well as the others'.
+    std::vector<Entry> entries = entries_of(kProgramJar);
+    entries.push_back({"a/name/that/is/long/enough/for/the/manifest/to/break/its/line/in/two/New.class",
+                       of_version(program_class(), kTooNew)});
+    make_jar(scratch.path / "in.jar", entries);
+    const Finished jarsigner =
+        run({kJdk / "bin/jarsigner", "-keystore", keys, "-storepass", "secret", scratch.path / "in.jar", "me"});
+    ASSERT_EQ(jarsigner.status, 0) << jarsigner.out << jarsigner.err;
+    ASSERT_THAT(entry_names(scratch.path / "in.jar"), AllOf(Contains("META-INF/ME.SF"), Contains("META-INF/ME.EC")));
+
+    const Finished done =
+        run({kRewrite, "--tracker", "Program", "-o", "out.jar", "in.jar"}, {.folder = scratch.path, .environment = {}});
+
+    EXPECT_EQ(done.status, 0);
+    EXPECT_EQ(done.err, "in.jar: signed; the result is not (2 signature files dropped)\n");
+    const std::string jar = scratch.path / "out.jar";
+    EXPECT_THAT(entry_names(jar), Not(Contains(HasSubstr("META-INF/ME."))));
+    std::string manifest;
+    for (const Entry& entry : entries_of(jar)) {
+        manifest += entry.name == "META-INF/MANIFEST.MF" ? entry.contents : "";
+    }
+    EXPECT_THAT(manifest,
+                AllOf(HasSubstr("Main-Class: Program\r\n"), Not(HasSubstr("Digest")), Not(HasSubstr("Name:"))));
+    EXPECT_THAT(run({kJdk / "bin/jarsigner", "-verify", jar}).out, HasSubstr("jar is unsigned"));
+    EXPECT_EQ(run({kJdk / "bin/java", "-jar", jar}).out, "24 55 4\n");
+}
+
+// What a manifest says of entries beside their digests stays.
+TEST(Jar, LosesDigestsFromItsManifestAndNothingElse) {
+    const ScratchFolder scratch;
+    const std::string kept =
+        "Manifest-Version: 1.0\nX-Digest-Algorithms: kept, being no entry's\n\n"
+        "Name: a\nSealed: true\n\n";
+    make_jar(scratch.path / "in.jar",
+             {{"META-INF/manifest.mf", kept + "Name: Program.class\nSHA-256-Digest: AAAA\n BBBB\n\n"
+                                              "Name: b\nSHA1-Digest-fr: AAAA\nComment: kept\nsha-512-digest: CCCC\n\n"
+                                              "Name: c\n\n"},
+              {"META-INF/a.sf", "signature"},
+              {"META-INF/a.rsa", "signature"},
+              {"META-INF/A.DSA", "signature"},
+              {"META-INF/sig-a", "signature"},
+              {"META-INF/services/a.SF", "no signature"},
+              {"a.RSA", "no signature"},
+              {"Program.class", program_class()}});
+    const Finished done = rewrite({"-o", "out.jar", "in.jar"}, scratch.path);
+    EXPECT_EQ(done.status, 0);
+    EXPECT_EQ(done.err, "in.jar: signed; the result is not (4 signature files dropped)\n");
+    EXPECT_THAT(entry_names(scratch.path / "out.jar"),
+                ElementsAre("META-INF/manifest.mf", "META-INF/services/a.SF", "a.RSA", "Program.class"));
+    EXPECT_EQ(entries_of(scratch.path / "out.jar")[0].contents, kept + "Name: b\nComment: kept\n\nName: c\n\n");
+}
+
+}  // namespace

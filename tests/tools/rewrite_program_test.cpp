@@ -1,0 +1,128 @@
+// Programs that vantrel-rewrite has rewritten, in a VM that verifies them.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <map>
+#include <sstream>
+#include <string>
+
+#include "tool_kit.h"
+
+using testing::ElementsAreArray;
+using testing::HasSubstr;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Compiles com.x.Tracker into the folder `tracker`.
+void compile_tracker(const fs::path& folder, const std::string& source) {
+    write(folder / "Tracker.java", source);
+    const Finished javac =
+        run({kJdk / "bin/javac", "--release", "8", "-Xlint:all,-options", "-Werror", "-d", "tracker", "Tracker.java"},
+            {.folder = folder, .environment = {}});
+    ASSERT_EQ(javac.status, 0) << javac.out << javac.err;
+}
+
+Finished run_program(const fs::path& folder) {
+    return run({kJdk / "bin/java", "-cp", "tracked.jar:tracker", "Program"}, {.folder = folder, .environment = {}});
+}
+
+// The manual's example, as it stands there.
+std::string tracker_of_manual() {
+    const std::string manual = contents(VANTREL_REWRITE_MANUAL);
+    const std::string begin = "```java\n";
+    const size_t from = manual.find(begin) + begin.size();
+    return manual.substr(from, manual.find("```", from) - from);
+}
+
+TEST(RewrittenProgram, IsCountedByTheManualsTracker) {
+    const ScratchFolder scratch;
+    compile_tracker(scratch.path, tracker_of_manual());
+    const Finished done =
+        rewrite({"--return", "left", "--new-array", "made", "-o", "tracked.jar", kProgramJar}, scratch.path);
+    ASSERT_EQ(done.status, 0) << done.err;
+    const Finished program = run_program(scratch.path);
+    EXPECT_EQ(program.status, 0);
+    EXPECT_EQ(program.out, "24 55 4\n");
+    // main, array 7 times, fail (which does not return), sum 11 times, a square set up, made and asked; 7 arrays and a
+    // double one
+    EXPECT_EQ(program.err, "23 calls, 22 returns, 8 arrays\n");
+}
+
+TEST(RewrittenProgram, IsReadWithTheMap) {
+    const ScratchFolder scratch;
+    compile_tracker(scratch.path,
+                    "package com.x;\n"
+                    "public final class Tracker {\n"
+                    "    public static void entered(int type, int method) {\n"
+                    "        System.err.println(type + \"\\t\" + method);\n"
+                    "    }\n"
+                    "}\n");
+    // Two classes before the program's own, so that its numbers are not those of its jar.
+    write(scratch.path / "Program$Square.class", program_class("Program$Square"));
+    write(scratch.path / "Program$Shape.class", program_class("Program$Shape"));
+    fs::copy_file(kProgramJar, scratch.path / "tracked.jar");
+    ASSERT_EQ(rewrite({"--map", "map", "-o", "out", "Program$Square.class", "Program$Shape.class", "tracked.jar"},
+                      scratch.path)
+                  .status,
+              0);
+    fs::rename(scratch.path / "out/tracked.jar", scratch.path / "tracked.jar");
+    std::map<std::string, std::string> methods;
+    for (const std::string& line : lines_of(contents(scratch.path / "map"))) {
+        const size_t tab = line.find('\t', line.find('\t') + 1);
+        methods[line.substr(0, tab)] = line.substr(tab + 1);
+    }
+    std::vector<std::string> entered;
+    for (const std::string& line : lines_of(run_program(scratch.path).err)) {
+        entered.push_back(methods[line]);
+    }
+    std::vector<std::string> expected{"Program\tmain\t([Ljava/lang/String;)V"};
+    expected.insert(expected.end(), 7, "Program\tarray\t(I)[I");
+    expected.emplace_back("Program\tfail\t()V");
+    expected.insert(expected.end(), 11, "Program\tsum\t(I)I");
+    expected.emplace_back("Program$Square\t<clinit>\t()V");
+    expected.emplace_back("Program$Square\t<init>\t()V");
+    expected.emplace_back("Program$Square\tcorners\t()I");
+    EXPECT_THAT(entered, ElementsAreArray(expected));
+}
+
+// Each option names what it names, and what is not asked for is not there.
+TEST(RewrittenClass, HoldsTheNamesThatWereGiven) {
+    const ScratchFolder scratch;
+    write(scratch.path / "A.class", program_class());
+    const std::vector<std::string> options{"--call", "--return", "--object-init", "--new-array"};
+    for (const std::string& given : options) {
+        ASSERT_EQ(run({kRewrite, "--tracker", "com.x.Tracker", given, "tracked" + given, "-o", "B.class", "A.class"},
+                      {.folder = scratch.path, .environment = {}})
+                      .status,
+                  0);
+        const std::string image = contents(scratch.path / "B.class");
+        EXPECT_THAT(image, HasSubstr("com/x/Tracker"));
+        EXPECT_THAT(image, HasSubstr("tracked" + given));
+    }
+}
+
+TEST(RewrittenClass, IsTheSameForATrackerWithDotsAndWithSlashes) {
+    const ScratchFolder scratch;
+    write(scratch.path / "A.class", program_class());
+    for (const std::string name : {"com.x.Tracker", "com/x/Tracker"}) {
+        const std::string out = name == "com.x.Tracker" ? "dots" : "slashes";
+        ASSERT_EQ(run({kRewrite, "--tracker", name, "--call", "in", "-o", out, "A.class"},
+                      {.folder = scratch.path, .environment = {}})
+                      .status,
+                  0);
+    }
+    EXPECT_EQ(contents(scratch.path / "dots"), contents(scratch.path / "slashes"));
+}
+
+// What sets a class up is left alone in a system class.
+TEST(RewrittenClass, OfTheSystemIsHandledWithCare) {
+    const ScratchFolder scratch;
+    write(scratch.path / "A.class", program_class("Program$Square"));
+    ASSERT_EQ(rewrite({"-o", "own", "A.class"}, scratch.path).status, 0);
+    ASSERT_EQ(rewrite({"--system-class", "-o", "system", "A.class"}, scratch.path).status, 0);
+    EXPECT_LT(fs::file_size(scratch.path / "system"), fs::file_size(scratch.path / "own"));
+}
+
+}  // namespace

@@ -1,0 +1,36 @@
+#include "workers.h"
+
+#include <atomic>
+#include <exception>
+#include <thread>
+#include <vector>
+
+#include "interrupt.h"
+
+void for_each_index(unsigned workers, size_t count, const std::function<void(unsigned, size_t)>& work) {
+    std::atomic<size_t> next{0};
+    std::vector<std::exception_ptr> thrown(workers);
+    const auto run = [&](unsigned worker) {
+        try {
+            for (size_t index = next++; index < count; index = next++) {
+                interrupt::check();
+                work(worker, index);
+            }
+        } catch (...) {
+            thrown[worker] = std::current_exception();
+            next = count;
+        }
+    };
+    {
+        std::vector<std::jthread> threads;
+        for (unsigned worker = 1; worker < workers && worker < count; ++worker) {
+            threads.emplace_back(run, worker);
+        }
+        run(0);
+    }
+    for (const std::exception_ptr& exception : thrown) {
+        if (exception) {
+            std::rethrow_exception(exception);
+        }
+    }
+}
