@@ -27,11 +27,6 @@ std::string_view c_string(std::string_view text) {
     return text.substr(0, text.find('\0'));
 }
 
-uint16_t require_index(const ClassRewriteState& ci, uint16_t index) {
-    require(ci, index > 0 && index < ci.cpool_count_plus_one, "c_index > 0 && c_index < ci->cpool_count_plus_one");
-    return index;
-}
-
 void copy_magic(ClassRewriteState& ci) {
     require(ci, copy_u4(ci) == kMagic, "magic==0xCAFEBABE");
 }
@@ -45,7 +40,7 @@ void copy_versions(ClassRewriteState& ci) {
 }
 
 void copy_this_class(ClassRewriteState& ci) {
-    const std::string_view own_name = cpool_class_name(ci, require_index(ci, copy_u2(ci)));
+    const std::string_view own_name = cpool_class_name(ci, copy_u2(ci));
     if (!ci.name) {
         ci.name = c_string(own_name);
         require(ci, ci.name->find('.') == std::string_view::npos, "strchr(ci->name,'.')==NULL");
@@ -172,7 +167,7 @@ std::string_view read_class_name(ClassRewriteState& ci) {
     read_u4(ci);  // versions
     cpool_index(ci);
     read_u2(ci);  // access_flags
-    return cpool_class_name(ci, require_index(ci, read_u2(ci)));
+    return cpool_class_name(ci, read_u2(ci));
 }
 
 }  // namespace crw

@@ -29,10 +29,10 @@ struct Tracker {
     uint16_t index = 0;
 };
 
-// An entry that the rewriter has appended to the constant pool, as far as a class file may refer to it.
-struct AppendedConstant {
+// An entry of the constant pool, as far as the rewriter reads it.
+struct Constant {
     uint8_t tag;
-    uint16_t first_value;   // the first index that it holds
+    uint16_t name_index;    // of a Class entry
     std::string_view text;  // of a Utf8 entry
 };
 
@@ -59,7 +59,7 @@ struct ClassRewriteState {
     // The constant pool: for each index of the class file the position of its tag in the input, 0 where an index has
     // no entry; and the appended entries, whose indexes follow.
     std::vector<uint32_t> constant_positions;
-    std::vector<AppendedConstant> appended_constants;
+    std::vector<Constant> appended_constants;
     uint16_t cpool_max_elements = 0;
     uint16_t cpool_count_plus_one = 0;
 

@@ -44,7 +44,7 @@ constexpr uint32_t kLargestImmediate = 0x7FFF;
 }
 
 // Records an entry whose bytes have been written. Returns its index.
-uint16_t append(ClassRewriteState& ci, AppendedConstant constant) {
+uint16_t append(ClassRewriteState& ci, Constant constant) {
     ci.appended_constants.push_back(constant);
     return ci.cpool_count_plus_one++;
 }
@@ -68,13 +68,28 @@ uint16_t add_pair(ClassRewriteState& ci, Tag tag, uint32_t first, uint32_t secon
     write_u1(ci, tag);
     write_u2(ci, first);
     write_u2(ci, second);
-    return append(ci, {tag, static_cast<uint16_t>(first), {}});
+    return append(ci, {tag, 0, {}});
 }
 
 uint16_t add_method(ClassRewriteState& ci, const Tracker& tracker) {
     const uint16_t name = add_utf8(ci, tracker.name);
     const uint16_t descriptor = add_utf8(ci, tracker.signature);
     return add_pair(ci, kMethodref, ci.tracker_class_index, add_pair(ci, kNameAndType, name, descriptor));
+}
+
+// The entry at an index: one of the class file's, or one that was appended. A class file that is not well formed may
+// refer to those too.
+Constant constant_at(const ClassRewriteState& ci, uint32_t index) {
+    require(ci, index > 0 && index < ci.cpool_count_plus_one, kIndexRule);
+    const size_t own_count = ci.constant_positions.size();
+    if (index >= own_count) {
+        return ci.appended_constants[index - own_count];
+    }
+    require(ci, ci.constant_positions[index] != 0, kIndexRule);
+    const uint8_t* entry = ci.input + ci.constant_positions[index];
+    const uint8_t tag = entry[0];
+    const uint16_t value = u2_at(entry + 1);
+    return {tag, value, tag == kUtf8 ? std::string_view(reinterpret_cast<const char*>(entry) + 3, value) : ""};
 }
 
 }  // namespace
@@ -139,29 +154,15 @@ void cpool_setup(ClassRewriteState& ci) {
 }
 
 std::string_view cpool_text(const ClassRewriteState& ci, uint32_t index) {
-    require(ci, index > 0 && index < ci.cpool_count_plus_one, kIndexRule);
-    const size_t own_count = ci.constant_positions.size();
-    if (index >= own_count) {
-        const AppendedConstant& constant = ci.appended_constants[index - own_count];
-        require(ci, constant.tag == kUtf8, kIndexRule);
-        return constant.text;
-    }
-    const uint8_t* entry = ci.input + ci.constant_positions[index];
-    require(ci, ci.constant_positions[index] != 0 && entry[0] == kUtf8, kIndexRule);
-    return {reinterpret_cast<const char*>(entry) + 3, u2_at(entry + 1)};
+    const Constant constant = constant_at(ci, index);
+    require(ci, constant.tag == kUtf8, kIndexRule);
+    return constant.text;
 }
 
 std::string_view cpool_class_name(const ClassRewriteState& ci, uint32_t index) {
-    require(ci, index > 0 && index < ci.cpool_count_plus_one, kIndexRule);
-    const size_t own_count = ci.constant_positions.size();
-    if (index >= own_count) {
-        const AppendedConstant& constant = ci.appended_constants[index - own_count];
-        require(ci, constant.tag == kClass, kIndexRule);
-        return cpool_text(ci, constant.first_value);
-    }
-    const uint8_t* entry = ci.input + ci.constant_positions[index];
-    require(ci, ci.constant_positions[index] != 0 && entry[0] == kClass, kIndexRule);
-    return cpool_text(ci, u2_at(entry + 1));
+    const Constant constant = constant_at(ci, index);
+    require(ci, constant.tag == kClass, kIndexRule);
+    return cpool_text(ci, constant.name_index);
 }
 
 }  // namespace crw
