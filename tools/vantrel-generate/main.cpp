@@ -43,8 +43,9 @@ void report(const std::string& message) {
 }
 
 std::vector<std::string> vm_options(const Arguments& arguments) {
-    // Ours come first, so that the user's win.
-    std::vector<std::string> options = {"-Djava.awt.headless=true", "-Djava.class.path=" + arguments.class_path};
+    // Ours come first, so that the user's win. Standard output is for --list: what the VM has to say is not.
+    std::vector<std::string> options = {"-XX:+DisplayVMOutputToStderr", "-Djava.awt.headless=true",
+                                        "-Djava.class.path=" + arguments.class_path};
     options.insert(options.end(), arguments.vm_options.begin(), arguments.vm_options.end());
     return options;
 }
