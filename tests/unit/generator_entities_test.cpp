@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <string>
@@ -58,17 +59,13 @@ struct Collected {
     Collected& operator=(const Collected&) = delete;
 
     [[nodiscard]] std::vector<std::string> func_names() const {
-        std::vector<std::string> names;
-        for (int i = 0; i < method_count; ++i) {
-            names.emplace_back(methods[i]->func_name);
-        }
+        std::vector<std::string> names(method_count);
+        std::transform(methods, methods + method_count, names.begin(), [](auto* method) { return method->func_name; });
         return names;
     }
     [[nodiscard]] std::vector<std::string> field_names() const {
-        std::vector<std::string> names;
-        for (int i = 0; i < field_count; ++i) {
-            names.emplace_back(fields[i]->name);
-        }
+        std::vector<std::string> names(field_count);
+        std::transform(fields, fields + field_count, names.begin(), [](auto* field) { return field->name; });
         return names;
     }
 

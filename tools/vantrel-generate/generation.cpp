@@ -3,7 +3,6 @@
 #include <CodeGenerater/CodeGenerater.h>
 
 #include <algorithm>
-#include <cstring>
 #include <iostream>
 #include <memory>
 #include <string_view>
@@ -170,7 +169,7 @@ void generate(const RunningVm& vm, const std::string& name, const fs::path& fold
         throw Failure{internal + ": its name is too long"};
     }
     char class_name[kClassNameSize] = {};
-    memcpy(class_name, simple_name.data(), simple_name.size());
+    simple_name.copy(class_name, kClassNameSize - 1);
 
     const LocalFrame frame(vm.env);
     jclass clazz = load(vm.env, internal);

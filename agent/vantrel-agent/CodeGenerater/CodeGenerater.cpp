@@ -122,10 +122,12 @@ bool parameters_fit(const MethodEntity& method) {
     return all < all_size;
 }
 
-// The text of an assertion that cannot hold.
-const bool FALSE = false;
-
 }  // namespace
+
+// The text of an assertion that cannot hold.
+#ifndef FALSE
+#define FALSE 0
+#endif
 
 char* GetTypeInformation(const char* descriptor, int* is_array, int* array_dims, char* jni_type, char* call_type) {
     const TypeWords* words = find_words(kResultTypes, *read_dimensions(descriptor, is_array, array_dims));

@@ -107,9 +107,9 @@ JNIEXPORT int GetSimpleName(const char* descriptor, char* name, unsigned long si
 // The same, but adds it to the text in `name`.
 JNIEXPORT int GetSimpleArgumentName(const char* descriptor, char* name, unsigned long size);
 
-// Adds what follows the last '/' of an internal name, or all of it, to the text in `name`, which has room for that.
-// Returns `name`.
-JNIEXPORT char* GetClassName(char* name, char* internal_name);
+// Adds what follows the last '/' of an internal name, or all of it, to the text in `out`, which has room for that.
+// Returns `out`.
+JNIEXPORT char* GetClassName(char* out, char* internal_name);
 
 // A copy of the text, to be given back with free().
 JNIEXPORT char* CopyOf(const char* text);

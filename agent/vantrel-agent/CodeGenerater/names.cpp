@@ -55,11 +55,11 @@ int GetSimpleArgumentName(const char* descriptor, char* name, unsigned long size
     return 1;
 }
 
-char* GetClassName(char* name, char* internal_name) {
+char* GetClassName(char* out, char* internal_name) {
     const char* slash = strrchr(internal_name, '/');
     const char* found = slash != nullptr ? slash + 1 : internal_name;
-    memcpy(name + strlen(name), found, strlen(found) + 1);
-    return name;
+    memcpy(out + strlen(out), found, strlen(found) + 1);
+    return out;
 }
 
 char* CopyOf(const char* text) {
