@@ -429,7 +429,8 @@ jvmtiError JNICALL fake_Deallocate(jvmtiEnv*, unsigned char* block) {
 // A block with a copy of what JVMTI returns, which the caller has to deallocate.
 template <typename Element>
 Element* allocated_copy(const Element* elements, size_t count) {
-    std::vector<unsigned char> bytes(count * sizeof(Element));
+    // An element may be an identifier, which is a pointer on purpose.
+    std::vector<unsigned char> bytes(count * sizeof(Element));  // NOLINT(bugprone-sizeof-expression)
     if (count > 0) {
         memcpy(bytes.data(), elements, bytes.size());
     }
