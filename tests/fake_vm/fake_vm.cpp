@@ -426,16 +426,64 @@ jvmtiError JNICALL fake_Deallocate(jvmtiEnv*, unsigned char* block) {
     return error;
 }
 
+// A block with a copy of what JVMTI returns, which the caller has to deallocate.
+template <typename Element>
+Element* allocated_copy(const Element* elements, size_t count) {
+    // An element may be an identifier, which is a pointer on purpose.
+    std::vector<unsigned char> bytes(count * sizeof(Element));  // NOLINT(bugprone-sizeof-expression)
+    if (count > 0) {
+        memcpy(bytes.data(), elements, bytes.size());
+    }
+    bytes.reserve(1);  // an address even for nothing
+    unsigned char* block = bytes.data();
+    current->allocated.emplace(block, std::move(bytes));
+    return reinterpret_cast<Element*>(block);
+}
+
+void give_text(const std::string& text, char** out) {
+    if (out != nullptr) {
+        *out = allocated_copy(text.c_str(), text.size() + 1);
+    }
+}
+
 jvmtiError name_of(const char* function, void* id, char** name, char** descriptor) {
     const auto error = error_of(record(function, member_text(id)));
     if (error == JVMTI_ERROR_NONE) {
-        FakeMember& member = *member_of(id);
-        if (name != nullptr) {
-            *name = member.name.data();
+        give_text(member_of(id)->name, name);
+        give_text(member_of(id)->descriptor, descriptor);
+    }
+    return error;
+}
+
+jvmtiError JNICALL fake_GetClassSignature(jvmtiEnv*, jclass clazz, char** signature, char** /*generic*/) {
+    const auto error = error_of(record("GetClassSignature", clazz));
+    if (error == JVMTI_ERROR_NONE) {
+        give_text("L" + text(clazz) + ";", signature);
+    }
+    return error;
+}
+
+// The members of a class, methods or fields.
+template <typename Id>
+jvmtiError members_of(const char* function, jclass clazz, bool methods, jint* count, Id** ids) {
+    const auto error = error_of(record(function, clazz));
+    if (error == JVMTI_ERROR_NONE) {
+        std::vector<Id> found;
+        for (FakeMember& member : current->members) {
+            if (member.owner == clazz && member.descriptor.starts_with('(') == methods) {
+                found.push_back(reinterpret_cast<Id>(&member));
+            }
         }
-        if (descriptor != nullptr) {
-            *descriptor = member.descriptor.data();
-        }
+        *count = static_cast<jint>(found.size());
+        *ids = allocated_copy(found.data(), found.size());
+    }
+    return error;
+}
+
+jvmtiError modifiers_of(const char* function, void* id, jint* modifiers) {
+    const auto error = error_of(record(function, member_text(id)));
+    if (error == JVMTI_ERROR_NONE) {
+        *modifiers = member_of(id)->modifiers;
     }
     return error;
 }
@@ -446,6 +494,19 @@ void fill(jvmtiInterface_1_& jvmti) {
     };
     jvmti.GetFieldName = [](jvmtiEnv*, jclass, jfieldID field, char** name, char** descriptor, char** /*generic*/) {
         return name_of("GetFieldName", field, name, descriptor);
+    };
+    jvmti.GetClassSignature = fake_GetClassSignature;
+    jvmti.GetClassFields = [](jvmtiEnv*, jclass clazz, jint* count, jfieldID** fields) {
+        return members_of("GetClassFields", clazz, false, count, fields);
+    };
+    jvmti.GetClassMethods = [](jvmtiEnv*, jclass clazz, jint* count, jmethodID** methods) {
+        return members_of("GetClassMethods", clazz, true, count, methods);
+    };
+    jvmti.GetFieldModifiers = [](jvmtiEnv*, jclass, jfieldID field, jint* modifiers) {
+        return modifiers_of("GetFieldModifiers", field, modifiers);
+    };
+    jvmti.GetMethodModifiers = [](jvmtiEnv*, jmethodID method, jint* modifiers) {
+        return modifiers_of("GetMethodModifiers", method, modifiers);
     };
     jvmti.GetLocalVariableTable = [](jvmtiEnv*, jmethodID method, jint*, jvmtiLocalVariableEntry**) {
         return error_of(record("GetLocalVariableTable", method));
@@ -536,7 +597,7 @@ jbyteArray FakeVm::add_bytes(std::string_view name, std::vector<jbyte> bytes) {
 }
 
 jmethodID FakeVm::add_method(jclass owner, std::string_view name, std::string_view descriptor, jvalue result) {
-    members.push_back({owner, std::string(name), std::string(descriptor), result, nullptr, {}});
+    members.push_back({owner, std::string(name), std::string(descriptor), result, nullptr, {}, 0});
     return reinterpret_cast<jmethodID>(&members.back());
 }
 
@@ -552,8 +613,16 @@ jmethodID FakeVm::add_throwing_method(jclass owner, std::string_view name, std::
 }
 
 jfieldID FakeVm::add_field(jclass owner, std::string_view name, std::string_view descriptor) {
-    members.push_back({owner, std::string(name), std::string(descriptor), {}, nullptr, {}});
+    members.push_back({owner, std::string(name), std::string(descriptor), {}, nullptr, {}, 0});
     return reinterpret_cast<jfieldID>(&members.back());
+}
+
+void set_modifiers(jmethodID method, jint modifiers) {
+    member_of(method)->modifiers = modifiers;
+}
+
+void set_modifiers(jfieldID field, jint modifiers) {
+    member_of(field)->modifiers = modifiers;
 }
 
 void set_field(jobject object, std::string_view name, jobject value) {

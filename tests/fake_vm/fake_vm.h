@@ -44,6 +44,7 @@ struct FakeMember {
     jvalue result;               // of a method
     jobject thrown;              // by a method: pending once it was called
     std::function<void()> body;  // what a call of a method does besides
+    jint modifiers;              // Java's access flags, as JVMTI gives them
 };
 
 struct FakeVm {
@@ -61,6 +62,8 @@ struct FakeVm {
     jmethodID add_throwing_method(jclass owner, std::string_view name, std::string_view descriptor, jobject thrown);
     jfieldID add_field(jclass owner, std::string_view name, std::string_view descriptor);
     void add_property(std::string_view name, std::string_view value);
+
+    // GetClassFields and GetClassMethods list a class's members in the order in which they were added.
 
     // Makes the `nth` call of a function fail: with `code` where the function returns a status or a JVMTI error, with
     // null and a pending exception where it returns a handle.
@@ -93,6 +96,10 @@ struct FakeVm {
     std::map<std::string, std::string, std::less<>> properties;
     std::vector<Failure> failures;
 };
+
+// Gives a member of a FakeVm its access flags, which are none otherwise.
+void set_modifiers(jmethodID method, jint modifiers);
+void set_modifiers(jfieldID field, jint modifiers);
 
 // Gives an object of a FakeVm a value that GetObjectField reads.
 void set_field(jobject object, std::string_view name, jobject value);

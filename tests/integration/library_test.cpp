@@ -19,6 +19,7 @@ using testing::Not;
 using testing::Pair;
 using testing::ThrowsMessage;
 using testing::UnorderedElementsAre;
+using testing::UnorderedElementsAreArray;
 
 namespace {
 
@@ -39,10 +40,46 @@ TEST(Library, ExportsItsInterfaceAndNothingElse) {
     }
     EXPECT_THAT(of_proxies, UnorderedElementsAre(Pair("::Init(_jvmtiEnv*, JNIEnv_*)", 21),
                                                  Pair("::Destroy(_jvmtiEnv*, JNIEnv_*)", 21)));
-    EXPECT_THAT(exported, UnorderedElementsAre(
-                              "Agent_OnAttach", "Agent_OnLoad", "Agent_OnUnload", "add_demo_jar_to_bootclasspath",
-                              "allocate", "check_jvmti_error", "covered_by_list", "deallocate", "fatal_error",
-                              "get_token", "interested", "java_crw_demo", "java_crw_demo_classname", "stdout_message"));
+    const std::vector<std::string> expected = {
+        // the agent and its helpers
+        "Agent_OnAttach",
+        "Agent_OnLoad",
+        "Agent_OnUnload",
+        "add_demo_jar_to_bootclasspath",
+        "allocate",
+        "check_jvmti_error",
+        "covered_by_list",
+        "deallocate",
+        "fatal_error",
+        "get_token",
+        "interested",
+        "stdout_message",
+        // the rewriter
+        "java_crw_demo",
+        "java_crw_demo_classname",
+        // the generator
+        "CanAcceptField(char*, char*, int)",
+        "CanAcceptMethod(char*, char*, int)",
+        "CopyOf(char const*)",
+        "FreeFieldEntities(FieldEntity**, int)",
+        "FreeMethodEntiry(MethodEntity**, int)",
+        "GenerateFiles(_jvmtiEnv*, JNIEnv_*, char*)",
+        "GenerateFiles(_jvmtiEnv*, JNIEnv_*, char*, char*)",
+        "GetCPPFileName(char*, char*, char*)",
+        "GetClassName(char*, char*)",
+        "GetFieldEntities(_jvmtiEnv*, _jclass*, char*, FieldEntity***, int*, int (*)(char*, char*, int))",
+        "GetHeaderFileName(char*, char*, char*)",
+        "GetHeaderMacro(char*, char*)",
+        "GetMethodEntities(_jvmtiEnv*, _jclass*, char*, int*, MethodEntity***, int (*)(char*, char*, int))",
+        "GetSimpleArgumentName(char const*, char*, unsigned long)",
+        "GetSimpleName(char const*, char*, unsigned long)",
+        "GetTypeInformation(char const*, int*, int*, char*, char*)",
+        "IsMethodEntityFuncNameExists(MethodEntity**, int, MethodEntity*)",
+        "WriteCPPFile(char*, char*, char*, MethodEntity**, int, FieldEntity**, int)",
+        "WriteHeaderFile(char*, char*, MethodEntity**, int, FieldEntity**, int)",
+        "doTest()",
+    };
+    EXPECT_THAT(exported, UnorderedElementsAreArray(expected));
 }
 
 // Another library's `allocate` must not come between ours and its callers.

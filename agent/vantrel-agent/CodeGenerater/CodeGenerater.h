@@ -1,0 +1,137 @@
+// The proxy source generator: a loaded Java class in, the header and body of its proxy out (JCBase.h says what a proxy
+// is). A development tool that is built into the library: nothing in the agent calls it. Call GenerateFiles from a
+// debugging build or a hook of your own; the command vantrel-generate runs it without an application.
+//
+//     char name[] = "java/awt/Container";
+//     char folder[] = "/tmp/proxies";
+//     GenerateFiles(jvmti, env, name, folder);
+//
+// On the way the class becomes two arrays of records, one of its fields and one of its methods and constructors. The
+// arrays are plain memory of the heap with a count beside them, made by GetFieldEntities and GetMethodEntities and
+// given back by FreeFieldEntities and FreeMethodEntiry.
+//
+// Threads: the calling thread is attached to the VM and owns the JNIEnv that it passes. The generator keeps no state.
+//
+// Failures: what does not fit its record is left out, with one line on stderr that names it, and so is a file that
+// cannot be written. A class that the VM cannot find, a descriptor that is none, and an argument whose class is in the
+// unnamed package end the process with an assertion.
+#ifndef CODEGENERATER_H
+#define CODEGENERATER_H
+
+#include <jni.h>
+#include <jvmti.h>
+
+// Java's access flags, as far as the generator looks at them.
+constexpr int kPrivate = 0x0002;
+constexpr int kProtected = 0x0004;
+constexpr int kStatic = 0x0008;
+
+constexpr int kMaxArguments = 36;
+constexpr unsigned long kClassNameSize = 64;  // of a class's simple name, and of its header macro
+constexpr unsigned long kFilePathSize = 1024;
+
+// An argument of a method.
+struct ArgumentEntity {
+    char type_name[256];  // JNI type of the element: "jint" for an int and for an int[][]
+    char argu_name[256];  // stem of the parameter's name, and its word in the name of an overload: "Int", "String"
+    int is_array;
+    int array_dims;
+};
+
+// A method or constructor.
+struct MethodEntity {
+    char name[256];       // Java's name; the class's simple name for a constructor
+    char func_name[256];  // the wrapper's name: as `name`, unless overloads would collide
+    char signature[256];  // the method's descriptor
+    int modifiers;        // Java's access flags
+    int is_void;
+    int is_constructor;
+    char return_type[512];  // JNI type of the result, or of its elements; "jobject" for a constructor
+    int is_array;           // the result is an array
+    int array_dims;
+    int argu_count;
+    ArgumentEntity** argus;  // room for kMaxArguments
+    char call_type[256];     // word of the JNI function that calls it: "Int", "Object", "Void"
+};
+
+struct FieldEntity {
+    char name[256];
+    char signature[256];  // the field's descriptor
+    char call_type[256];  // word of the JNI functions that get and set it
+    char type_name[256];  // JNI type of the field, or of its elements
+    int is_array;
+    int array_dims;
+    int modifiers;  // Java's access flags
+};
+
+// Says whether a member is wanted, other than 0, from the class's simple name, the member's name and its access flags.
+using EntityFilter = int (*)(char* class_name, char* name, int modifiers);
+
+// Generates <directory>\<simple name>.h and .cpp, replacing what is there. True if both were written.
+//   name       the class's internal name, "java/awt/Component"; the class is loaded and initialised
+//   directory  "C:\generated-files" without one. The backslash is a separator on no other system than Windows:
+//   elsewhere
+//              it is a part of the file's name
+JNIEXPORT bool GenerateFiles(jvmtiEnv* jvmti, JNIEnv* env, char* name);
+JNIEXPORT bool GenerateFiles(jvmtiEnv* jvmti, JNIEnv* env, char* name, char* directory);
+
+// From the class to the records, in the order in which the VM lists its members. The caller gives the arrays back; a
+// class without members has an array, too.
+//   class_name  the class's simple name
+//   filter      null takes all
+JNIEXPORT void GetFieldEntities(jvmtiEnv* jvmti, jclass clazz, char* class_name, FieldEntity*** fields, int* count,
+                                EntityFilter filter);
+// Overloads with the same number of arguments are renamed: all but the last of them are called nameWithArguments. The
+// words of the suffix do not tell an array from its elements.
+JNIEXPORT void GetMethodEntities(jvmtiEnv* jvmti, jclass clazz, char* class_name, int* count, MethodEntity*** methods,
+                                 EntityFilter filter);
+JNIEXPORT void FreeFieldEntities(FieldEntity** fields, int count);
+JNIEXPORT void FreeMethodEntiry(MethodEntity** methods, int count);
+
+// The filters that GenerateFiles uses: 1 for members that a proxy has.
+JNIEXPORT int CanAcceptMethod(char* class_name, char* name, int modifiers);
+JNIEXPORT int CanAcceptField(char* class_name, char* name, int modifiers);
+
+// 1 if another method of the array has the same func_name and the same number of arguments as `entity`, otherwise 0.
+JNIEXPORT int IsMethodEntityFuncNameExists(MethodEntity** methods, int count, MethodEntity* entity);
+
+// Reads one descriptor of a field or result. An array's type is that of its elements, its word is "Object". Returns
+// `jni_type`. Both texts have room for 16 bytes.
+JNIEXPORT char* GetTypeInformation(const char* descriptor, int* is_array, int* array_dims, char* jni_type,
+                                   char* call_type);
+
+// Puts the simple name of the class in a descriptor, between its last '/' and the ';' or the end, into `name`. 0 if
+// there is no '/'. A name that does not fit is cut.
+//   size  the room in `name`, which is cleared
+JNIEXPORT int GetSimpleName(const char* descriptor, char* name, unsigned long size);
+// The same, but adds it to the text in `name`.
+JNIEXPORT int GetSimpleArgumentName(const char* descriptor, char* name, unsigned long size);
+
+// Adds what follows the last '/' of an internal name, or all of it, to the text in `out`, which has room for that.
+// Returns `out`.
+JNIEXPORT char* GetClassName(char* out, char* internal_name);
+
+// A copy of the text, to be given back with free().
+JNIEXPORT char* CopyOf(const char* text);
+
+// Writes the header, or the body, of a proxy; false, and a line on stderr, if that fails. A file that is there stays as
+// it was until the new one is whole.
+//   class_signature  as the VM gives it, "Ljava/awt/Component;"; is cut to the internal name
+//   class_name       the class's simple name
+JNIEXPORT bool WriteHeaderFile(char* path, char* class_name, MethodEntity** methods, int method_count,
+                               FieldEntity** fields, int field_count);
+JNIEXPORT bool WriteCPPFile(char* class_signature, char* path, char* class_name, MethodEntity** methods,
+                            int method_count, FieldEntity** fields, int field_count);
+
+// Adds the name with its letters a to z in upper case to the text in `macro`, which has room for that.
+JNIEXPORT void GetHeaderMacro(char* macro, char* name);
+
+// The paths <directory>\<name>.h and <directory>\<name>.cpp. `path` has room for kFilePathSize bytes and is empty after
+// a path that does not fit.
+JNIEXPORT void GetHeaderFileName(char* path, char* directory, char* name);
+JNIEXPORT void GetCPPFileName(char* path, char* directory, char* name);
+
+// Tries out the allocation of argument records and prints to stdout what it got.
+JNIEXPORT void doTest();
+
+#endif

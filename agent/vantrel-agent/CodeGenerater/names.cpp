@@ -1,0 +1,82 @@
+// The names that the generator makes: of classes, header macros and files.
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <string>
+#include <string_view>
+
+#include "CodeGenerater.h"
+
+namespace {
+
+// What lies between the last '/' and the ';' or the end; no data where there is no '/'.
+std::string_view simple_name(std::string_view descriptor) {
+    descriptor = descriptor.substr(0, descriptor.find(';'));
+    const size_t slash = descriptor.rfind('/');
+    return slash == std::string_view::npos ? std::string_view() : descriptor.substr(slash + 1);
+}
+
+// Adds as much of `added` to the text in `to` as fits into `size` bytes.
+void append_cut(char* to, unsigned long size, std::string_view added) {
+    const size_t length = strnlen(to, size);
+    if (length >= size) {
+        return;
+    }
+    const size_t fitting = std::min(added.size(), size - length - 1);
+    memcpy(to + length, added.data(), fitting);
+    to[length + fitting] = '\0';
+}
+
+void format_path(char* path, const char* directory, const char* name, const char* ending) {
+    const int length = snprintf(path, kFilePathSize, "%s\\%s%s", directory, name, ending);
+    if (length < 0 || static_cast<unsigned long>(length) >= kFilePathSize) {
+        path[0] = '\0';
+    }
+}
+
+}  // namespace
+
+int GetSimpleName(const char* descriptor, char* name, unsigned long size) {
+    memset(name, 0, size);
+    const std::string_view found = simple_name(descriptor);
+    if (found.data() == nullptr) {
+        return 0;
+    }
+    append_cut(name, size, found);
+    return 1;
+}
+
+int GetSimpleArgumentName(const char* descriptor, char* name, unsigned long size) {
+    const std::string_view found = simple_name(descriptor);
+    if (found.data() == nullptr) {
+        return 0;
+    }
+    append_cut(name, size, found);
+    return 1;
+}
+
+char* GetClassName(char* out, char* internal_name) {
+    const char* slash = strrchr(internal_name, '/');
+    const char* found = slash != nullptr ? slash + 1 : internal_name;
+    memcpy(out + strlen(out), found, strlen(found) + 1);
+    return out;
+}
+
+char* CopyOf(const char* text) {
+    return strdup(text);
+}
+
+void GetHeaderMacro(char* macro, char* name) {
+    // Not toupper: the locale has no say in a macro's name.
+    char* end = std::transform(name, name + strlen(name), macro + strlen(macro),
+                               [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+    *end = '\0';
+}
+
+void GetHeaderFileName(char* path, char* directory, char* name) {
+    format_path(path, directory, name, ".h");
+}
+
+void GetCPPFileName(char* path, char* directory, char* name) {
+    format_path(path, directory, name, ".cpp");
+}

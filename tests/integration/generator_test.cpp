@@ -1,0 +1,312 @@
+// vantrel-generate on the classes of real VMs: its files compile, their wrappers work, and they are like the proxies
+// that the agent has.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "java_vm.h"
+#include "process.h"
+
+namespace fs = std::filesystem;
+using testing::AllOf;
+using testing::Contains;
+using testing::ContainsRegex;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::MatchesRegex;
+using testing::Not;
+
+namespace {
+
+class Generator : public testing::TestWithParam<int> {};
+INSTANTIATE_TEST_SUITE_P(OnJdk, Generator, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
+
+std::string text_of(const fs::path& path) {
+    std::ifstream file(path);
+    EXPECT_TRUE(file) << path;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::vector<std::string> lines_of(const std::string& text) {
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+// The names of files with an ending, without it.
+std::vector<std::string> names_in(const fs::path& folder, const std::string& ending) {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        if (entry.path().extension() == ending) {
+            names.push_back(entry.path().stem());
+        }
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+Finished generate(int release, const Arguments& arguments) {
+    return run(Arguments{VANTREL_GENERATE, "--java-home", *find_jdk(release)} + arguments);
+}
+
+// A folder as the proxies have it: jc/ for the generated files, and what they include beside it.
+struct ProxyFolder {
+    ProxyFolder() {
+        fs::create_directory(jc);
+        for (const char* header : {"JCBase.h", "JavaInc.h", "common.h", "assertion.h"}) {
+            fs::copy_file(fs::path(VANTREL_AGENT_SOURCES) / header, scratch.path / header);
+        }
+    }
+    ScratchFolder scratch;
+    fs::path jc = scratch.path / "jc";
+};
+
+// The compiler with the warnings that the generated files have to do without.
+Arguments compiler(const ProxyFolder& folder) {
+    return {VANTREL_CXX_COMPILER,
+            "-std=c++20",
+            "-Wall",
+            "-Wextra",
+            "-Werror",
+            std::string("-I") + VANTREL_JDK_INCLUDE,
+            std::string("-I") + VANTREL_JDK_PLATFORM_INCLUDE,
+            "-I" + folder.scratch.path.string()};
+}
+
+const Arguments kFiveClasses = {"java/util/EventObject", "java.awt.Container", "javax.swing.SwingUtilities",
+                                "java.lang.Thread", "java.awt.Graphics2D"};
+
+TEST_P(Generator, ItsWrappersCompileAndCallJava) {
+    SKIP_WITHOUT_JDK(GetParam());
+    const ProxyFolder folder;
+    const Finished generated = generate(GetParam(), Arguments{"--out", folder.jc} + kFiveClasses);
+    ASSERT_EQ(generated.status, 0) << generated.err;
+    EXPECT_EQ(generated.out + generated.err, "");
+    const std::vector<std::string> expected = {"Container", "EventObject", "Graphics2D", "SwingUtilities", "Thread"};
+    EXPECT_EQ(names_in(folder.jc, ".h"), expected);
+    ASSERT_EQ(names_in(folder.jc, ".cpp"), expected);
+
+    const fs::path library = folder.scratch.path / "libgenerated-calls.so";
+    Arguments command = compiler(folder) + Arguments{"-shared", "-fPIC", "-o", library, VANTREL_GENERATED_CALLS};
+    for (const std::string& name : expected) {
+        command.push_back(folder.jc / (name + ".cpp"));
+    }
+    const Finished compiled = run(command);
+    ASSERT_EQ(compiled.status, 0) << compiled.err;
+    const Finished called = run({*find_jdk(GetParam()) / "bin" / "java", "-Djava.awt.headless=true", "-Xcheck:jni",
+                                 "-cp", kTestFolder / "test-programs.jar", "GeneratedCalls", library});
+    EXPECT_EQ(called.status, 0) << called.err;
+    EXPECT_THAT(lines_of(called.out), Contains("all called"));
+    EXPECT_THAT(called.out, Not(ContainsRegex("FATAL|failed: "))) << called.err;
+}
+
+// Files that no C++ compiler takes, and why.
+const std::map<std::string, std::string> kNotCpp = {
+    // A static method that takes the object in front has the parameters of the instance method's wrapper.
+    {"DebugGraphics", "redefinition of .*DebugOptions"},
+    // A method is called `operator`.
+    {"GroupLayout$Group", "expected type-specifier before"},
+    {"GroupLayout$ParallelGroup", "expected type-specifier before"},
+    {"GroupLayout$SequentialGroup", "expected type-specifier before"},
+    // A method is called `union`.
+    {"Rectangle", "expected identifier before"},
+};
+
+TEST_P(Generator, AllPublicClassesOfTheToolkitsCompile) {
+    SKIP_WITHOUT_JDK(GetParam());
+    const Finished listed = run({*find_jdk(GetParam()) / "bin" / "java", "-cp", kTestFolder / "test-programs.jar",
+                                 "PublicClasses", "java/awt", "javax/swing"});
+    ASSERT_EQ(listed.status, 0) << listed.err;
+    const std::vector<std::string> classes = lines_of(listed.out);
+    ASSERT_GT(classes.size(), 250U);
+
+    const ProxyFolder folder;
+    const Finished generated = generate(GetParam(), Arguments{"--out", folder.jc} + classes);
+    ASSERT_EQ(generated.status, 0) << generated.err;
+    EXPECT_EQ(generated.err, "");
+    const std::vector<std::string> names = names_in(folder.jc, ".cpp");
+    EXPECT_EQ(names.size(), classes.size());
+    EXPECT_EQ(names_in(folder.jc, ".h"), names);
+
+    Arguments command = compiler(folder) + Arguments{"-fsyntax-only"};
+    for (const std::string& name : names) {
+        const std::string file = folder.jc / (name + ".cpp");
+        if (kNotCpp.contains(name)) {
+            const Finished refused = run(compiler(folder) + Arguments{"-fsyntax-only", file});
+            EXPECT_THAT(refused.err, ContainsRegex(kNotCpp.at(name))) << name << " can be compiled";
+        } else {
+            command.push_back(file);
+        }
+    }
+    const Finished compiled = run(command);
+    EXPECT_EQ(compiled.status, 0) << compiled.err;
+}
+
+// A proxy's paragraphs in no order, with the descriptor of a constructor or method in place of its number.
+std::multiset<std::string> paragraphs_without_order(const fs::path& header, const fs::path& file) {
+    std::map<std::string, std::string> descriptors;
+    const std::string prototypes = text_of(header);
+    const std::regex prototype("//([0-9]+) (\\S+)\n");
+    for (std::sregex_iterator at(prototypes.begin(), prototypes.end(), prototype), end; at != end; ++at) {
+        descriptors[(*at)[1]] = (*at)[2];
+    }
+    const std::string text = text_of(file);
+    const std::regex number("(, |//)([0-9]+)([) ])");
+    std::string numberless;
+    auto copied = text.begin();
+    for (std::sregex_iterator at(text.begin(), text.end(), number), end; at != end; ++at) {
+        numberless.append(copied, (*at)[0].first);
+        numberless += (*at)[1].str() + descriptors.at((*at)[2]) + (*at)[3].str();
+        copied = (*at)[0].second;
+    }
+    numberless.append(copied, text.end());
+
+    std::multiset<std::string> paragraphs;
+    size_t begin = 0;
+    for (size_t end; (end = numberless.find("\n\n", begin)) != std::string::npos; begin = end + 2) {
+        paragraphs.insert(numberless.substr(begin, end - begin));
+    }
+    paragraphs.insert(numberless.substr(begin));
+    return paragraphs;
+}
+
+// Classes that have not changed since the agent's proxies were made: only the order of their members is another.
+TEST(GeneratorOnJdk17, MakesWhatTheAgentHas) {
+    SKIP_WITHOUT_JDK(17);
+    const ProxyFolder folder;
+    const Finished generated =
+        generate(17, {"--out", folder.jc, "java.lang.Object", "java.util.EventObject", "java.awt.AWTEvent"});
+    ASSERT_EQ(generated.status, 0) << generated.err;
+    const fs::path committed = fs::path(VANTREL_AGENT_SOURCES) / "jc";
+    for (const std::string name : {"Object", "EventObject", "AWTEvent"}) {
+        for (const char* ending : {".h", ".cpp"}) {
+            EXPECT_EQ(paragraphs_without_order(folder.jc / (name + ".h"), folder.jc / (name + ending)),
+                      paragraphs_without_order(committed / (name + ".h"), committed / (name + ending)))
+                << name << ending;
+        }
+    }
+}
+
+TEST_P(Generator, ListsInTheOrderOfTheClassFile) {
+    SKIP_WITHOUT_JDK(GetParam());
+    const Finished listed = generate(
+        GetParam(), {"--class-path", kTestFolder / "test-programs.jar", "--list", "java.util.EventObject", "Listed"});
+    EXPECT_EQ(listed.status, 0);
+    EXPECT_EQ(listed.err, "");
+    EXPECT_EQ(listed.out,
+              "java/util/EventObject\n"
+              "    0 EventObject (Ljava/lang/Object;)V\n"
+              "    1 getSource ()Ljava/lang/Object;\n"
+              "    2 toString ()Ljava/lang/String;\n"
+              "Listed\n"
+              "    static ZONE Ljava/lang/String;\n"
+              "    count J\n"
+              "    0 static sizes ([Ljava/lang/String;)[I\n"
+              "    1 Listed (I)V\n"
+              "    2 addWithInteger (Ljava/lang/Integer;)V\n"
+              "    3 add (S)V\n");
+}
+
+TEST_P(Generator, GoesOnAfterAClassThatCannotBeWritten) {
+    SKIP_WITHOUT_JDK(GetParam());
+    const ScratchFolder scratch;
+    const fs::path out = scratch.path / "new/folder";
+    const Finished generated =
+        generate(GetParam(), {"--class-path", kTestFolder / "test-programs.jar", "--out", out, "no.Such",
+                              "UnnamedArgument", "FailingClass", "java.util.List", "java.awt.List", "a;b",
+                              std::string("p/") + std::string(64, 'n'), "java.util.EventObject"});
+    EXPECT_EQ(generated.status, 1);
+    EXPECT_THAT(
+        lines_of(generated.err),
+        ElementsAre("vantrel-generate: no/Such: cannot be loaded: java.lang.ClassNotFoundException: no.Such",
+                    "vantrel-generate: UnnamedArgument: its method take (ILUnnamedArgument;)V has an argument whose "
+                    "class is in no package, which a proxy cannot have",
+                    "vantrel-generate: FailingClass: cannot be loaded: java.lang.IllegalStateException: not today",
+                    "vantrel-generate: java/awt/List: another class has been written to List.h in this run",
+                    "vantrel-generate: 'a;b' is not a class name; write it like java.awt.Container or "
+                    "java/awt/Container",
+                    "vantrel-generate: p/" + std::string(64, 'n') + ": its name is too long"));
+    EXPECT_THAT(names_in(out, ".cpp"), ElementsAre("EventObject", "List"));
+}
+
+TEST_P(Generator, SaysWhyItDoesNothing) {
+    SKIP_WITHOUT_JDK(GetParam());
+    const ScratchFolder scratch;
+    const std::string out = scratch.path / "out";
+    const std::string file = scratch.path / "file";
+    std::ofstream(file) << "a file";
+    const struct {
+        Arguments arguments;
+        std::string last_line;
+    } cases[] = {
+        {{"--out", out}, "vantrel-generate: CLASS is required; .*--help.*"},
+        {{"java.util.List"}, "vantrel-generate: --out is required; .*--help.*"},
+        {{"--list", "--out", out, "java.util.List"}, "vantrel-generate: --out excludes --list; .*--help.*"},
+        {{"--out", out, "--vm-option=-Xnone", "java.util.List"},
+         "vantrel-generate: the Java VM in .* does not start \\(JNI_CreateJavaVM: -[0-9]+\\)"},
+        {{"--out", out, "--vm-option", "-Xmx1", "java.util.List"},
+         "vantrel-generate: the Java VM has ended the process"},
+        {{"--class-path", kTestFolder / "test-programs.jar", "--list", "LeavingClass"},
+         "vantrel-generate: the Java VM has ended the process"},
+        {{"--out", file + "/below", "java.util.List"}, "vantrel-generate: cannot make the folder .*: Not a directory"},
+    };
+    for (const auto& c : cases) {
+        const Finished generated = generate(GetParam(), c.arguments);
+        EXPECT_EQ(generated.status, 2);
+        ASSERT_THAT(lines_of(generated.err), Not(IsEmpty())) << c.last_line;
+        EXPECT_THAT(lines_of(generated.err).back(), MatchesRegex(c.last_line));
+        EXPECT_EQ(generated.out, "");
+    }
+    EXPECT_FALSE(fs::exists(out));
+}
+
+TEST(GeneratorCommand, FindsTheVmOrSaysThatThereIsNone) {
+    SKIP_WITHOUT_JDK(17);
+    const ScratchFolder scratch;
+    const std::string jdk = *find_jdk(17);
+    const fs::path java = scratch.path / "java";
+    fs::create_symlink(jdk + "/bin/java", java);
+    const std::string none = "vantrel-generate: there is no Java: no --java-home, no JAVA_HOME, no java on the path\n";
+    const struct {
+        Arguments arguments;
+        std::vector<std::string> environment;
+        int status;
+        std::string err;
+    } cases[] = {
+        {{}, {"JAVA_HOME=" + jdk, "PATH="}, 0, ""},
+        {{}, {"JAVA_HOME=", "PATH=/nowhere:" + scratch.path.string()}, 0, ""},
+        {{"--java-home", jdk}, {"JAVA_HOME=/nowhere", "PATH="}, 0, ""},
+        {{}, {"JAVA_HOME=", "PATH=/nowhere"}, 2, none},
+        {{"--java-home", "/nowhere"}, {"JAVA_HOME=" + jdk}, 2, "vantrel-generate: there is no Java VM in /nowhere\n"},
+    };
+    for (const auto& c : cases) {
+        const Finished listed = run(Arguments{VANTREL_GENERATE, "--list", "java.util.EventObject"} + c.arguments,
+                                    {.folder = {}, .environment = c.environment});
+        EXPECT_EQ(listed.status, c.status) << c.environment.front() << " " << c.environment.back();
+        EXPECT_EQ(listed.err, c.err);
+    }
+}
+
+TEST(GeneratorCommand, ExplainsItself) {
+    const Finished help = run({VANTREL_GENERATE, "--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_THAT(help.out, AllOf(HasSubstr("--java-home DIR"), HasSubstr("--class-path PATH"),
+                                HasSubstr("--vm-option OPT"), HasSubstr("--out DIR"), HasSubstr("--list"),
+                                HasSubstr("\n  vantrel-generate --out proxies java.util.EventObject")));
+    EXPECT_THAT(run({VANTREL_GENERATE, "--version"}).out, MatchesRegex("vantrel-generate [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+}
+
+}  // namespace

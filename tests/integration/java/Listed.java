@@ -1,0 +1,24 @@
+/** Members of each kind, in an order that is not the alphabet's. */
+public class Listed {
+    static final String ZONE = "zone";
+    long count;
+
+    public static int[] sizes(String... names) {
+        return new int[names.length];
+    }
+
+    public Listed(int count) {
+        this.count = count;
+    }
+
+    void add(Integer value) {
+        count += value;
+    }
+
+    protected void hidden() {
+    }
+
+    void add(short value) {
+        count += value;
+    }
+}

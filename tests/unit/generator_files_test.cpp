@@ -1,0 +1,396 @@
+// The generator's files: their text to the byte, their names, and what happens when they cannot be written.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "CodeGenerater/CodeGenerater.h"
+#include "fake_vm.h"
+
+namespace fs = std::filesystem;
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::KilledBySignal;
+using testing::Not;
+using testing::StartsWith;
+
+namespace {
+
+constexpr int kPublic = 0x0001;
+
+std::string text_of(const fs::path& path) {
+    std::ifstream file(path);
+    EXPECT_TRUE(file) << path;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// An empty folder that is the working directory, for the paths with a backslash in them. Gone with its files.
+struct OwnFolder {
+    OwnFolder() : before(fs::current_path()) {
+        std::string name = fs::temp_directory_path() / "vantrel-generator-XXXXXX";
+        EXPECT_NE(mkdtemp(name.data()), nullptr);
+        path = name;
+        fs::current_path(path);
+    }
+    ~OwnFolder() {
+        fs::current_path(before);
+        fs::remove_all(path);
+    }
+    OwnFolder(const OwnFolder&) = delete;
+    OwnFolder& operator=(const OwnFolder&) = delete;
+
+    [[nodiscard]] std::vector<std::string> files() const {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(path)) {
+            names.push_back(entry.path().filename());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    fs::path before;
+    fs::path path;
+};
+
+// Generates into the working directory; whether both files were written.
+bool generate(FakeVm& vm, std::string name, std::string directory = "out") {
+    return GenerateFiles(vm.jvmti, vm.jni, name.data(), directory.data());
+}
+
+constexpr const char* kHeader =
+    "#ifndef GAUGE2D_H\n"
+    "#define GAUGE2D_H\n"
+    "\n"
+    "#include \"../JCBase.h\"\n"
+    "#include \"../JavaInc.h\"\n"
+    "#include  <assert.h>\n"
+    "\n"
+    "namespace NSGauge2D{\n"
+    "\n"
+    "\textern CACHE_JAVA_CLASS(Gauge2D);\n"
+    "\n"
+    "\textern CACHE_JAVA_FIELD(Gauge2D, parent);\n"
+    "\n"
+    "\textern CACHE_JAVA_STATIC_FIELD(Gauge2D, LIMITS);\n"
+    "\n"
+    "\textern CACHE_JAVA_CONSTRUCTOR(Gauge2D, 0);\n"
+    "\n"
+    "\textern CACHE_JAVA_CONSTRUCTOR(Gauge2D, 1);\n"
+    "\n"
+    "\textern CACHE_JAVA_METHOD(Gauge2D, show, 2);\n"
+    "\n"
+    "\textern CACHE_JAVA_METHOD(Gauge2D, show, 3);\n"
+    "\n"
+    "\textern CACHE_JAVA_STATIC_METHOD(Gauge2D, steps, 4);\n"
+    "\n"
+    "\textern CACHE_JAVA_STATIC_METHOD(Gauge2D, reset, 5);\n"
+    "\n"
+    "\tjobject Gauge2D(JNIEnv *env); //0 ()V\n"
+    "\n"
+    "\tjobject Gauge2D(JNIEnv *env, jobject Component0, jintArray Int1); //1 (Ljava/awt/Component;[I)V\n"
+    "\n"
+    "\tvoid showWithshortVal(JNIEnv *env, jobject _this, jshort shortVal0); //2 (S)V\n"
+    "\n"
+    "\tjobjectArray show(JNIEnv *env, jobject _this, jobjectArray String0); //3 "
+    "([[Ljava/lang/String;)[Ljava/lang/String;\n"
+    "\n"
+    "\tjintArray steps(JNIEnv *env, jdouble Double0); //4 (D)[I\n"
+    "\n"
+    "\tvoid reset(JNIEnv *env); //5 ()V\n"
+    "\n"
+    "\tJNIEXPORT void JNICALL Init(jvmtiEnv *jvmti_env, JNIEnv *jni_env);\n"
+    "\tJNIEXPORT void JNICALL Destroy(jvmtiEnv *jvmti_env, JNIEnv *jni_env);\n"
+    "}\n"
+    "#endif\n";
+
+constexpr const char* kBody =
+    "#include \"Gauge2D.h\"\n"
+    "#include \"../common.h\"\n"
+    "#include  <assert.h>\n"
+    "\n"
+    "namespace NSGauge2D{\n"
+    "\n"
+    "\tCACHE_JAVA_CLASS(Gauge2D) = NULL;\n"
+    "\n"
+    "\t//fields(2)\n"
+    "\n"
+    "\tCACHE_JAVA_FIELD(Gauge2D, parent) = NULL;\n"
+    "\n"
+    "\tCACHE_JAVA_STATIC_FIELD(Gauge2D, LIMITS) = NULL;\n"
+    "\n"
+    "\t//methods(6)\n"
+    "\n"
+    "\tCACHE_JAVA_CONSTRUCTOR(Gauge2D, 0) = NULL;\n"
+    "\n"
+    "\tCACHE_JAVA_CONSTRUCTOR(Gauge2D, 1) = NULL;\n"
+    "\n"
+    "\tCACHE_JAVA_METHOD(Gauge2D, show, 2) = NULL;\n"
+    "\n"
+    "\tCACHE_JAVA_METHOD(Gauge2D, show, 3) = NULL;\n"
+    "\n"
+    "\tCACHE_JAVA_STATIC_METHOD(Gauge2D, steps, 4) = NULL;\n"
+    "\n"
+    "\tCACHE_JAVA_STATIC_METHOD(Gauge2D, reset, 5) = NULL;\n"
+    "\n"
+    "\tjobject Gauge2D(JNIEnv *env){\n"
+    "\t\tINIT_CACHE_CLASS(env, JAVA_CLASS(Gauge2D), \"com/example/Gauge2D\");\n"
+    "\t\tif (!JAVA_CONSTRUCTOR(Gauge2D, 0)){\n"
+    "\t\t\tINIT_CACHE_CONSTRUCTOR(env, Gauge2D, \"()V\", 0);\n"
+    "\t\t}\n"
+    "\t\treturn (jobject)env->NewObject(JAVA_CLASS(Gauge2D), JAVA_CONSTRUCTOR(Gauge2D, 0));\n"
+    "\t}\n"
+    "\n"
+    "\tjobject Gauge2D(JNIEnv *env, jobject Component0, jintArray Int1){\n"
+    "\t\tINIT_CACHE_CLASS(env, JAVA_CLASS(Gauge2D), \"com/example/Gauge2D\");\n"
+    "\t\tif (!JAVA_CONSTRUCTOR(Gauge2D, 1)){\n"
+    "\t\t\tINIT_CACHE_CONSTRUCTOR(env, Gauge2D, \"(Ljava/awt/Component;[I)V\", 1);\n"
+    "\t\t}\n"
+    "\t\treturn (jobject)env->NewObject(JAVA_CLASS(Gauge2D), JAVA_CONSTRUCTOR(Gauge2D, 1), Component0, Int1);\n"
+    "\t}\n"
+    "\n"
+    "\tvoid showWithshortVal(JNIEnv *env, jobject _this, jshort shortVal0){\n"
+    "\t\tINIT_CACHE_CLASS(env, JAVA_CLASS(Gauge2D), \"com/example/Gauge2D\");\n"
+    "\t\tINIT_CACHE_METHOD(env, Gauge2D, show, \"(S)V\", 2);\n"
+    "\t\tenv->CallVoidMethod(_this, JAVA_METHOD(Gauge2D, show, 2), shortVal0);\n"
+    "\t}\n"
+    "\n"
+    "\tjobjectArray show(JNIEnv *env, jobject _this, jobjectArray String0){\n"
+    "\t\tINIT_CACHE_CLASS(env, JAVA_CLASS(Gauge2D), \"com/example/Gauge2D\");\n"
+    "\t\tINIT_CACHE_METHOD(env, Gauge2D, show, \"([[Ljava/lang/String;)[Ljava/lang/String;\", 3);\n"
+    "\t\treturn (jobjectArray)env->CallObjectMethod(_this, JAVA_METHOD(Gauge2D, show, 3), String0);\n"
+    "\t}\n"
+    "\n"
+    "\tjintArray steps(JNIEnv *env, jdouble Double0){\n"
+    "\t\tINIT_CACHE_CLASS(env, JAVA_CLASS(Gauge2D), \"com/example/Gauge2D\");\n"
+    "\t\tINIT_CACHE_STATIC_METHOD(env, Gauge2D, steps, \"(D)[I\", 4);\n"
+    "\t\treturn (jintArray)env->CallStaticObjectMethod(JAVA_CLASS(Gauge2D), JAVA_METHOD(Gauge2D, steps, 4), "
+    "Double0);\n"
+    "\t}\n"
+    "\n"
+    "\tvoid reset(JNIEnv *env){\n"
+    "\t\tINIT_CACHE_CLASS(env, JAVA_CLASS(Gauge2D), \"com/example/Gauge2D\");\n"
+    "\t\tINIT_CACHE_STATIC_METHOD(env, Gauge2D, reset, \"()V\", 5);\n"
+    "\t\tenv->CallStaticVoidMethod(JAVA_CLASS(Gauge2D), JAVA_METHOD(Gauge2D, reset, 5));\n"
+    "\t}\n"
+    "\n"
+    "\tJNIEXPORT void JNICALL Init(jvmtiEnv *jvmti_env, JNIEnv *jni_env){\n"
+    "\t\tINIT_CACHE_CLASS(jni_env, Gauge2D, \"com/example/Gauge2D\");\n"
+    "\t\tINIT_CACHE_FIELD(jni_env, Gauge2D, parent, \"Ljava/awt/Container;\");\n"
+    "\t\tINIT_CACHE_STATIC_FIELD(jni_env, Gauge2D, LIMITS, \"[I\");\n"
+    "\t}\n"
+    "\n"
+    "\tJNIEXPORT void JNICALL Destroy(jvmtiEnv *jvmti_env, JNIEnv *jni_env){\n"
+    "\t\tDELETE_CACHED_CLASS_REF(jni_env, Gauge2D);\n"
+    "\t\tDELETE_CACHED_FIELD_REF(jni_env, Gauge2D, parent);\n"
+    "\t\tDELETE_CACHED_FIELD_REF(jni_env, Gauge2D, LIMITS);\n"
+    "\t}\n"
+    "\n"
+    "}\n";
+
+jclass add_gauge(FakeVm& vm) {
+    const jclass gauge = vm.add_class("com/example/Gauge2D");
+    set_modifiers(vm.add_field(gauge, "serialVersionUID", "J"), kPublic | kStatic);
+    vm.add_field(gauge, "parent", "Ljava/awt/Container;");
+    set_modifiers(vm.add_field(gauge, "secret", "I"), kPrivate);
+    set_modifiers(vm.add_field(gauge, "LIMITS", "[I"), kPublic | kStatic);
+    vm.add_method(gauge, "<init>", "()V");
+    vm.add_method(gauge, "<init>", "(Ljava/awt/Component;[I)V");
+    set_modifiers(vm.add_method(gauge, "measure", "()V"), kProtected);
+    vm.add_method(gauge, "show", "(S)V");
+    vm.add_method(gauge, "show", "([[Ljava/lang/String;)[Ljava/lang/String;");
+    set_modifiers(vm.add_method(gauge, "steps", "(D)[I"), kPublic | kStatic);
+    set_modifiers(vm.add_method(gauge, "reset", "()V"), kStatic);
+    return gauge;
+}
+
+TEST(GeneratorFiles, AreAProxyToTheByte) {
+    const OwnFolder folder;
+    FakeVm vm;
+    add_gauge(vm);
+    EXPECT_TRUE(generate(vm, "com/example/Gauge2D"));
+    ASSERT_THAT(folder.files(), ElementsAre("out\\Gauge2D.cpp", "out\\Gauge2D.h"));
+    EXPECT_EQ(text_of("out\\Gauge2D.h"), kHeader);
+    EXPECT_EQ(text_of("out\\Gauge2D.cpp"), kBody);
+    EXPECT_THAT(vm.allocated, IsEmpty());
+
+    // A second run replaces them, and without a directory they have the built-in one.
+    std::ofstream("out\\Gauge2D.h") << std::string(10000, 'x');
+    EXPECT_TRUE(generate(vm, "com/example/Gauge2D"));
+    EXPECT_EQ(text_of("out\\Gauge2D.h"), kHeader);
+    char name[] = "com/example/Gauge2D";
+    EXPECT_TRUE(GenerateFiles(vm.jvmti, vm.jni, name));
+    EXPECT_EQ(text_of("C:\\generated-files\\Gauge2D.h"), kHeader);
+    EXPECT_EQ(text_of("C:\\generated-files\\Gauge2D.cpp"), kBody);
+}
+
+TEST(GeneratorFiles, OfAnEmptyClassHaveTheClassAlone) {
+    const OwnFolder folder;
+    FakeVm vm;
+    vm.add_class("Main");
+    ASSERT_TRUE(generate(vm, "Main"));
+    EXPECT_EQ(text_of("out\\Main.h"),
+              "#ifndef MAIN_H\n#define MAIN_H\n\n#include \"../JCBase.h\"\n#include \"../JavaInc.h\"\n"
+              "#include  <assert.h>\n\nnamespace NSMain{\n\n\textern CACHE_JAVA_CLASS(Main);\n\n"
+              "\tJNIEXPORT void JNICALL Init(jvmtiEnv *jvmti_env, JNIEnv *jni_env);\n"
+              "\tJNIEXPORT void JNICALL Destroy(jvmtiEnv *jvmti_env, JNIEnv *jni_env);\n}\n#endif\n");
+    EXPECT_EQ(text_of("out\\Main.cpp"),
+              "#include \"Main.h\"\n#include \"../common.h\"\n#include  <assert.h>\n\nnamespace NSMain{\n\n"
+              "\tCACHE_JAVA_CLASS(Main) = NULL;\n\n\t//fields(0)\n\n\t//methods(0)\n\n"
+              "\tJNIEXPORT void JNICALL Init(jvmtiEnv *jvmti_env, JNIEnv *jni_env){\n"
+              "\t\tINIT_CACHE_CLASS(jni_env, Main, \"Main\");\n\t}\n\n"
+              "\tJNIEXPORT void JNICALL Destroy(jvmtiEnv *jvmti_env, JNIEnv *jni_env){\n"
+              "\t\tDELETE_CACHED_CLASS_REF(jni_env, Main);\n\t}\n\n}\n");
+}
+
+TEST(GeneratorFiles, CountButDoNotWriteTheVersionOfASerialForm) {
+    const OwnFolder folder;
+    FakeVm vm;
+    const jclass clazz = vm.add_class("p/C");
+    vm.add_field(clazz, "serialVersionUID", "J");
+    vm.add_field(clazz, "kept", "I");
+    FieldEntity** fields = nullptr;
+    int count = 0;
+    char name[] = "C";
+    char signature[] = "Lp/C;";
+    char header[] = "C.h";
+    char body[] = "C.cpp";
+    GetFieldEntities(vm.jvmti, clazz, name, &fields, &count, nullptr);
+    ASSERT_EQ(count, 2);
+    EXPECT_TRUE(WriteHeaderFile(header, name, nullptr, 0, fields, count));
+    EXPECT_TRUE(WriteCPPFile(signature, body, name, nullptr, 0, fields, count));
+    FreeFieldEntities(fields, count);
+    EXPECT_STREQ(signature, "p/C") << "edited in place";
+    EXPECT_THAT(text_of(header), AllOf(HasSubstr("_FIELD(C, kept)"), Not(HasSubstr("serialVersionUID"))));
+    EXPECT_THAT(text_of(body),
+                AllOf(HasSubstr("//fields(2)\n"), HasSubstr("_FIELD(C, kept)"), Not(HasSubstr("serialVersionUID"))));
+}
+
+TEST(GeneratorFiles, AskTheVmInOrder) {
+    const OwnFolder folder;
+    FakeVm vm;
+    const jclass clazz = vm.add_class("p/C");
+    vm.add_field(clazz, "f", "I");
+    vm.add_method(clazz, "m", "()V");
+    ASSERT_TRUE(generate(vm, "p/C"));
+    std::erase(vm.calls, "Deallocate");
+    EXPECT_THAT(vm.calls, ElementsAre("FindClass p/C", "GetClassSignature p/C", "GetClassFields p/C",
+                                      "GetFieldModifiers p/C.f:I", "GetFieldName p/C.f:I", "GetClassMethods p/C",
+                                      "GetMethodModifiers p/C.m:()V", "GetMethodName p/C.m:()V"));
+}
+
+TEST(GeneratorFiles, OfAClassThatIsNotThereAreAFailedAssertion) {
+    EXPECT_EXIT(
+        {
+            FakeVm vm;
+            vm.fail("FindClass");
+            generate(vm, "p/Missing");
+        },
+        KilledBySignal(SIGABRT),
+        "vantrel-agent/CodeGenerater/CodeGenerater\\.cpp:[0-9]+: .*GenerateFiles\\(.*Assertion `clazz' failed");
+}
+
+TEST(GeneratorFiles, ThatCannotBeWrittenAreReportedAndNotLeftHalf) {
+    const OwnFolder folder;
+    FakeVm vm;
+    vm.add_class("p/C");
+    vm.add_class("p/" + std::string(63, 'n'));
+    vm.add_class("p/" + std::string(64, 'n'));
+    fs::create_directories("taken\\C.h/in it");
+    const std::string deep = std::string(1023 - strlen("\\C.cpp"), 'd');
+    const struct {
+        std::string what;
+        std::string name;
+        std::string directory;
+        std::string err;
+        std::vector<std::string> files;
+    } cases[] = {
+        {"a missing folder",
+         "p/C",
+         "missing/out",
+         "CodeGenerater: cannot write missing/out\\C.h: No such file or directory\n"
+         "CodeGenerater: cannot write missing/out\\C.cpp: No such file or directory\n",
+         {"taken\\C.h"}},
+        {"a folder in the header's place",
+         "p/C",
+         "taken",
+         "CodeGenerater: cannot write taken\\C.h: Is a directory\n",
+         {"taken\\C.cpp", "taken\\C.h"}},
+        {"a name that is too long",
+         "p/" + std::string(64, 'n'),
+         "out",
+         "CodeGenerater: nothing written for p/" + std::string(64, 'n') + ": its name is too long\n",
+         {"taken\\C.cpp", "taken\\C.h"}},
+        {"a path that is too long",
+         "p/C",
+         deep + "d",
+         "CodeGenerater: nothing written for p/C: the path of its files is too long\n",
+         {"taken\\C.cpp", "taken\\C.h"}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        testing::internal::CaptureStderr();
+        EXPECT_FALSE(generate(vm, c.name, c.directory));
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), c.err);
+        EXPECT_EQ(folder.files(), c.files);
+        EXPECT_THAT(vm.allocated, IsEmpty());
+    }
+    EXPECT_TRUE(generate(vm, "p/" + std::string(63, 'n'))) << "the longest name";
+    EXPECT_THAT(text_of("out\\" + std::string(63, 'n') + ".h"), StartsWith("#ifndef " + std::string(63, 'N') + "_H\n"));
+}
+
+// A full disk is seen only when the buffers are written out. The old file is still whole then.
+TEST(GeneratorFiles, OnAFullDiskLeaveTheOldOnes) {
+    if (!fs::exists("/dev/full")) {
+        GTEST_SKIP() << "no /dev/full on this system";
+    }
+    const OwnFolder folder;
+    std::ofstream("C.h") << "old";
+    fs::create_symlink("/dev/full", "C.h.part");
+    char path[] = "C.h";
+    char name[] = "C";
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(WriteHeaderFile(path, name, nullptr, 0, nullptr, 0));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "CodeGenerater: cannot write C.h: No space left on device\n");
+    EXPECT_EQ(text_of(path), "old");
+    EXPECT_THAT(folder.files(), ElementsAre("C.h"));
+}
+
+TEST(GeneratorPaths, HaveABackslashAndAreEmptyWhereTheyDoNotFit) {
+    char directory[] = "/tmp/out";
+    char name[] = "C$1";
+    char path[kFilePathSize];
+    GetHeaderFileName(path, directory, name);
+    EXPECT_STREQ(path, "/tmp/out\\C$1.h");
+    GetCPPFileName(path, directory, name);
+    EXPECT_STREQ(path, "/tmp/out\\C$1.cpp");
+    std::string longest(kFilePathSize - 1 - strlen("\\C$1.h"), 'd');
+    GetHeaderFileName(path, longest.data(), name);
+    EXPECT_EQ(path, longest + "\\C$1.h");
+    GetCPPFileName(path, longest.data(), name);
+    EXPECT_STREQ(path, "") << "two letters more than the header's";
+}
+
+TEST(GeneratorMacros, HaveLettersInUpperCase) {
+    const struct {
+        const char* name;
+        const char* macro;
+    } cases[] = {{"JComponent", "JCOMPONENT"},
+                 {"Graphics2D", "GRAPHICS2D"},
+                 {"A_b$c9", "A_B$C9"},
+                 {"\xc3\xa4z{`a", "\xc3\xa4Z{`A"}};
+    for (const auto& c : cases) {
+        std::string name = c.name;
+        char macro[kClassNameSize] = "X";
+        GetHeaderMacro(macro, name.data());
+        EXPECT_EQ(macro, std::string("X") + c.macro) << "behind what is there";
+    }
+}
+
+}  // namespace

@@ -1,0 +1,59 @@
+#include "arguments.h"
+
+#include <CLI/CLI.hpp>
+
+#include "failure.h"
+
+namespace {
+
+constexpr const char* kDescription =
+    "Writes C++ proxies of Java classes: a header and a body for each, with the class's cached identifiers and a\n"
+    "wrapper for each of its constructors and methods.\n";
+
+constexpr const char* kFooter =
+    R"(The classes are loaded and initialised in a Java VM of the command's own, without a display. The VM is the one in
+--java-home, in JAVA_HOME, or the one that the java on the path belongs to.
+
+Exit status: 0 if all is well, 1 if a class could not be written, 2 if nothing was done.
+
+Examples:
+  vantrel-generate --out proxies java.util.EventObject java.awt.Container
+      writes proxies/EventObject.h, proxies/EventObject.cpp, proxies/Container.h and proxies/Container.cpp
+  vantrel-generate --class-path program.jar --list com.x.Panel
+      says what the proxy of a class of program.jar would have in it
+)";
+
+}  // namespace
+
+std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
+    Arguments arguments;
+    CLI::App app(kDescription, "vantrel-generate");
+    app.footer(kFooter);
+    app.set_help_flag("-h,--help", "Print this text and exit");
+    app.set_version_flag("--version", "vantrel-generate " VANTREL_VERSION);
+    app.add_option("--java-home", arguments.java_home, "The JDK or JRE to load the classes with")->type_name("DIR");
+    app.add_option("--class-path", arguments.class_path, "Where classes lie that are not the VM's, as java takes it")
+        ->type_name("PATH");
+    app.add_option("--vm-option", arguments.vm_options, "An option for the VM, as java takes it; may be repeated")
+        ->type_name("OPT")
+        ->expected(1);
+    auto* out = app.add_option("--out", arguments.out, "The folder for the files; is made if it is not there")
+                    ->type_name("DIR");
+    app.add_flag("--list", arguments.list, "Print the members that would be written, and write nothing")->excludes(out);
+    app.add_option("CLASS", arguments.classes, "A class, like java.awt.Container or java/awt/Container")
+        ->required()
+        ->type_name("");
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        return app.help();
+    } catch (const CLI::CallForVersion& version) {
+        return std::string(version.what()) + "\n";
+    } catch (const CLI::ParseError& error) {
+        throw Failure{std::string(error.what()) + "; vantrel-generate --help tells the options"};
+    }
+    if (arguments.out.empty() && !arguments.list) {
+        throw Failure{"--out is required; vantrel-generate --help tells the options"};
+    }
+    return arguments;
+}

@@ -1,0 +1,17 @@
+// One class after the other, from its name to its files.
+#ifndef VANTREL_GENERATE_GENERATION_H
+#define VANTREL_GENERATE_GENERATION_H
+
+#include <filesystem>
+#include <set>
+#include <string>
+
+#include "java_vm.h"
+
+// Writes the proxy of a class into `folder`, or lists it on stdout where that is empty. Throws Failure if it cannot.
+//   name     with dots or slashes
+//   written  the simple names that have been written in this run. Two classes with one would share their files
+void generate(const RunningVm& vm, const std::string& name, const std::filesystem::path& folder,
+              std::set<std::string>& written);
+
+#endif

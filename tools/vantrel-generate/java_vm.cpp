@@ -1,0 +1,120 @@
+#include "java_vm.h"
+
+#include <dlfcn.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <iterator>
+#include <sstream>
+
+#include "failure.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// The status of a run that was cut short.
+constexpr int kNothingDone = 2;
+
+// The agent's environment. It has to be made while the VM starts: only then can methods be had in the order of the
+// class file. Without that their order, and so the numbers of the wrappers, changes from run to run.
+jvmtiEnv* agent_jvmti = nullptr;
+
+// The folder that holds bin/java, where that is the java on the path.
+fs::path home_of_java_on_path() {
+    const char* path = getenv("PATH");
+    std::istringstream folders(path != nullptr ? path : "");
+    for (std::string folder; std::getline(folders, folder, ':');) {
+        std::error_code error;
+        const fs::path java = fs::canonical(fs::path(folder) / "java", error);
+        if (!error && fs::is_regular_file(java)) {
+            return java.parent_path().parent_path();
+        }
+    }
+    return {};
+}
+
+fs::path find_home(const std::string& given) {
+    if (!given.empty()) {
+        return given;
+    }
+    const char* java_home = getenv("JAVA_HOME");
+    if (java_home != nullptr && java_home[0] != '\0') {
+        return java_home;
+    }
+    fs::path home = home_of_java_on_path();
+    if (home.empty()) {
+        throw Failure{"there is no Java: no --java-home, no JAVA_HOME, no java on the path"};
+    }
+    return home;
+}
+
+fs::path find_library(const fs::path& home) {
+    // The last two are Java 8's.
+    for (const char* place : {"lib/server", "lib/client", "jre/lib/amd64/server", "lib/amd64/server"}) {
+        for (const char* name : {"libjvm.so", "libjvm.dylib"}) {
+            if (fs::exists(home / place / name)) {
+                return home / place / name;
+            }
+        }
+    }
+    throw Failure{"there is no Java VM in " + home.string()};
+}
+
+// The command itself leaves without the handlers of exit(), so whoever gets here is the VM: it could not start and has
+// said why, or a class's initialiser has called System.exit.
+void vm_ended_the_process() {
+    fflush(stdout);
+    fputs("vantrel-generate: the Java VM has ended the process\n", stderr);
+    fflush(stderr);
+    _Exit(kNothingDone);
+}
+
+}  // namespace
+
+// The VM finds this by the name in -agentlib, as it does for agents that are linked into a launcher.
+extern "C" JNIEXPORT jint JNICALL Agent_OnLoad_vantrel_generate(JavaVM* vm, char* /*options*/, void* /*reserved*/) {
+    if (vm->GetEnv(reinterpret_cast<void**>(&agent_jvmti), JVMTI_VERSION_1_1) != JNI_OK) {
+        return JNI_ERR;
+    }
+    // A VM that does not have it lists methods in an order of its own.
+    jvmtiCapabilities capabilities{};
+    capabilities.can_maintain_original_method_order = 1;
+    agent_jvmti->AddCapabilities(&capabilities);
+    return JNI_OK;
+}
+
+RunningVm start_vm(const std::string& java_home, const std::vector<std::string>& options) {
+    const fs::path home = find_home(java_home);
+    const fs::path path = find_library(home);
+    void* library = dlopen(path.c_str(), RTLD_NOW | RTLD_GLOBAL);
+    if (library == nullptr) {
+        throw Failure{"cannot load the Java VM: " + std::string(dlerror())};
+    }
+    auto* const create = reinterpret_cast<decltype(&JNI_CreateJavaVM)>(dlsym(library, "JNI_CreateJavaVM"));
+    if (create == nullptr) {
+        throw Failure{path.string() + " is no Java VM"};
+    }
+
+    // The VM does not write to the texts.
+    // exit() is what a VM ends with once it runs, its abort hook what it calls before.
+    atexit(vm_ended_the_process);
+    std::vector<JavaVMOption> all = {{const_cast<char*>("abort"), reinterpret_cast<void*>(vm_ended_the_process)},
+                                     {const_cast<char*>("-agentlib:vantrel_generate"), nullptr}};
+    for (const std::string& option : options) {
+        all.push_back({const_cast<char*>(option.c_str()), nullptr});
+    }
+    JavaVMInitArgs arguments{};
+    arguments.version = JNI_VERSION_1_6;
+    arguments.nOptions = static_cast<jint>(all.size());
+    arguments.options = all.data();
+    JavaVM* vm = nullptr;
+    void* env = nullptr;
+    const jint status = create(&vm, &env, &arguments);
+    if (status != JNI_OK || agent_jvmti == nullptr) {
+        throw Failure{"the Java VM in " + home.string() +
+                      " does not start (JNI_CreateJavaVM: " + std::to_string(status) + ")"};
+    }
+    return {static_cast<JNIEnv*>(env), agent_jvmti};
+}

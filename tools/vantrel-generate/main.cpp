@@ -1,0 +1,105 @@
+// vantrel-generate: proxies of Java classes from the command line.
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <filesystem>
+#include <set>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "arguments.h"
+#include "failure.h"
+#include "generation.h"
+#include "java_vm.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kAllWell = 0;
+constexpr int kClassFailed = 1;
+constexpr int kNothingDone = 2;
+
+// A line that the next one on stderr, whoever writes it, goes over.
+void show_progress(size_t number, size_t count, const std::string& name) {
+    static const bool is_shown = isatty(STDERR_FILENO) != 0;
+    if (is_shown && count > 1) {
+        fprintf(stderr, "\033[K%zu of %zu: %s\r", number, count, name.c_str());
+    }
+}
+
+void clear_progress() {
+    if (isatty(STDERR_FILENO) != 0) {
+        fputs("\033[K", stderr);
+    }
+}
+
+void report(const std::string& message) {
+    clear_progress();
+    fprintf(stderr, "vantrel-generate: %s\n", message.c_str());
+}
+
+std::vector<std::string> vm_options(const Arguments& arguments) {
+    // Ours come first, so that the user's win. Standard output is for --list: what the VM has to say is not.
+    std::vector<std::string> options = {"-XX:+DisplayVMOutputToStderr", "-Djava.awt.headless=true",
+                                        "-Djava.class.path=" + arguments.class_path};
+    options.insert(options.end(), arguments.vm_options.begin(), arguments.vm_options.end());
+    return options;
+}
+
+void make_folder(const fs::path& folder) {
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) {
+        throw Failure{"cannot make the folder " + folder.string() + ": " + error.message()};
+    }
+}
+
+int generate_all(const Arguments& arguments) {
+    const RunningVm vm = start_vm(arguments.java_home, vm_options(arguments));
+    if (!arguments.list) {
+        make_folder(arguments.out);
+    }
+    int status = kAllWell;
+    std::set<std::string> written;
+    size_t number = 0;
+    for (const std::string& name : arguments.classes) {
+        show_progress(++number, arguments.classes.size(), name);
+        try {
+            generate(vm, name, arguments.out, written);
+        } catch (const Failure& failure) {
+            report(failure.message);
+            status = kClassFailed;
+        }
+    }
+    clear_progress();
+    return status;
+}
+
+int run(int argc, char** argv) {
+    try {
+        const auto parsed = parse_arguments(argc, argv);
+        if (const auto* text = std::get_if<std::string>(&parsed)) {
+            fputs(text->c_str(), stdout);
+            return kAllWell;
+        }
+        return generate_all(std::get<Arguments>(parsed));
+    } catch (const Failure& failure) {
+        report(failure.message);
+    } catch (const std::exception& error) {
+        report(error.what());
+    }
+    return kNothingDone;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const int status = run(argc, argv);
+    fflush(stdout);
+    // Not exit(): threads that a class has started in the VM would run while the process is taken apart.
+    _Exit(status);
+}
