@@ -69,9 +69,7 @@ using EntityFilter = int (*)(char* class_name, char* name, int modifiers);
 
 // Generates <directory>\<simple name>.h and .cpp, replacing what is there. True if both were written.
 //   name       the class's internal name, "java/awt/Component"; the class is loaded and initialised
-//   directory  "C:\generated-files" without one. The backslash is a separator on no other system than Windows:
-//   elsewhere
-//              it is a part of the file's name
+//   directory  "C:\generated-files" without one. Where the backslash is no separator it is a part of the file's name
 JNIEXPORT bool GenerateFiles(jvmtiEnv* jvmti, JNIEnv* env, char* name);
 JNIEXPORT bool GenerateFiles(jvmtiEnv* jvmti, JNIEnv* env, char* name, char* directory);
 
