@@ -73,7 +73,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         return 0;
     }
 
-    const auto optional = [](const char* text) { return text != nullptr ? std::optional<std::string>(text) : std::nullopt; };
+    const auto optional = [](const char* text) {
+        return text != nullptr ? std::optional<std::string>(text) : std::nullopt;
+    };
     const literal_rewriter::Result literal =
         literal_rewriter::rewrite({data, size}, {.class_number = class_number,
                                                  .name = optional(name),
