@@ -332,7 +332,6 @@ void method_write_bytecodes(ClassRewriteState& ci, uint32_t number) {
     MethodRewriteState mi{.ci = ci,
                           .number = number,
                           .name = name,
-                          .descr = descr,
                           .start_of_input_bytecodes = ci.input_position,
                           .code_len = static_cast<int32_t>(code_len),
                           .max_stack = max_stack,

@@ -23,7 +23,6 @@ struct MethodRewriteState {
     ClassRewriteState& ci;
     uint32_t number;  // in the order of the class file, from 0
     std::string_view name;
-    std::string_view descr;
     size_t start_of_input_bytecodes;
     int32_t code_len;
     int32_t new_code_len = 0;
