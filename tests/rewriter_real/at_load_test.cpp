@@ -65,6 +65,13 @@ TEST_P(AtLoad, OnlyMethodsThatAreLeftByAnExceptionLackAReturn) {
     EXPECT_EQ(counts.at("entries") - counts.at("returns"), number_behind("left", tracked.plain.out));
 }
 
+TEST_P(AtLoad, TheCountsAreOfOneMoment) {
+    SKIP_WITHOUT_JDK(GetParam());
+    const Tracked tracked = run_program(GetParam(), "RunningOn");
+    expect_same_and_balanced(tracked);
+    EXPECT_GT(tracked.report.counts.at("left by exception"), 100);
+}
+
 // The files below a folder, with what is in them.
 std::map<std::string, std::string> files_of(const fs::path& folder) {
     std::map<std::string, std::string> files;

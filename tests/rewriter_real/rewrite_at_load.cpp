@@ -131,7 +131,6 @@ void JNICALL on_start(jvmtiEnv* jvmti, JNIEnv* env, jthread /*thread*/) {
 }
 
 void JNICALL on_end(jvmtiEnv* jvmti, JNIEnv* env) {
-    check(jvmti->SetEventNotificationMode(JVMTI_DISABLE, JVMTI_EVENT_EXCEPTION, nullptr), "exceptions");
     check(jvmti->SetEventNotificationMode(JVMTI_DISABLE, JVMTI_EVENT_CLASS_FILE_LOAD_HOOK, nullptr), "classes");
     jmethodID report = env->GetStaticMethodID(state->tracker, "report", "(Ljava/lang/String;)V");
     env->CallStaticVoidMethod(state->tracker, report, env->NewStringUTF(state->report.c_str()));
@@ -141,6 +140,8 @@ void JNICALL on_end(jvmtiEnv* jvmti, JNIEnv* env) {
     }
     const std::lock_guard hold(state->lock);
     state->classes << "live\t" << live_calls() << '\n' << std::flush;
+    // Last, because a thread that throws stands there, too, once the report is made.
+    check(jvmti->SetEventNotificationMode(JVMTI_DISABLE, JVMTI_EVENT_EXCEPTION, nullptr), "exceptions");
 }
 
 }  // namespace

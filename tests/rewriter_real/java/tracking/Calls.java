@@ -1,9 +1,13 @@
 package tracking;
 
 import java.util.Arrays;
+import java.util.concurrent.locks.ReentrantLock;
 
-/** What a thread has entered and left. Only its thread changes it. */
+/** What a thread has entered and left. Only its thread changes it, while it holds the lock. */
 final class Calls {
+    /** The report takes this and keeps it: the thread's next call waits until the VM has ended. */
+    final ReentrantLock lock = new ReentrantLock();
+
     /** The methods that are entered and not left, class number in the upper half, the innermost last. */
     long[] open = new long[64];
     int depth;

@@ -24,11 +24,27 @@ public final class Tracker {
     }
 
     public static void enter(int classNumber, int methodNumber) {
-        CALLS.get().enter(classNumber, methodNumber);
+        Calls calls = locked();
+        try {
+            calls.enter(classNumber, methodNumber);
+        } finally {
+            calls.lock.unlock();
+        }
     }
 
     public static void leave(int classNumber, int methodNumber) {
-        CALLS.get().leave(classNumber, methodNumber);
+        Calls calls = locked();
+        try {
+            calls.leave(classNumber, methodNumber);
+        } finally {
+            calls.lock.unlock();
+        }
+    }
+
+    private static Calls locked() {
+        Calls calls = CALLS.get();
+        calls.lock.lock();
+        return calls;
     }
 
     public static void object(Object made) {
@@ -38,15 +54,22 @@ public final class Tracker {
         if (!made.getClass().isArray()) {
             throw new IllegalArgumentException("not an array: " + made.getClass());
         }
-        ++CALLS.get().arrays;
+        Calls calls = locked();
+        ++calls.arrays;
+        calls.lock.unlock();
     }
 
     /** Called by the agent when an exception was thrown, on the thread of that. */
     static void thrown() {
-        CALLS.get().thrown();
+        Calls calls = locked();
+        calls.thrown();
+        calls.lock.unlock();
     }
 
-    /** Called by the agent at the VM's end. A line a count, and a line a method: numbers, entries, returns. */
+    /**
+     * Called by the agent at the VM's end. A line a count, and a line a method: numbers, entries, returns. Other threads
+     * may be running still; each stands where it was counted.
+     */
     static void report(String file) throws IOException {
         try (PrintWriter out = new PrintWriter(file, "UTF-8")) {
             long entries = 0;
@@ -60,6 +83,7 @@ public final class Tracker {
             long[][] allEntries = new long[0][];
             long[][] allReturns = new long[0][];
             for (Calls thread : THREADS) {
+                thread.lock.lock();
                 leftByException += thread.leftByException;
                 leftWithoutException += thread.leftWithoutException;
                 openExposed += Math.min(thread.exposed, thread.depth);
