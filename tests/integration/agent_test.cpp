@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "java_vm.h"
+#include "agent_in_vm.h"
 #include "process.h"
 #include "x_server.h"
 

@@ -5,7 +5,7 @@
 #include <sstream>
 #include <string>
 
-#include "java_vm.h"
+#include "agent_in_vm.h"
 #include "process.h"
 
 using testing::HasSubstr;

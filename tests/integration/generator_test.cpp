@@ -15,6 +15,7 @@
 
 #include "java_vm.h"
 #include "process.h"
+#include "test_folder.h"
 
 namespace fs = std::filesystem;
 using testing::AllOf;
@@ -240,6 +241,35 @@ TEST_P(Generator, GoesOnAfterAClassThatCannotBeWritten) {
                     "java/awt/Container",
                     "vantrel-generate: p/" + std::string(64, 'n') + ": its name is too long"));
     EXPECT_THAT(names_in(out, ".cpp"), ElementsAre("EventObject", "List"));
+}
+
+TEST_P(Generator, WritesBothFilesOrNone) {
+    SKIP_WITHOUT_JDK(GetParam());
+    const ScratchFolder scratch;
+    fs::create_directory(scratch.path / "List.cpp");
+    std::ofstream(scratch.path / "Set.h") << "old";
+    const Finished generated =
+        generate(GetParam(), {"--out", scratch.path, "java.util.List", "java.util.Set", "java.util.Iterator"});
+    EXPECT_EQ(generated.status, 1);
+    EXPECT_EQ(generated.err, "vantrel-generate: java/util/List: cannot write " + (scratch.path / "List.cpp").string() +
+                                 ": Is a directory\n");
+    EXPECT_THAT(names_in(scratch.path, ".h"), ElementsAre("Iterator", "Set"));
+    EXPECT_THAT(names_in(scratch.path, ".part"), IsEmpty());
+    EXPECT_THAT(text_of(scratch.path / "Set.h"), HasSubstr("namespace NSSet{"));
+}
+
+// `script` gives a program a terminal, and collects what is written to it.
+TEST_P(Generator, ShowsItsProgressOnATerminalOnly) {
+    SKIP_WITHOUT_JDK(GetParam());
+    const std::string command = std::string(VANTREL_GENERATE) + " --java-home " + find_jdk(GetParam())->string() +
+                                " --list java.util.EventObject no.Such java.util.List >/dev/null";
+    const auto on_terminal = [](const std::string& line) { return run({"script", "-qec", line, "/dev/null"}).out; };
+    EXPECT_EQ(on_terminal(command),
+              "\033[K1 of 3: java.util.EventObject\r"
+              "\033[K2 of 3: no.Such\r"
+              "\033[Kvantrel-generate: no/Such: cannot be loaded: java.lang.ClassNotFoundException: no.Such\r\n"
+              "\033[K3 of 3: java.util.List\r\033[K");
+    EXPECT_EQ(on_terminal(command + " 2>/dev/null"), "");
 }
 
 TEST_P(Generator, SaysWhyItDoesNothing) {

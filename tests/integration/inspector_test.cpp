@@ -14,7 +14,7 @@
 #include <thread>
 #include <vector>
 
-#include "java_vm.h"
+#include "agent_in_vm.h"
 #include "process.h"
 #include "x_keys.h"
 #include "x_server.h"

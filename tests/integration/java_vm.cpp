@@ -45,10 +45,6 @@ Arguments operator+(Arguments left, const Arguments& right) {
     return left;
 }
 
-Arguments java_under_agent(int release, const Arguments& arguments, const fs::path& library) {
-    return Arguments{*find_jdk(release) / "bin" / "java", "-agentpath:" + library.string()} + arguments;
-}
-
 std::set<std::string> jni_reports(const std::string& output) {
     std::set<std::string> reports;
     std::istringstream text(output);

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "agent_in_vm.h"
 #include "java_crw_demo.h"
-#include "java_vm.h"
 #include "process.h"
 
 using testing::HasSubstr;

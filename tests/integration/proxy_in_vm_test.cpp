@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "java_vm.h"
+#include "agent_in_vm.h"
 #include "process.h"
 
 namespace fs = std::filesystem;

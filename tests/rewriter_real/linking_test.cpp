@@ -8,6 +8,7 @@
 #include "java_vm.h"
 #include "process.h"
 #include "programs.h"
+#include "test_folder.h"
 
 using testing::ContainsRegex;
 using testing::HasSubstr;

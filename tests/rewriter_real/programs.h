@@ -8,6 +8,7 @@
 
 #include "java_vm.h"
 #include "process.h"
+#include "test_folder.h"
 
 // A process that may take minutes where machines are slow.
 Finished run_long(const Arguments& command, const ProcessOptions& options = {});

@@ -171,10 +171,11 @@ TEST(GeneratorNames, AreCutOutOfDescriptors) {
         EXPECT_EQ(GetSimpleArgumentName(c.descriptor, appended, sizeof appended), c.found);
         EXPECT_EQ(appended, std::string("to") + c.name);
     }
-    char small[7] = "to";
-    small[6] = '#';
-    EXPECT_EQ(GetSimpleArgumentName("Ljava/awt/Point;", small, 6), 1);
-    EXPECT_EQ(std::string_view(small, sizeof small), std::string_view("toPoi\0#", 7));
+    std::string small("to\0######", 9);
+    EXPECT_EQ(GetSimpleArgumentName("Ljava/awt/Point;", small.data(), 5), 1);
+    EXPECT_EQ(small, std::string("toPoin\0##", 9)) << "the size is of what is added";
+    EXPECT_EQ(GetSimpleArgumentName("Ljava/awt/Point;", small.data(), 0), 1);
+    EXPECT_STREQ(small.c_str(), "toPoin");
 
     char of_class[32] = "NS";
     char internal[] = "java/awt/Point";

@@ -5,12 +5,12 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
 #include "CodeGenerater/CodeGenerater.h"
 #include "fake_vm.h"
+#include "own_folder.h"
 
 namespace fs = std::filesystem;
 using testing::AllOf;
@@ -24,40 +24,6 @@ using testing::StartsWith;
 namespace {
 
 constexpr int kPublic = 0x0001;
-
-std::string text_of(const fs::path& path) {
-    std::ifstream file(path);
-    EXPECT_TRUE(file) << path;
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-// An empty folder that is the working directory, for the paths with a backslash in them. Gone with its files.
-struct OwnFolder {
-    OwnFolder() : before(fs::current_path()) {
-        std::string name = fs::temp_directory_path() / "vantrel-generator-XXXXXX";
-        EXPECT_NE(mkdtemp(name.data()), nullptr);
-        path = name;
-        fs::current_path(path);
-    }
-    ~OwnFolder() {
-        fs::current_path(before);
-        fs::remove_all(path);
-    }
-    OwnFolder(const OwnFolder&) = delete;
-    OwnFolder& operator=(const OwnFolder&) = delete;
-
-    [[nodiscard]] std::vector<std::string> files() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(path)) {
-            names.push_back(entry.path().filename());
-        }
-        std::sort(names.begin(), names.end());
-        return names;
-    }
-
-    fs::path before;
-    fs::path path;
-};
 
 // Generates into the working directory; whether both files were written.
 bool generate(FakeVm& vm, std::string name, std::string directory = "out") {
@@ -302,7 +268,7 @@ TEST(GeneratorFiles, ThatCannotBeWrittenAreReportedAndNotLeftHalf) {
     vm.add_class("p/C");
     vm.add_class("p/" + std::string(63, 'n'));
     vm.add_class("p/" + std::string(64, 'n'));
-    fs::create_directories("taken\\C.h/in it");
+    fs::create_directories("taken\\C.cpp/in it");
     const std::string deep = std::string(1023 - strlen("\\C.cpp"), 'd');
     const struct {
         std::string what;
@@ -314,24 +280,23 @@ TEST(GeneratorFiles, ThatCannotBeWrittenAreReportedAndNotLeftHalf) {
         {"a missing folder",
          "p/C",
          "missing/out",
-         "CodeGenerater: cannot write missing/out\\C.h: No such file or directory\n"
-         "CodeGenerater: cannot write missing/out\\C.cpp: No such file or directory\n",
-         {"taken\\C.h"}},
-        {"a folder in the header's place",
+         "CodeGenerater: cannot write missing/out\\C.h: No such file or directory\n",
+         {"taken\\C.cpp"}},
+        {"a folder in the body's place",
          "p/C",
          "taken",
-         "CodeGenerater: cannot write taken\\C.h: Is a directory\n",
-         {"taken\\C.cpp", "taken\\C.h"}},
+         "CodeGenerater: cannot write taken\\C.cpp: Is a directory\n",
+         {"taken\\C.cpp"}},
         {"a name that is too long",
          "p/" + std::string(64, 'n'),
          "out",
          "CodeGenerater: nothing written for p/" + std::string(64, 'n') + ": its name is too long\n",
-         {"taken\\C.cpp", "taken\\C.h"}},
+         {"taken\\C.cpp"}},
         {"a path that is too long",
          "p/C",
          deep + "d",
          "CodeGenerater: nothing written for p/C: the path of its files is too long\n",
-         {"taken\\C.cpp", "taken\\C.h"}},
+         {"taken\\C.cpp"}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);

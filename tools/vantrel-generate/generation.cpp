@@ -1,6 +1,8 @@
 #include "generation.h"
 
-#include <CodeGenerater/CodeGenerater.h>
+#include <CodeGenerater/entities.h>
+#include <CodeGenerater/jvmti_memory.h>
+#include <CodeGenerater/writers.h>
 
 #include <algorithm>
 #include <iostream>
@@ -10,6 +12,9 @@
 #include "failure.h"
 
 namespace fs = std::filesystem;
+using generator::AcceptedEntities;
+using generator::ClassEntities;
+using generator::JvmtiArray;
 
 namespace {
 
@@ -20,32 +25,6 @@ struct LocalFrame {
     LocalFrame(const LocalFrame&) = delete;
     LocalFrame& operator=(const LocalFrame&) = delete;
     JNIEnv* env;
-};
-
-struct GiveBack {
-    jvmtiEnv* jvmti;
-    void operator()(void* block) const { jvmti->Deallocate(static_cast<unsigned char*>(block)); }
-};
-template <typename Element>
-using JvmtiArray = std::unique_ptr<Element[], GiveBack>;
-
-// The records of a class.
-struct Entities {
-    Entities(const RunningVm& vm, jclass clazz, char* class_name) {
-        GetFieldEntities(vm.jvmti, clazz, class_name, &fields, &field_count, CanAcceptField);
-        GetMethodEntities(vm.jvmti, clazz, class_name, &method_count, &methods, CanAcceptMethod);
-    }
-    ~Entities() {
-        FreeFieldEntities(fields, field_count);
-        FreeMethodEntiry(methods, method_count);
-    }
-    Entities(const Entities&) = delete;
-    Entities& operator=(const Entities&) = delete;
-
-    FieldEntity** fields = nullptr;
-    MethodEntity** methods = nullptr;
-    int field_count = 0;
-    int method_count = 0;
 };
 
 std::string internal_name(const std::string& name) {
@@ -132,7 +111,7 @@ void refuse_unnamed_arguments(jvmtiEnv* jvmti, jclass clazz, const std::string& 
     }
 }
 
-void list(const std::string& name, const Entities& entities) {
+void list(const std::string& name, const ClassEntities& entities) {
     const auto word = [](int modifiers) { return (modifiers & kStatic) != 0 ? "static " : ""; };
     std::cout << name << "\n";
     for (int i = 0; i < entities.field_count; ++i) {
@@ -147,16 +126,11 @@ void list(const std::string& name, const Entities& entities) {
     std::cout.flush();
 }
 
-void write(const Entities& entities, const std::string& name, const fs::path& folder, char* class_name) {
-    std::string header = folder / (std::string(class_name) + ".h");
-    std::string body = folder / (std::string(class_name) + ".cpp");
-    std::string signature = "L" + name + ";";
-    const bool header_written = WriteHeaderFile(header.data(), class_name, entities.methods, entities.method_count,
-                                                entities.fields, entities.field_count);
-    const bool body_written = WriteCPPFile(signature.data(), body.data(), class_name, entities.methods,
-                                           entities.method_count, entities.fields, entities.field_count);
-    if (!header_written || !body_written) {
-        throw Failure{name + ": not written"};
+void write(const std::string& name, const ClassEntities& entities, const fs::path& folder) {
+    const std::string path = folder / entities.name;
+    const std::string error = generator::write_proxy(path + ".h", path + ".cpp", name.c_str(), entities);
+    if (!error.empty()) {
+        throw Failure{name + ": " + error};
     }
 }
 
@@ -175,11 +149,11 @@ void generate(const RunningVm& vm, const std::string& name, const fs::path& fold
     jclass clazz = load(vm.env, internal);
     refuse_unnamed_arguments(vm.jvmti, clazz, internal, class_name);
     if (folder.empty()) {
-        list(internal, Entities(vm, clazz, class_name));
+        list(internal, AcceptedEntities(vm.jvmti, clazz, class_name).all);
         return;
     }
     if (!written.insert(simple_name).second) {
         throw Failure{internal + ": another class has been written to " + simple_name + ".h in this run"};
     }
-    write(Entities(vm, clazz, class_name), internal, folder, class_name);
+    write(internal, AcceptedEntities(vm.jvmti, clazz, class_name).all, folder);
 }

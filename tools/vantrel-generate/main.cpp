@@ -23,11 +23,11 @@ constexpr int kAllWell = 0;
 constexpr int kClassFailed = 1;
 constexpr int kNothingDone = 2;
 
-// A line that the next one on stderr, whoever writes it, goes over.
+// A line that the next one on stderr, whoever writes it, goes over. It must not be wider than the terminal for that.
 void show_progress(size_t number, size_t count, const std::string& name) {
     static const bool is_shown = isatty(STDERR_FILENO) != 0;
     if (is_shown && count > 1) {
-        fprintf(stderr, "\033[K%zu of %zu: %s\r", number, count, name.c_str());
+        fprintf(stderr, "\033[K%zu of %zu: %.60s\r", number, count, name.c_str());
     }
 }
 

@@ -11,22 +11,20 @@
 #include "assertion.h"
 #include "entities.h"
 #include "fitting.h"
+#include "jvmti_memory.h"
+#include "names.h"
 #include "overloads.h"
+#include "reports.h"
+#include "writers.h"
 
 using generator::copy_fitting;
 using generator::FieldPointer;
+using generator::JvmtiArray;
 using generator::MethodPointer;
+using generator::report;
 using generator::report_left_out;
 
 namespace {
-
-// What JVMTI has allocated; a null pointer where it gave nothing.
-struct GiveBack {
-    jvmtiEnv* jvmti;
-    void operator()(void* block) const { jvmti->Deallocate(static_cast<unsigned char*>(block)); }
-};
-template <typename Element>
-using JvmtiArray = std::unique_ptr<Element[], GiveBack>;
 
 // The name and descriptor of a member.
 struct MemberText {
@@ -244,13 +242,12 @@ bool GenerateFiles(jvmtiEnv* jvmti, JNIEnv* env, char* name, char* directory) {
     jvmti->GetClassSignature(clazz, &signature, nullptr);
     const JvmtiArray<char> given(signature, {jvmti});
     if (signature == nullptr) {
-        fprintf(stderr, "CodeGenerater: the VM does not give the signature of %s\n", name);
-        return false;
+        return report(std::string("the VM does not give the signature of ") + name);
     }
+    const std::string nothing_written = std::string("nothing written for ") + name + ": ";
     const char* slash = strrchr(name, '/');
     if (strlen(slash != nullptr ? slash + 1 : name) >= kClassNameSize) {
-        fprintf(stderr, "CodeGenerater: nothing written for %s: its name is too long\n", name);
-        return false;
+        return report(nothing_written + "its name is too long");
     }
     char class_name[kClassNameSize] = {};
     GetClassName(class_name, name);
@@ -259,20 +256,10 @@ bool GenerateFiles(jvmtiEnv* jvmti, JNIEnv* env, char* name, char* directory) {
     GetHeaderFileName(header_path, directory, class_name);
     GetCPPFileName(body_path, directory, class_name);
     if (header_path[0] == '\0' || body_path[0] == '\0') {
-        fprintf(stderr, "CodeGenerater: nothing written for %s: the path of its files is too long\n", name);
-        return false;
+        return report(nothing_written + "the path of its files is too long");
     }
 
-    FieldEntity** fields = nullptr;
-    MethodEntity** methods = nullptr;
-    int field_count = 0;
-    int method_count = 0;
-    GetFieldEntities(jvmti, clazz, class_name, &fields, &field_count, CanAcceptField);
-    GetMethodEntities(jvmti, clazz, class_name, &method_count, &methods, CanAcceptMethod);
-    const bool header_written = WriteHeaderFile(header_path, class_name, methods, method_count, fields, field_count);
-    const bool body_written =
-        WriteCPPFile(signature, body_path, class_name, methods, method_count, fields, field_count);
-    FreeFieldEntities(fields, field_count);
-    FreeMethodEntiry(methods, method_count);
-    return header_written && body_written;
+    generator::cut_to_internal_name(signature);
+    return report(generator::write_proxy(header_path, body_path, signature,
+                                         generator::AcceptedEntities(jvmti, clazz, class_name).all));
 }

@@ -102,7 +102,7 @@ JNIEXPORT char* GetTypeInformation(const char* descriptor, int* is_array, int* a
 // there is no '/'. A name that does not fit is cut.
 //   size  the room in `name`, which is cleared
 JNIEXPORT int GetSimpleName(const char* descriptor, char* name, unsigned long size);
-// The same, but adds it to the text in `name`.
+// The same, but adds the name to the text in `name`, which has room for `size` bytes more.
 JNIEXPORT int GetSimpleArgumentName(const char* descriptor, char* name, unsigned long size);
 
 // Adds what follows the last '/' of an internal name, or all of it, to the text in `out`, which has room for that.

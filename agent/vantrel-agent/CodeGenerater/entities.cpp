@@ -20,6 +20,17 @@ MethodPointer generator::new_method() {
     return method;
 }
 
+generator::AcceptedEntities::AcceptedEntities(jvmtiEnv* jvmti, jclass clazz, char* class_name)
+    : all{class_name, nullptr, 0, nullptr, 0} {
+    GetFieldEntities(jvmti, clazz, class_name, &all.fields, &all.field_count, CanAcceptField);
+    GetMethodEntities(jvmti, clazz, class_name, &all.method_count, &all.methods, CanAcceptMethod);
+}
+
+generator::AcceptedEntities::~AcceptedEntities() {
+    FreeFieldEntities(all.fields, all.field_count);
+    FreeMethodEntiry(all.methods, all.method_count);
+}
+
 void FreeFieldEntities(FieldEntity** fields, int count) {
     for (int i = 0; i < count; ++i) {
         delete fields[i];

@@ -1,4 +1,4 @@
-// Owners of the generator's records, for the time until they are handed to the caller.
+// The generator's records together, and their owners.
 #ifndef VANTREL_ENTITIES_H
 #define VANTREL_ENTITIES_H
 
@@ -26,6 +26,25 @@ typename Pointer::pointer* release_all(std::vector<Pointer>& entities) {
     std::transform(entities.begin(), entities.end(), array.get(), [](Pointer& entity) { return entity.release(); });
     return array.release();
 }
+
+// The records of a class.
+struct ClassEntities {
+    char* name;  // the class's simple name
+    MethodEntity** methods;
+    int method_count;
+    FieldEntity** fields;
+    int field_count;
+};
+
+// What a proxy has of a class, given back at the end.
+struct AcceptedEntities {
+    AcceptedEntities(jvmtiEnv* jvmti, jclass clazz, char* class_name);
+    ~AcceptedEntities();
+    AcceptedEntities(const AcceptedEntities&) = delete;
+    AcceptedEntities& operator=(const AcceptedEntities&) = delete;
+
+    ClassEntities all;
+};
 
 }  // namespace generator
 

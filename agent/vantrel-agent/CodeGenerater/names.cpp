@@ -1,4 +1,6 @@
 // The names that the generator makes: of classes, header macros and files.
+#include "names.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
@@ -16,15 +18,15 @@ std::string_view simple_name(std::string_view descriptor) {
     return slash == std::string_view::npos ? std::string_view() : descriptor.substr(slash + 1);
 }
 
-// Adds as much of `added` to the text in `to` as fits into `size` bytes.
+// Adds `added`, cut to what fits into `size` bytes with a terminating zero, to the text in `to`.
 void append_cut(char* to, unsigned long size, std::string_view added) {
-    const size_t length = strnlen(to, size);
-    if (length >= size) {
+    if (size == 0) {
         return;
     }
-    const size_t fitting = std::min(added.size(), size - length - 1);
-    memcpy(to + length, added.data(), fitting);
-    to[length + fitting] = '\0';
+    const size_t length = std::min(added.size(), size - 1);
+    char* end = to + strlen(to);
+    memcpy(end, added.data(), length);
+    end[length] = '\0';
 }
 
 void format_path(char* path, const char* directory, const char* name, const char* ending) {
@@ -35,6 +37,14 @@ void format_path(char* path, const char* directory, const char* name, const char
 }
 
 }  // namespace
+
+void generator::cut_to_internal_name(char* signature) {
+    const std::string_view all = signature;
+    const size_t begin = all.starts_with('L') ? 1 : 0;
+    const size_t end = all.ends_with(';') ? all.size() - 1 : all.size();
+    memmove(signature, signature + begin, end - begin);
+    signature[end - begin] = '\0';
+}
 
 int GetSimpleName(const char* descriptor, char* name, unsigned long size) {
     memset(name, 0, size);

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "fitting.h"
+#include "reports.h"
 
 using std::string_view;
 

@@ -1,12 +1,17 @@
 #include "source_file.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
+
+using generator::SourceFile;
 
 namespace {
 
-// errno of the first call that failed, 0 where none did.
+// The steps return errno of the first call that failed, 0 where none did.
+
 int write_all(const std::string& path, const std::string& text) {
     FILE* file = fopen(path.c_str(), "w");
     if (file == nullptr) {
@@ -17,17 +22,35 @@ int write_all(const std::string& path, const std::string& text) {
     return write_error != 0 ? write_error : close_error;
 }
 
+std::string part_of(const SourceFile& file) {
+    return file.path + ".part";
+}
+
+int write_part(const SourceFile& file) {
+    // Only a folder could still be in the way of the part, when others have taken their places.
+    std::error_code unknown;
+    return std::filesystem::is_directory(file.path, unknown) ? EISDIR : write_all(part_of(file), file.text);
+}
+
+int put_in_place(const SourceFile& file) {
+    return rename(part_of(file).c_str(), file.path.c_str()) == 0 ? 0 : errno;
+}
+
+void remove_part(const SourceFile& file) {
+    remove(part_of(file).c_str());
+}
+
 }  // namespace
 
-bool generator::write_source_file(const std::string& path, const std::string& text) {
-    const std::string part = path + ".part";
-    int error = write_all(part, text);
-    if (error == 0 && rename(part.c_str(), path.c_str()) != 0) {
-        error = errno;
+std::string generator::write_source_files(const std::vector<SourceFile>& files) {
+    for (const auto step : {write_part, put_in_place}) {
+        for (const SourceFile& file : files) {
+            const int error = step(file);
+            if (error != 0) {
+                std::for_each(files.begin(), files.end(), remove_part);
+                return "cannot write " + file.path + ": " + strerror(error);
+            }
+        }
     }
-    if (error != 0) {
-        remove(part.c_str());
-        fprintf(stderr, "CodeGenerater: cannot write %s: %s\n", path.c_str(), strerror(error));
-    }
-    return error == 0;
+    return "";
 }

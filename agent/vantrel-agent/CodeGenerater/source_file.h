@@ -3,12 +3,18 @@
 #define VANTREL_SOURCE_FILE_H
 
 #include <string>
+#include <vector>
 
 namespace generator {
 
-// Writes a text to a file, beside it first, and then puts it in the place of what is there. False, a line on stderr,
-// and everything as it was, if that fails.
-bool write_source_file(const std::string& path, const std::string& text);
+struct SourceFile {
+    std::string path;
+    std::string text;
+};
+
+// Writes all texts beside their files first, and then puts them in the place of what is there. Returns what went wrong,
+// with everything as it was, and an empty text where nothing did.
+std::string write_source_files(const std::vector<SourceFile>& files);
 
 }  // namespace generator
 

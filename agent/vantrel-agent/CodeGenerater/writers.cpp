@@ -1,26 +1,21 @@
-// The texts of a proxy's header and body, in the order in which they stand in the files. Tabs, blanks and empty lines
-// are the look that all proxies have.
+// The texts are in the order in which they stand in the files. Tabs, blanks and empty lines are the look that all
+// proxies have.
+#include "writers.h"
+
 #include <cstring>
 #include <sstream>
 #include <string>
 #include <string_view>
 #include <utility>
 
-#include "CodeGenerater.h"
+#include "names.h"
+#include "reports.h"
 #include "source_file.h"
 
+using generator::ClassEntities;
 using std::string_view;
 
 namespace {
-
-// The records of a class, as both writers see them.
-struct ClassEntities {
-    const char* name;
-    MethodEntity** methods;
-    int method_count;
-    FieldEntity** fields;
-    int field_count;
-};
 
 template <typename Entity>
 bool is_static(const Entity& entity) {
@@ -128,7 +123,10 @@ void write_wrapper(std::ostream& out, const ClassEntities& entities, const char*
     out << "\t}\n";
 }
 
-std::string header_text(const ClassEntities& entities, string_view macro) {
+std::string header_text(const ClassEntities& entities) {
+    std::string macro(strlen(entities.name) + 1, '\0');
+    GetHeaderMacro(macro.data(), entities.name);
+    macro.pop_back();
     std::ostringstream out;
     out << "#ifndef " << macro << "_H\n#define " << macro << "_H\n\n"
         << "#include \"../JCBase.h\"\n"
@@ -187,22 +185,20 @@ std::string body_text(const ClassEntities& entities, const char* internal_name) 
 
 }  // namespace
 
+std::string generator::write_proxy(const std::string& header_path, const std::string& body_path,
+                                   const char* internal_name, const ClassEntities& entities) {
+    return write_source_files({{header_path, header_text(entities)}, {body_path, body_text(entities, internal_name)}});
+}
+
 bool WriteHeaderFile(char* path, char* class_name, MethodEntity** methods, int method_count, FieldEntity** fields,
                      int field_count) {
-    std::string macro(strlen(class_name) + 1, '\0');
-    GetHeaderMacro(macro.data(), class_name);
-    macro.pop_back();
-    return generator::write_source_file(path,
-                                        header_text({class_name, methods, method_count, fields, field_count}, macro));
+    return generator::report(
+        generator::write_source_files({{path, header_text({class_name, methods, method_count, fields, field_count})}}));
 }
 
 bool WriteCPPFile(char* class_signature, char* path, char* class_name, MethodEntity** methods, int method_count,
                   FieldEntity** fields, int field_count) {
-    const string_view signature = class_signature;
-    const size_t begin = signature.starts_with('L') ? 1 : 0;
-    const size_t end = signature.ends_with(';') ? signature.size() - 1 : signature.size();
-    memmove(class_signature, class_signature + begin, end - begin);
-    class_signature[end - begin] = '\0';
-    return generator::write_source_file(
-        path, body_text({class_name, methods, method_count, fields, field_count}, class_signature));
+    generator::cut_to_internal_name(class_signature);
+    return generator::report(generator::write_source_files(
+        {{path, body_text({class_name, methods, method_count, fields, field_count}, class_signature)}}));
 }

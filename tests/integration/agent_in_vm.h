@@ -1,0 +1,35 @@
+// The agent as the build made it, and a VM that runs under it.
+#ifndef VANTREL_AGENT_IN_VM_H
+#define VANTREL_AGENT_IN_VM_H
+
+#include <filesystem>
+#include <string>
+
+#include "java_vm.h"
+#include "test_folder.h"
+
+const std::filesystem::path kLibraryFolder = VANTREL_LIBRARY_FOLDER;
+const std::filesystem::path kLibrary = kLibraryFolder / "libvantrel-agent.so.1";
+const std::filesystem::path kCompanionJar = kLibraryFolder / "vantrel-1.2.3.jar";
+const std::filesystem::path kSampleJar = VANTREL_SAMPLE_JAR;
+
+// What the agent writes on a normal run.
+const std::string kAgentOut =
+    "Starting Vantrel.\n"
+    "Vantrel Initializing.\n"
+    "Pressing \u2318+F12 to toggle the Vantrel window visible.\n";
+const std::string kAgentErr = "vantrel-agent: on this platform the hot key is Control+F12.\n";
+
+// The report of -Xcheck:jni that the agent is answerable for: between the call of Vantrel.getInstance and the reference
+// to its result, no one asks for an exception.
+const std::string kOwnJniReport =
+    "WARNING in native method: JNI call made without checking exceptions when required to from "
+    "CallStaticObjectMethodV";
+
+// The command line of a VM under the agent.
+inline Arguments java_under_agent(int release, const Arguments& arguments,
+                                  const std::filesystem::path& library = kLibrary) {
+    return Arguments{*find_jdk(release) / "bin" / "java", "-agentpath:" + library.string()} + arguments;
+}
+
+#endif
