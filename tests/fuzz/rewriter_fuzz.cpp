@@ -3,20 +3,16 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
+#include <optional>
+#include <span>
 #include <string>
 
 #include "java_crw_demo.h"
 #include "literal_rewriter.h"
+#include "product.h"
 
 namespace {
-
-struct Failure {
-    std::string message;
-};
-
-[[noreturn]] void throw_failure(const char* message, const char* /*source_file*/, int /*line*/) {
-    throw Failure{message};
-}
 
 // A message without the class, the method and the position: a literal reader stops at another byte.
 std::string without_place(const std::string& message) {
@@ -29,8 +25,12 @@ std::string without_place(const std::string& message) {
     abort();
 }
 
-const char* name_where(bool wanted, const char* name) {
-    return wanted ? name : nullptr;
+std::optional<std::string> name_where(bool wanted, const char* name) {
+    return wanted ? std::optional<std::string>(name) : std::nullopt;
+}
+
+[[noreturn]] void leave(const char* /*message*/, const char* /*source_file*/, int /*line*/) {
+    throw std::exception();
 }
 
 }  // namespace
@@ -42,54 +42,31 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     }
     const unsigned flags = data[0];
     const unsigned class_numbers[] = {0, 6, 200, 40000};
-    const char* call = name_where((flags & 1U) != 0, "call");
-    const char* ret = name_where((flags & 2U) != 0, "ret");
-    const char* init = name_where((flags & 4U) != 0, "init");
-    const char* array = name_where((flags & 8U) != 0, "array");
-    const char* name = name_where((flags & 16U) != 0, (data[1] & 4U) != 0 ? "java/lang/Thread" : "java/lang/Object");
-    const bool system_class = (flags & 32U) != 0;
-    const unsigned class_number = class_numbers[data[1] & 3U];
-    data += kChoices;
-    size -= kChoices;
+    const RewriteOptions options{
+        .class_number = class_numbers[data[1] & 3U],
+        .name = name_where((flags & 16U) != 0, (data[1] & 4U) != 0 ? "java/lang/Thread" : "java/lang/Object"),
+        .system_class = (flags & 32U) != 0,
+        .call_name = name_where((flags & 1U) != 0, "call"),
+        .return_name = name_where((flags & 2U) != 0, "ret"),
+        .obj_init_name = name_where((flags & 4U) != 0, "init"),
+        .newarray_name = name_where((flags & 8U) != 0, "array")};
+    const std::span image(data + kChoices, size - kChoices);
 
-    std::string failure;
-    unsigned char* image = nullptr;
-    long length = 0;
+    const Outcome ours = rewrite(image, options);
     try {
-        java_crw_demo(class_number, name, data, static_cast<long>(size), system_class ? 1 : 0, "com/example/Tracker",
-                      "Lcom/example/Tracker;", call, "(II)V", ret, "(II)V", init, "(Ljava/lang/Object;)V", array,
-                      "(Ljava/lang/Object;)V", &image, &length, throw_failure, nullptr);
-    } catch (const Failure& f) {
-        failure = without_place(f.message);
-    }
-    const std::string ours(reinterpret_cast<const char*>(image), static_cast<size_t>(length));
-    free(image);
-    try {
-        free(java_crw_demo_classname(data, static_cast<long>(size), throw_failure));
-    } catch (const Failure&) {
+        free(java_crw_demo_classname(image.data(), static_cast<long>(image.size()), leave));
+    } catch (const std::exception&) {
         // It fails where the image does.
     }
-    if (size == 0) {
+    if (image.empty()) {
         return 0;
     }
-
-    const auto optional = [](const char* text) {
-        return text != nullptr ? std::optional<std::string>(text) : std::nullopt;
-    };
-    const literal_rewriter::Result literal =
-        literal_rewriter::rewrite({data, size}, {.class_number = class_number,
-                                                 .name = optional(name),
-                                                 .system_class = system_class,
-                                                 .tracker_class = "com/example/Tracker",
-                                                 .call_name = optional(call),
-                                                 .return_name = optional(ret),
-                                                 .obj_init_name = optional(init),
-                                                 .newarray_name = optional(array)});
-    if (without_place(literal.failure) != failure) {
-        differ("failure", failure, literal.failure);
+    const literal_rewriter::Result literal = literal_rewriter::rewrite(image, options);
+    if (without_place(literal.failure) != without_place(ours.failure)) {
+        differ("failure", ours.failure, literal.failure);
     }
-    if (std::string(literal.image.begin(), literal.image.end()) != ours) {
-        differ("image", std::to_string(ours.size()) + " bytes", std::to_string(literal.image.size()));
+    if (literal.image != ours.image) {
+        differ("image", std::to_string(ours.image.size()) + " bytes", std::to_string(literal.image.size()));
     }
     return 0;
 }

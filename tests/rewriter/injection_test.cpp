@@ -12,7 +12,7 @@ using namespace rewritten_code;
 namespace {
 
 TEST(Injection, GoesToEntriesReturnsAndNewArrays) {
-    const Request all;
+    const RewriteOptions& all = kAll;
     for (int opcode = op::ireturn; opcode <= op::return_; ++opcode) {
         const Bytes ret = u1(opcode);
         expect_code(ret, all, [&](const Injections& i) { return cat({i.call, i.ret, ret}); });
@@ -58,9 +58,9 @@ TEST(Injection, PushesNumbersInTheirShortestForm) {
             const unsigned needed = take_apart(assemble(file)).pool.count - 1;
             file.pool.fill(static_cast<unsigned>(c.first_index) - needed);
         }
-        Request request = kCalls;
-        request.class_number = c.class_number;
-        const ClassFile after = rewritten(file, request);
+        RewriteOptions options = kCalls;
+        options.class_number = c.class_number;
+        const ClassFile after = rewritten(file, options);
         EXPECT_EQ(after.methods[0].code->bytes, cat({c.push, {op::iconst_0}, tracker_call(after, "call"), kReturn}));
         if (c.first_index > 0) {
             EXPECT_EQ(after.pool.at(static_cast<unsigned>(c.first_index)), cat({{3}, u4(c.class_number)}));
@@ -95,9 +95,9 @@ TEST(Injection, AppendsConstantsAndSharesNone) {
     file.pool.interface_method_ref("I", "d", "()V");
     file.pool.string("text");
     const ClassFile before = take_apart(assemble(file));
-    Request request;
-    request.class_number = 40000;
-    const ClassFile after = rewritten(file, request);
+    RewriteOptions options = kAll;
+    options.class_number = 40000;
+    const ClassFile after = rewritten(file, options);
     EXPECT_EQ(after.pool.count, before.pool.count + 27);
     EXPECT_EQ(Bytes(after.pool.bytes.begin(),
                     after.pool.bytes.begin() + static_cast<std::ptrdiff_t>(before.pool.bytes.size())),
@@ -165,20 +165,20 @@ TEST(Injection, RefusesTagsThatItDoesNotKnow) {
 TEST(Injection, RaisesTheStackFromWhatIsDeclared) {
     const Bytes array_and_return = {op::newarray, 10, op::areturn};
     const struct {
-        Request request;
+        RewriteOptions options;
         Bytes code;
         unsigned declared;
         unsigned needed;
     } cases[] = {
-        {kNothing, array_and_return, 3, 3},  {kCalls, array_and_return, 0, 2},  {kReturns, array_and_return, 3, 5},
-        {kReturns, {op::athrow}, 3, 3},      {kArrays, array_and_return, 0, 1}, {kArrays, kReturn, 3, 3},
-        {Request{}, array_and_return, 3, 5}, {kCalls, kReturn, 0xFFFD, 0xFFFF},
+        {kNothing, array_and_return, 3, 3}, {kCalls, array_and_return, 0, 2},  {kReturns, array_and_return, 3, 5},
+        {kReturns, {op::athrow}, 3, 3},     {kArrays, array_and_return, 0, 1}, {kArrays, kReturn, 3, 3},
+        {kAll, array_and_return, 3, 5},     {kCalls, kReturn, 0xFFFD, 0xFFFF},
     };
     for (const auto& c : cases) {
         Code code;
         code.bytes = c.code;
         code.max_stack = c.declared;
-        EXPECT_EQ(code_after(with_code(code), c.request).max_stack, c.needed);
+        EXPECT_EQ(code_after(with_code(code), c.options).max_stack, c.needed);
     }
     Code code;
     code.bytes = kReturn;
@@ -194,9 +194,9 @@ TEST(Injection, TracksEveryNewObjectInItsConstructor) {
     file.methods.push_back(file.methods[0]);
     file.methods[1].descriptor = "(I)V";
     testing::internal::CaptureStdout();
-    Request request;
-    request.system_class = 1;
-    const ClassFile after = rewritten(file, request);
+    RewriteOptions options = kAll;
+    options.system_class = true;
+    const ClassFile after = rewritten(file, options);
     fflush(stdout);
     testing::internal::GetCapturedStdout();
     const Bytes track_object = cat({{op::aload_0}, tracker_call(after, "init")});

@@ -170,8 +170,7 @@ TEST(RewriterInterface, CopiesWhatItDoesNotChange) {
     Bytes image = assemble(file);
     const ClassFile before = take_apart(image);
     image.push_back(0);  // behind the last attribute: not carried over
-    const Request nothing{.call = nullptr, .ret = nullptr, .object_init = nullptr, .newarray = nullptr};
-    const Outcome outcome = rewrite(image, nothing);
+    const Outcome outcome = rewrite(image, {.tracker_class = "Track"});
     ASSERT_EQ(outcome.failure, "");
     const ClassFile after = take_apart(outcome.image);
     EXPECT_EQ(after.pool.count, before.pool.count + 10);
@@ -233,10 +232,12 @@ TEST(RewriterInterface, LeavesDelicateMethodsOfSystemClassesAlone) {
         SCOPED_TRACE(std::string(c.name) + " of " + std::to_string(c.code.size()) + " bytes");
         ClassFile file = with_method(c.code, c.name);
         file.name = "java/lang/Thread";
-        Request request;
-        request.name = c.class_name;
-        request.system_class = c.system_class;
-        const Outcome outcome = rewrite(assemble(file), request);
+        RewriteOptions options = kAll;
+        if (c.class_name != nullptr) {
+            options.name = c.class_name;
+        }
+        options.system_class = c.system_class;
+        const Outcome outcome = rewrite(assemble(file), options);
         ASSERT_EQ(outcome.failure, "");
         EXPECT_EQ(take_apart(outcome.image).methods[0].code->bytes == c.code, c.left_alone);
     }

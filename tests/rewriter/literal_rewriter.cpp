@@ -93,7 +93,7 @@ struct Injection {
 struct MethodState;
 
 struct ClassState {
-    const Options& options;
+    const RewriteOptions& options;
     std::span<const std::uint8_t> input;
     Bytes output = {};  // as long as it may get
     std::int64_t input_len = 0;
@@ -415,7 +415,7 @@ void read_cpool_entry(ClassState& ci, Constant& entry) {
 }
 
 void cpool_setup(ClassState& ci) {
-    const Options& options = ci.options;
+    const RewriteOptions& options = ci.options;
     const std::int64_t count_position = ci.output_position;
     const std::uint32_t count_plus_one = copy_u2(ci);
     crw_assert(ci, count_plus_one > 1, "count_plus_one>1");
@@ -1177,7 +1177,7 @@ void inject_class(ClassState& ci) {
 
 }  // namespace
 
-Result rewrite(std::span<const std::uint8_t> image, const Options& options) {
+Result rewrite(std::span<const std::uint8_t> image, const RewriteOptions& options) {
     Result result;
     if (image.empty()) {
         return result;

@@ -12,18 +12,19 @@
 #include <string>
 #include <vector>
 
-namespace literal_rewriter {
-
-struct Options {
+// What is asked of either rewriter: by default nothing.
+struct RewriteOptions {
     std::uint32_t class_number = 0;
-    std::optional<std::string> name;
+    std::optional<std::string> name = std::nullopt;  // the class's, where the caller knows it
     bool system_class = false;
     std::string tracker_class = "com/example/Tracker";
-    std::optional<std::string> call_name;
-    std::optional<std::string> return_name;
-    std::optional<std::string> obj_init_name;
-    std::optional<std::string> newarray_name;
+    std::optional<std::string> call_name = std::nullopt;
+    std::optional<std::string> return_name = std::nullopt;
+    std::optional<std::string> obj_init_name = std::nullopt;
+    std::optional<std::string> newarray_name = std::nullopt;
 };
+
+namespace literal_rewriter {
 
 // How an instrumented method was laid out, for tests that ask how its branches came to be widened.
 struct Layout {
@@ -40,7 +41,7 @@ struct Result {
 };
 
 // Argument checks are not its business: the class name and the image are all that can be wrong.
-Result rewrite(std::span<const std::uint8_t> image, const Options& options);
+Result rewrite(std::span<const std::uint8_t> image, const RewriteOptions& options);
 
 }  // namespace literal_rewriter
 

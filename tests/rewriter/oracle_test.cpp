@@ -8,19 +8,15 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <functional>
 #include <iterator>
-#include <memory>
-#include <optional>
 #include <set>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "class_builder.h"
-#include "java_crw_demo.h"
 #include "literal_rewriter.h"
+#include "product.h"
 #include "random_classes.h"
 
 namespace {
@@ -34,16 +30,8 @@ using class_builder::times;
 using class_builder::u1;
 namespace op = class_builder::op;
 using literal_rewriter::Layout;
-using literal_rewriter::Options;
 using random_classes::Random;
 using random_classes::RandomClass;
-
-struct Outcome {
-    Bytes image;
-    std::string failure;
-
-    bool operator==(const Outcome&) const = default;
-};
 
 // The pc at which an assertion failed, which ends its message, is for people and not compared: where something that
 // cannot be right is found depends on what is read at a time.
@@ -51,49 +39,25 @@ std::string without_pc(const std::string& message) {
     return message.starts_with("CRW ASSERTION FAILURE: ") ? message.substr(0, message.rfind(':')) : message;
 }
 
-[[noreturn]] void throw_failure(const char* message, const char* /*source_file*/, int /*line*/) {
-    throw std::runtime_error(message);
-}
+// What the literal rewriter makes of an image, and where the real one differs; no problem where it does not.
+struct Comparison {
+    literal_rewriter::Result literal;
+    std::string problem;
+};
 
-const char* chars(const std::optional<std::string>& text) {
-    return text ? text->c_str() : nullptr;
-}
-
-Outcome rewrite(const Bytes& image, const Options& options) {
-    // The image is copied to a block of its own, so that the sanitizers see a read past its end.
-    const std::unique_ptr<unsigned char[]> input(new unsigned char[image.size()]);
-    std::ranges::copy(image, input.get());
-    const std::string signature = "L" + options.tracker_class + ";";
-    unsigned char* new_image = nullptr;
-    long new_length = 0;
-    Outcome outcome;
-    try {
-        java_crw_demo(options.class_number, chars(options.name), input.get(), static_cast<long>(image.size()),
-                      options.system_class ? 1 : 0, options.tracker_class.c_str(), signature.c_str(),
-                      chars(options.call_name), "(II)V", chars(options.return_name), "(II)V",
-                      chars(options.obj_init_name), "(Ljava/lang/Object;)V", chars(options.newarray_name),
-                      "(Ljava/lang/Object;)V", &new_image, &new_length, throw_failure, nullptr);
-    } catch (const std::runtime_error& failure) {
-        outcome.failure = without_pc(failure.what());
+Comparison compare(const Bytes& image, const RewriteOptions& options) {
+    Comparison compared{literal_rewriter::rewrite(image, options), ""};
+    const literal_rewriter::Result& literal = compared.literal;
+    const Outcome ours = rewrite(image, options);
+    if (without_pc(ours.failure) != without_pc(literal.failure)) {
+        compared.problem = "failures: '" + ours.failure + "', literally '" + literal.failure + "'";
+    } else if (ours.image != literal.image) {
+        const auto at = std::ranges::mismatch(ours.image, literal.image).in1;
+        compared.problem = "images of " + std::to_string(ours.image.size()) + " bytes, literally " +
+                           std::to_string(literal.image.size()) + ", that differ from byte " +
+                           std::to_string(at - ours.image.begin()) + " on";
     }
-    outcome.image.assign(new_image, new_image + new_length);
-    std::free(new_image);
-    return outcome;
-}
-
-Outcome rewrite_literally(const Bytes& image, const Options& options) {
-    const literal_rewriter::Result result = literal_rewriter::rewrite(image, options);
-    return {result.image, without_pc(result.failure)};
-}
-
-std::string difference(const Outcome& rewriter, const Outcome& literal) {
-    if (rewriter.failure != literal.failure) {
-        return "failures: '" + rewriter.failure + "', literally '" + literal.failure + "'";
-    }
-    const auto [ours, theirs] = std::ranges::mismatch(rewriter.image, literal.image);
-    return "images of " + std::to_string(rewriter.image.size()) + " bytes, literally " +
-           std::to_string(literal.image.size()) + ", that differ from byte " +
-           std::to_string(ours - rewriter.image.begin()) + " on";
+    return compared;
 }
 
 // java.lang.Object's rewrite says so on standard output, which would drown everything else. Failures of the test would
@@ -181,21 +145,18 @@ void count(Tally& tally, const std::vector<Layout>& layouts) {
 
 using Make = std::function<RandomClass(std::uint64_t)>;
 
-Tally compare(std::uint64_t first_seed, std::size_t classes, const Make& make) {
+Tally compare_all(std::uint64_t first_seed, std::size_t classes, const Make& make) {
     const QuietOutput quiet;
     Tally tally;
     for (std::uint64_t seed = first_seed; seed < first_seed + classes && tally.problem.empty(); seed++) {
         const RandomClass made = make(seed);
-        const Bytes image = class_builder::assemble(made.file);
-        const literal_rewriter::Result result = literal_rewriter::rewrite(image, made.options);
-        const Outcome literal = {result.image, without_pc(result.failure)};
-        const Outcome rewriter = rewrite(image, made.options);
-        if (rewriter != literal) {
-            tally.problem = "seed " + std::to_string(seed) + ": " + difference(rewriter, literal);
+        const Comparison compared = compare(class_builder::assemble(made.file), made.options);
+        if (!compared.problem.empty()) {
+            tally.problem = "seed " + std::to_string(seed) + ": " + compared.problem;
         }
         tally.methods += made.file.methods.size();
-        tally.images += literal.failure.empty() ? 1 : 0;
-        count(tally, result.layouts);
+        tally.images += compared.literal.failure.empty() ? 1 : 0;
+        count(tally, compared.literal.layouts);
     }
     return tally;
 }
@@ -210,7 +171,7 @@ void tell(const Tally& tally) {
 }
 
 TEST(Oracle, AgreesOnSmallMethods) {
-    const Tally tally = compare(1'000'000, 3000, random_classes::small_methods);
+    const Tally tally = compare_all(1'000'000, 3000, random_classes::small_methods);
     tell(tally);
     EXPECT_GT(tally.methods, 40'000);
     EXPECT_GT(tally.images, 2500) << "most of the random classes are to be rewritten, not refused";
@@ -219,7 +180,7 @@ TEST(Oracle, AgreesOnSmallMethods) {
 
 TEST(Oracle, AgreesOnFarBranches) {
     const Tally tally =
-        compare(2'000'000, 300, [](std::uint64_t seed) { return random_classes::far_branches(seed, false); });
+        compare_all(2'000'000, 300, [](std::uint64_t seed) { return random_classes::far_branches(seed, false); });
     tell(tally);
     EXPECT_GT(tally.images, 250);
     EXPECT_GT(tally.widened, 10'000);
@@ -228,7 +189,7 @@ TEST(Oracle, AgreesOnFarBranches) {
 
 TEST(Oracle, AgreesOnFarBranchesBetweenSwitches) {
     const Tally tally =
-        compare(3'000'000, 500, [](std::uint64_t seed) { return random_classes::far_branches(seed, true); });
+        compare_all(3'000'000, 500, [](std::uint64_t seed) { return random_classes::far_branches(seed, true); });
     tell(tally);
     EXPECT_GT(tally.images, 400);
     EXPECT_GT(tally.widened, 10'000);
@@ -239,16 +200,12 @@ TEST(Oracle, AgreesOnFarBranchesBetweenSwitches) {
 struct Case {
     std::string name;
     ClassFile file;
-    Options options;
+    RewriteOptions options;
 };
 
-Options all_trackers() {
-    Options options;
-    options.call_name = "enter";
-    options.return_name = "leave";
-    options.obj_init_name = "made";
-    options.newarray_name = "madeArray";
-    return options;
+// Trackers with longer names than kAll's.
+RewriteOptions all_trackers() {
+    return {.call_name = "enter", .return_name = "leave", .obj_init_name = "made", .newarray_name = "madeArray"};
 }
 
 ClassFile class_with(const Code& code) {
@@ -260,7 +217,7 @@ ClassFile class_with(const Code& code) {
 // Where a count or a length no longer fits, from a little below to a little above.
 std::vector<Case> limit_cases() {
     std::vector<Case> cases;
-    const Options all = all_trackers();
+    const RewriteOptions all = all_trackers();
     for (const unsigned count : {0x7FE0U, 0x7FFFU, 0x8000U, 0x8001U, 0x8002U, 0xC000U, 0xFFFFU}) {
         ClassFile file;
         file.pool.class_(file.name);
@@ -276,10 +233,10 @@ std::vector<Case> limit_cases() {
     for (const std::size_t length : {0U, 65527U, 65528U, 65529U, 65535U, 65536U, 70000U}) {
         const ClassFile file = class_with({.bytes = times(length, u1(op::nop))});
         cases.push_back({std::to_string(length) + " bytes of code", file, all});
-        cases.push_back({std::to_string(length) + " bytes of code that stay as they are", file, Options{}});
+        cases.push_back({std::to_string(length) + " bytes of code that stay as they are", file, RewriteOptions{}});
     }
     for (const unsigned max_stack : {0xFFFCU, 0xFFFDU, 0xFFFEU, 0xFFFFU}) {
-        Options arrays;
+        RewriteOptions arrays;
         arrays.newarray_name = "madeArray";
         const ClassFile file = class_with({.max_stack = max_stack, .bytes = {op::newarray, 10, op::return_}});
         cases.push_back({"max_stack " + std::to_string(max_stack), file, all});
@@ -294,7 +251,7 @@ std::vector<Case> limit_cases() {
         // The fields make room for the long name in the output.
         ClassFile file;
         file.fields.assign(20'000, {.name = "field", .descriptor = "I"});
-        Options options = all;
+        RewriteOptions options = all;
         options.tracker_class = std::string(length, 'x');
         cases.push_back({"a tracker class's name of " + std::to_string(length), file, options});
         options = all;
@@ -317,7 +274,7 @@ std::vector<Case> limit_cases() {
 std::vector<Case> names_with_zeros() {
     using namespace std::string_literals;
     std::vector<Case> cases;
-    Options system = all_trackers();
+    RewriteOptions system = all_trackers();
     system.system_class = true;
     for (const std::string& name : {"<clinit>\0x"s, "<init>\0x"s, "finalize\0"s, "currentThread\0x"s, "\0<init>"s}) {
         ClassFile file = class_with({.bytes = {op::return_}});
@@ -333,7 +290,7 @@ std::vector<Case> names_with_zeros() {
         cases.push_back({"a class, " + name, file, all_trackers()});
         file.super.clear();
         cases.push_back({"a class without a superclass, " + name, file, all_trackers()});
-        Options named = all_trackers();
+        RewriteOptions named = all_trackers();
         named.name = name.c_str();
         cases.push_back({"a class that the caller names, " + name, file, named});
     }
@@ -352,13 +309,11 @@ TEST(Oracle, AgreesAtTheLimitsAndOnOddNames) {
         std::vector<Case> cases = limit_cases();
         std::ranges::move(names_with_zeros(), std::back_inserter(cases));
         for (const Case& c : cases) {
-            const Bytes image = class_builder::assemble(c.file);
-            const Outcome literal = rewrite_literally(image, c.options);
-            const Outcome rewriter = rewrite(image, c.options);
-            if (rewriter != literal) {
-                problems += c.name + ": " + difference(rewriter, literal) + "\n";
+            const Comparison compared = compare(class_builder::assemble(c.file), c.options);
+            if (!compared.problem.empty()) {
+                problems += c.name + ": " + compared.problem + "\n";
             }
-            (literal.failure.empty() ? images : failures)++;
+            (compared.literal.failure.empty() ? images : failures)++;
         }
     }
     EXPECT_EQ(problems, "");
@@ -413,18 +368,17 @@ Tally compare_mutations(std::uint64_t first_seed, std::size_t classes, std::size
         const Bytes image = class_builder::assemble(made.file);
         for (std::uint64_t seed = 0; seed < mutations; seed++) {
             Random random(class_seed * 1000 + seed);
-            const Bytes mutated = mutate(random, image);
-            const Outcome literal = rewrite_literally(mutated, made.options);
-            const Outcome rewriter = rewrite(mutated, made.options);
-            if (rewriter != literal) {
+            const Comparison compared = compare(mutate(random, image), made.options);
+            if (!compared.problem.empty()) {
                 tally.problem = "class seed " + std::to_string(class_seed) + ", mutation " + std::to_string(seed) +
-                                ": " + difference(rewriter, literal);
+                                ": " + compared.problem;
                 return tally;
             }
-            if (literal.failure.empty()) {
+            const std::string& failure = compared.literal.failure;
+            if (failure.empty()) {
                 tally.images++;
             } else {
-                tally.failures.insert(literal.failure.substr(0, literal.failure.rfind(" (")));
+                tally.failures.insert(failure.substr(0, failure.rfind(" (")));
             }
         }
     }

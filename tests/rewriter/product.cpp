@@ -1,7 +1,9 @@
 #include "product.h"
 
+#include <algorithm>
 #include <cstdlib>
-#include <stdexcept>
+#include <memory>
+#include <optional>
 
 #include "java_crw_demo.h"
 
@@ -16,18 +18,27 @@ struct Failure {
     throw Failure{message, source_file};
 }
 
+const char* chars(const std::optional<std::string>& text) {
+    return text ? text->c_str() : nullptr;
+}
+
 }  // namespace
 
-Outcome rewrite(const class_builder::Bytes& image, const Request& request) {
-    unsigned char* new_image = nullptr;
-    long new_length = 0;
+Outcome rewrite(std::span<const std::uint8_t> image, const RewriteOptions& options) {
+    // A block of its own lets the sanitizers see a read past the image's end.
+    const std::unique_ptr<unsigned char[]> input(new unsigned char[image.size()]);
+    std::ranges::copy(image, input.get());
+    const std::string signature = "L" + options.tracker_class + ";";
     const char* numbers = "(II)V";
     const char* object = "(Ljava/lang/Object;)V";
+    unsigned char* new_image = nullptr;
+    long new_length = 0;
     try {
-        java_crw_demo(request.class_number, request.name, image.data(), static_cast<long>(image.size()),
-                      request.system_class, "Track", "LTrack;", request.call, numbers, request.ret, numbers,
-                      request.object_init, object, request.newarray, object, &new_image, &new_length, throw_failure,
-                      nullptr);
+        java_crw_demo(options.class_number, chars(options.name), input.get(), static_cast<long>(image.size()),
+                      options.system_class ? 1 : 0, options.tracker_class.c_str(), signature.c_str(),
+                      chars(options.call_name), numbers, chars(options.return_name), numbers,
+                      chars(options.obj_init_name), object, chars(options.newarray_name), object, &new_image,
+                      &new_length, throw_failure, nullptr);
     } catch (const Failure& failure) {
         return {{}, failure.message, failure.source_file};
     }

@@ -2,28 +2,28 @@
 #ifndef VANTREL_REWRITER_PRODUCT_H
 #define VANTREL_REWRITER_PRODUCT_H
 
+#include <cstdint>
+#include <span>
 #include <string>
+#include <vector>
 
-#include "class_builder.h"
+#include "literal_rewriter.h"
 
-// What is asked of the rewriter: by default everything, for an ordinary class.
-struct Request {
-    unsigned class_number = 1;
-    const char* name = nullptr;
-    int system_class = 0;
-    const char* call = "call";
-    const char* ret = "ret";
-    const char* object_init = "init";
-    const char* newarray = "array";
-};
+// All trackers, for an ordinary class.
+inline const RewriteOptions kAll{.class_number = 1,
+                                 .tracker_class = "Track",
+                                 .call_name = "call",
+                                 .return_name = "ret",
+                                 .obj_init_name = "init",
+                                 .newarray_name = "array"};
 
 // The new image, or what the error handler was told, and the file that the fault was reported from.
 struct Outcome {
-    class_builder::Bytes image;
+    std::vector<std::uint8_t> image;
     std::string failure;
     std::string source_file;
 };
 
-Outcome rewrite(const class_builder::Bytes& image, const Request& request = {});
+Outcome rewrite(std::span<const std::uint8_t> image, const RewriteOptions& options = kAll);
 
 #endif

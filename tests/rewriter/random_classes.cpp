@@ -384,10 +384,10 @@ Code far_code(Random& random, bool switches) {
     return finish(random, draft, reach);
 }
 
-literal_rewriter::Options random_options(Random& random) {
+RewriteOptions random_options(Random& random) {
     static constexpr std::array<unsigned, 12> numbers = {0,   3,    5,     6,     127,   128,
                                                          300, 4711, 32767, 32768, 40000, 0xFFFFFFFF};
-    literal_rewriter::Options options;
+    RewriteOptions options;
     options.class_number = pick(random, numbers);
     options.system_class = random.one_in(3);
     if (!random.one_in(5)) {

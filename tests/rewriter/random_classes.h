@@ -25,7 +25,7 @@ struct Random {
 
 struct RandomClass {
     class_builder::ClassFile file;
-    literal_rewriter::Options options;
+    RewriteOptions options;
 };
 
 // Everything that a class can have, in methods of up to some hundred bytes.

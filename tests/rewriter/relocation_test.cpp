@@ -13,10 +13,9 @@ namespace {
 
 TEST(Relocation, BranchesPassTheEntryAndRunReturnsAndPassArrays) {
     // Back to 0; to a return; to behind an array's creation.
-    expect_code(cat({{op::nop}, branch(op::ifeq, -1), branch(op::goto_, 3), kReturn}), Request{},
-                [](const Injections& i) {
-                    return cat({i.call, {op::nop}, branch(op::ifeq, -1), branch(op::goto_, 3), i.ret, kReturn});
-                });
+    expect_code(cat({{op::nop}, branch(op::ifeq, -1), branch(op::goto_, 3), kReturn}), kAll, [](const Injections& i) {
+        return cat({i.call, {op::nop}, branch(op::ifeq, -1), branch(op::goto_, 3), i.ret, kReturn});
+    });
     expect_code(cat({branch(op::goto_, 5), {op::newarray, 10}, {op::nop}, kReturn}), kArrays, [](const Injections& i) {
         return cat({branch(op::goto_, 9), {op::newarray, 10}, i.array, {op::nop}, kReturn});
     });

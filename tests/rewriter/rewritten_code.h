@@ -14,10 +14,10 @@ namespace rewritten_code {
 
 using namespace class_builder;
 
-inline const Request kNothing{.call = nullptr, .ret = nullptr, .object_init = nullptr, .newarray = nullptr};
-inline const Request kCalls{.ret = nullptr, .object_init = nullptr, .newarray = nullptr};
-inline const Request kReturns{.call = nullptr, .object_init = nullptr, .newarray = nullptr};
-inline const Request kArrays{.call = nullptr, .ret = nullptr, .object_init = nullptr};
+inline const RewriteOptions kNothing{.class_number = 1, .tracker_class = "Track"};
+inline const RewriteOptions kCalls{.class_number = 1, .tracker_class = "Track", .call_name = "call"};
+inline const RewriteOptions kReturns{.class_number = 1, .tracker_class = "Track", .return_name = "ret"};
+inline const RewriteOptions kArrays{.class_number = 1, .tracker_class = "Track", .newarray_name = "array"};
 
 inline const Bytes kReturn = {op::return_};
 
@@ -34,23 +34,23 @@ inline ClassFile with_code(const Bytes& bytes) {
 }
 
 // The class after rewriting; empty, and a failed test, where that fails.
-inline ClassFile rewritten(const ClassFile& file, const Request& request = {}) {
-    const Outcome outcome = rewrite(assemble(file), request);
+inline ClassFile rewritten(const ClassFile& file, const RewriteOptions& options = kAll) {
+    const Outcome outcome = rewrite(assemble(file), options);
     EXPECT_EQ(outcome.failure, "");
     return outcome.image.empty() ? with_code(Bytes{}) : take_apart(outcome.image);
 }
 
-inline Code code_after(const ClassFile& file, const Request& request = {}) {
-    return *rewritten(file, request).methods.at(0).code;
+inline Code code_after(const ClassFile& file, const RewriteOptions& options = kAll) {
+    return *rewritten(file, options).methods.at(0).code;
 }
 
-inline Bytes bytes_after(const Bytes& code, const Request& request) {
-    return code_after(with_code(code), request).bytes;
+inline Bytes bytes_after(const Bytes& code, const RewriteOptions& options) {
+    return code_after(with_code(code), options).bytes;
 }
 
 // The condition that fails in a class's only method.
-inline std::string failing_condition(const ClassFile& file, const Request& request = {}) {
-    const std::string failure = rewrite(assemble(file), request).failure;
+inline std::string failing_condition(const ClassFile& file, const RewriteOptions& options = kAll) {
+    const std::string failure = rewrite(assemble(file), options).failure;
     const std::string prefix = "CRW ASSERTION FAILURE: ";
     const size_t place = failure.find(" (com/example/Sample:m:");
     return failure.starts_with(prefix) && place != std::string::npos
@@ -77,16 +77,16 @@ inline Bytes tracker_call(const ClassFile& file, const std::string& name) {
 
 // The injections that all trackers lead to, in the first method of the only class with number 1.
 struct Injections {
-    explicit Injections(const ClassFile& after, const Request& request) {
+    explicit Injections(const ClassFile& after, const RewriteOptions& options) {
         const Bytes numbers = {op::iconst_0 + 1, op::iconst_0};
-        if (request.call != nullptr) {
-            call = cat({numbers, tracker_call(after, request.call)});
+        if (options.call_name) {
+            call = cat({numbers, tracker_call(after, *options.call_name)});
         }
-        if (request.ret != nullptr) {
-            ret = cat({numbers, tracker_call(after, request.ret)});
+        if (options.return_name) {
+            ret = cat({numbers, tracker_call(after, *options.return_name)});
         }
-        if (request.newarray != nullptr) {
-            array = cat({{op::dup}, tracker_call(after, request.newarray)});
+        if (options.newarray_name) {
+            array = cat({{op::dup}, tracker_call(after, *options.newarray_name)});
         }
     }
     Bytes call;
@@ -95,10 +95,10 @@ struct Injections {
 };
 
 // Code, and what it becomes. Builds the expectation from the injections.
-inline void expect_code(const Bytes& before, const Request& request,
+inline void expect_code(const Bytes& before, const RewriteOptions& options,
                         const std::function<Bytes(const Injections&)>& expected) {
-    const ClassFile after = rewritten(with_code(before), request);
-    EXPECT_EQ(after.methods.at(0).code->bytes, expected(Injections(after, request)));
+    const ClassFile after = rewritten(with_code(before), options);
+    EXPECT_EQ(after.methods.at(0).code->bytes, expected(Injections(after, options)));
 }
 
 }  // namespace rewritten_code

@@ -172,9 +172,9 @@ TEST(StackMaps, FramesThatComeOutOfOrderFail) {
     Code code;
     code.bytes = cat({tableswitch(0, 20, 0, {0}), times(9, {op::nop}), kReturn});
     code.attributes = {stack_map_table({same_frame(19), same_frame(0)})};
-    Request request = kCalls;
-    request.class_number = 128;
-    EXPECT_EQ(failing_condition(with_code(code), request), "new_delta >= 0");
+    RewriteOptions options = kCalls;
+    options.class_number = 128;
+    EXPECT_EQ(failing_condition(with_code(code), options), "new_delta >= 0");
 }
 
 }  // namespace
