@@ -26,6 +26,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::MatchesRegex;
 using testing::Not;
+using testing::StartsWith;
 
 namespace {
 
@@ -327,6 +328,19 @@ TEST(GeneratorCommand, FindsTheVmOrSaysThatThereIsNone) {
                                     {.folder = {}, .environment = c.environment});
         EXPECT_EQ(listed.status, c.status) << c.environment.front() << " " << c.environment.back();
         EXPECT_EQ(listed.err, c.err);
+    }
+}
+
+// Older releases have their VM in other folders.
+TEST(GeneratorCommand, FindsTheVmWhereReleasesHaveHadIt) {
+    SKIP_WITHOUT_JDK(17);
+    for (const char* place : {"lib/server", "lib/client", "jre/lib/amd64/server", "lib/amd64/server"}) {
+        const ScratchFolder home;
+        fs::create_directories((home.path / place).parent_path());
+        fs::create_symlink(*find_jdk(17) / "lib/server", home.path / place);
+        const Finished listed = run({VANTREL_GENERATE, "--java-home", home.path, "--list", "java.util.EventObject"});
+        EXPECT_EQ(listed.status, 0) << place << ": " << listed.err;
+        EXPECT_THAT(listed.out, StartsWith("java/util/EventObject\n")) << place;
     }
 }
 
