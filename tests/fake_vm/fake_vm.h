@@ -47,6 +47,9 @@ struct FakeMember {
     jint modifiers;              // Java's access flags, as JVMTI gives them
 };
 
+// No result, or a zero of any type: `{}` would set but the first byte of the union.
+constexpr jvalue kZero{.j = 0};
+
 struct FakeVm {
     FakeVm();
     ~FakeVm();
@@ -57,7 +60,7 @@ struct FakeVm {
     jclass add_class(std::string_view name);
     jobject add_object(std::string_view name);
     jbyteArray add_bytes(std::string_view name, std::vector<jbyte> bytes);
-    jmethodID add_method(jclass owner, std::string_view name, std::string_view descriptor, jvalue result = {});
+    jmethodID add_method(jclass owner, std::string_view name, std::string_view descriptor, jvalue result = kZero);
     jmethodID add_method(jclass owner, std::string_view name, std::string_view descriptor, jobject result);
     jmethodID add_throwing_method(jclass owner, std::string_view name, std::string_view descriptor, jobject thrown);
     jfieldID add_field(jclass owner, std::string_view name, std::string_view descriptor);

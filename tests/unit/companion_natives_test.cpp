@@ -24,7 +24,7 @@ struct ScriptedCaches : testing::Test {
     }
 
     void script(jclass& class_variable, jmethodID& id_variable, const char* class_name, const char* name,
-                const char* descriptor, jvalue result = {}) {
+                const char* descriptor, jvalue result = kZero) {
         const auto known = vm.classes.find(class_name);
         class_variable = known != vm.classes.end() ? known->second : vm.add_class(class_name);
         id_variable = vm.add_method(class_variable, name, descriptor, result);
