@@ -32,9 +32,9 @@ step() {
     fi
     wait "$pid" || status=$?
     if [ "$status" -ne 0 ]; then
-        # The lines of the tests that passed would hide what the others say.
+        # The lines about tests that passed, and about warnings that clang-tidy does not show, would hide the others.
         printf '%s failed. The end of %s:\n' "$([ -t 2 ] && printf '%s …' "$what")" "$log" >&2
-        grep -v -e '^ *Start ' -e ' Passed ' "$log" | tail -n 60 >&2
+        grep -v -e '^ *Start ' -e ' Passed ' -e 'warnings generated\.$' "$log" | tail -n 60 >&2
         exit 1
     fi
     printf '%s %d s\n' "$([ -t 2 ] && printf '%s …' "$what")" $((SECONDS - started)) >&2

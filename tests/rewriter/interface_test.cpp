@@ -211,22 +211,22 @@ TEST(RewriterInterface, LeavesDelicateMethodsOfSystemClassesAlone) {
         const char* name;
         const char* class_name;  // as the caller knows it
         Bytes code;
-        int system_class;
+        bool system_class;
         bool left_alone;
     } cases[] = {
-        {"<init>", nullptr, lone, 1, true},
-        {"<init>", nullptr, lone, 0, false},
-        {"<init>", nullptr, longer, 1, false},
-        {"finalize", nullptr, lone, 1, true},
-        {"finalize", nullptr, longer, 1, false},
-        {"<clinit>", nullptr, lone, 1, true},
-        {"<clinit>", nullptr, longer, 1, true},
-        {"<clinit>", nullptr, longer, 0, false},
-        {"run", nullptr, lone, 1, false},
-        {"currentThread", "java/lang/Thread", longer, 1, true},
-        {"currentThread", "java/lang/Thread", lone, 1, true},
-        {"currentThread", "java/lang/Thread", lone, 0, false},
-        {"currentThread", nullptr, lone, 1, false},  // the class is known by the caller's name only
+        {"<init>", nullptr, lone, true, true},
+        {"<init>", nullptr, lone, false, false},
+        {"<init>", nullptr, longer, true, false},
+        {"finalize", nullptr, lone, true, true},
+        {"finalize", nullptr, longer, true, false},
+        {"<clinit>", nullptr, lone, true, true},
+        {"<clinit>", nullptr, longer, true, true},
+        {"<clinit>", nullptr, longer, false, false},
+        {"run", nullptr, lone, true, false},
+        {"currentThread", "java/lang/Thread", longer, true, true},
+        {"currentThread", "java/lang/Thread", lone, true, true},
+        {"currentThread", "java/lang/Thread", lone, false, false},
+        {"currentThread", nullptr, lone, true, false},  // the class is known by the caller's name only
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c.name) + " of " + std::to_string(c.code.size()) + " bytes");
