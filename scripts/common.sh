@@ -18,7 +18,8 @@ step() {
     local what=$1 started=$SECONDS log pid status=0
     shift
     mkdir -p build/log
-    log=build/log/$(tr -cs 'A-Za-z0-9\n' '-' <<<"$what").log
+    # A list of packages is longer than a file's name may be.
+    log=build/log/$(tr -cs 'A-Za-z0-9\n' '-' <<<"$what" | cut -c 1-60).log
     "$@" >"$log" 2>&1 </dev/null &
     pid=$!
     if [ -t 2 ]; then
