@@ -1,7 +1,9 @@
 #include "arguments.h"
 
 #include <CLI/CLI.hpp>
+#include <utility>
 
+#include "command_line.h"
 #include "failure.h"
 
 namespace {
@@ -43,14 +45,8 @@ std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
     app.add_option("CLASS", arguments.classes, "A class, like java.awt.Container or java/awt/Container")
         ->required()
         ->type_name("");
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::CallForHelp&) {
-        return app.help();
-    } catch (const CLI::CallForVersion& version) {
-        return std::string(version.what()) + "\n";
-    } catch (const CLI::ParseError& error) {
-        throw Failure{std::string(error.what()) + "; vantrel-generate --help tells the options"};
+    if (auto text = parse_command_line(app, argc, argv)) {
+        return *std::move(text);
     }
     if (arguments.out.empty() && !arguments.list) {
         throw Failure{"--out is required; vantrel-generate --help tells the options"};

@@ -71,7 +71,7 @@ int generate_all(const Arguments& arguments) {
         try {
             generate(vm, name, arguments.out, written);
         } catch (const Failure& failure) {
-            report(failure.message);
+            report(failure.line);
             status = kClassFailed;
         }
     }
@@ -88,7 +88,7 @@ int run(int argc, char** argv) {
         }
         return generate_all(std::get<Arguments>(parsed));
     } catch (const Failure& failure) {
-        report(failure.message);
+        report(failure.line);
     } catch (const std::exception& error) {
         report(error.what());
     }

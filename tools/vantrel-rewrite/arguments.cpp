@@ -3,7 +3,9 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
+#include "command_line.h"
 #include "failure.h"
 
 namespace {
@@ -84,14 +86,8 @@ std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
         ->type_name("N");
     app.add_option("-o,--output", arguments.output, "What to write")->required()->type_name("OUT");
     app.add_option("IN", arguments.inputs, "What to rewrite")->required()->type_name("");
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::CallForHelp&) {
-        return app.help();
-    } catch (const CLI::CallForVersion& version) {
-        return std::string(version.what()) + "\n";
-    } catch (const CLI::ParseError& error) {
-        throw Failure{std::string(error.what()) + "; vantrel-rewrite --help tells the options"};
+    if (auto text = parse_command_line(app, argc, argv)) {
+        return *std::move(text);
     }
     tracker.class_name = class_name(tracker.class_name);
     tracker.signature = "L" + tracker.class_name + ";";
