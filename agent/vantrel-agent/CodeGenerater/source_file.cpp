@@ -1,10 +1,11 @@
 #include "source_file.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <filesystem>
 
 using generator::SourceFile;
 
@@ -27,9 +28,10 @@ std::string part_of(const SourceFile& file) {
 }
 
 int write_part(const SourceFile& file) {
-    // Only a folder could still be in the way of the part, when others have taken their places.
-    std::error_code unknown;
-    return std::filesystem::is_directory(file.path, unknown) ? EISDIR : write_all(part_of(file), file.text);
+    // A folder would be in the part's way only when other parts have taken their places.
+    struct stat there {};
+    const bool is_folder = stat(file.path.c_str(), &there) == 0 && S_ISDIR(there.st_mode);
+    return is_folder ? EISDIR : write_all(part_of(file), file.text);
 }
 
 int put_in_place(const SourceFile& file) {
