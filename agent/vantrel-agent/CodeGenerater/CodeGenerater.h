@@ -67,7 +67,7 @@ struct FieldEntity {
 // Says whether a member is wanted, other than 0, from the class's simple name, the member's name and its access flags.
 using EntityFilter = int (*)(char* class_name, char* name, int modifiers);
 
-// Generates <directory>\<simple name>.h and .cpp, replacing what is there. True if both were written; else none was.
+// Generates <directory>\<simple name>.h and .cpp, replacing what is there. True if both were written.
 //   name       the class's internal name, "java/awt/Component"; the class is loaded and initialised
 //   directory  "C:\generated-files" without one. Where the backslash is no separator it is a part of the file's name
 JNIEXPORT bool GenerateFiles(jvmtiEnv* jvmti, JNIEnv* env, char* name);
