@@ -9,7 +9,6 @@
 #include <map>
 #include <regex>
 #include <set>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -37,15 +36,6 @@ std::string text_of(const fs::path& path) {
     std::ifstream file(path);
     EXPECT_TRUE(file) << path;
     return {std::istreambuf_iterator<char>(file), {}};
-}
-
-std::vector<std::string> lines_of(const std::string& text) {
-    std::istringstream stream(text);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);) {
-        lines.push_back(line);
-    }
-    return lines;
 }
 
 // The names of files with an ending, without it.

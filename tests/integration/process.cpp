@@ -128,3 +128,12 @@ Finished run(const std::vector<std::string>& command, const ProcessOptions& opti
     const int status = process.wait();
     return {status, process.out(), process.err()};
 }
+
+std::vector<std::string> lines_of(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}

@@ -65,4 +65,7 @@ struct Finished {
 };
 Finished run(const std::vector<std::string>& command, const ProcessOptions& options = {});
 
+// The lines of what a program wrote, without their ends.
+std::vector<std::string> lines_of(const std::string& text);
+
 #endif

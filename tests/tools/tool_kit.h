@@ -21,7 +21,6 @@ Finished rewrite(const Words& arguments, const std::filesystem::path& folder);
 
 std::string contents(const std::filesystem::path& file);
 void write(const std::filesystem::path& file, const std::string& text);
-std::vector<std::string> lines_of(const std::string& text);
 
 // The names of all that is in a folder, hidden or not, and in what is below it; sorted.
 std::vector<std::string> names_in(const std::filesystem::path& folder);
