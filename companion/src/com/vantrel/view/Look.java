@@ -1,0 +1,116 @@
+package com.vantrel.view;
+
+import java.awt.Color;
+import java.awt.Font;
+
+import javax.swing.BorderFactory;
+import javax.swing.UIManager;
+import javax.swing.border.Border;
+
+/**
+ * The inspector's colours, fonts and distances, in one place so that all its parts look like one tool. The look and
+ * feel is the program's: its colours are taken where it has them, and every one has a fallback. Nothing is kept, for
+ * the program may change its look and feel at any time. Belongs to the event thread.
+ */
+public final class Look {
+    /** The distance between things that belong together, in user space; others are two or three of them apart. */
+    public static final int GAP = 6;
+
+    private static final int DEFAULT_FONT_SIZE = 12;
+
+    private Look() {
+    }
+
+    public static Color background() {
+        return color("Panel.background", new Color(0xF2F2F2));
+    }
+
+    public static Color foreground() {
+        return color("Label.foreground", new Color(0x1F1F1F));
+    }
+
+    /** Behind lists and tables. */
+    public static Color paper() {
+        return color("List.background", color("Tree.background", isDark() ? background().darker() : Color.WHITE));
+    }
+
+    public static Color selectionBackground() {
+        return color("List.selectionBackground", new Color(0x2F6FBF));
+    }
+
+    public static Color selectionForeground() {
+        return color("List.selectionForeground", Color.WHITE);
+    }
+
+    /** For what is there but matters less: units, hints, rows of components that do not show. */
+    public static Color dim() {
+        return mix(foreground(), background(), 0.45);
+    }
+
+    /** For thin lines between parts. */
+    public static Color line() {
+        return mix(foreground(), background(), 0.82);
+    }
+
+    /** For the program's own classes and lines, and for what is the component's own. */
+    public static Color own() {
+        return isDark() ? new Color(0x7FB4FF) : new Color(0x0B57A4);
+    }
+
+    /** For what went wrong. */
+    public static Color error() {
+        return isDark() ? new Color(0xFF8A80) : new Color(0xB3261E);
+    }
+
+    /** The colour of the highlight in the program, for whatever in the inspector's window stands for it. */
+    public static Color highlight() {
+        return new Color(0xFC7E00);
+    }
+
+    /** What flashes behind a value that has just changed. */
+    public static Color changed() {
+        return mix(highlight(), paper(), 0.55);
+    }
+
+    public static boolean isDark() {
+        Color back = background();
+        return 0.299 * back.getRed() + 0.587 * back.getGreen() + 0.114 * back.getBlue() < 128;
+    }
+
+    /** The plain font of the look and feel's labels. */
+    public static Font font() {
+        Font font = UIManager.getFont("Label.font");
+        return font == null ? new Font(Font.DIALOG, Font.PLAIN, DEFAULT_FONT_SIZE) : font.deriveFont(Font.PLAIN);
+    }
+
+    public static Font bold() {
+        return font().deriveFont(Font.BOLD);
+    }
+
+    /** For source lines and code. */
+    public static Font code() {
+        return new Font(Font.MONOSPACED, Font.PLAIN, font().getSize());
+    }
+
+    public static Border padding() {
+        return BorderFactory.createEmptyBorder(GAP, GAP, GAP, GAP);
+    }
+
+    /** A colour between two: the first one at 0, the second one at 1. */
+    public static Color mix(Color first, Color second, double share) {
+        return new Color(between(first.getRed(), second.getRed(), share),
+                between(first.getGreen(), second.getGreen(), share),
+                between(first.getBlue(), second.getBlue(), share));
+    }
+
+    private static int between(int first, int second, double share) {
+        return (int) Math.round(first + (second - first) * share);
+    }
+
+    private static Color color(String key, Color fallback) {
+        Color color = UIManager.getColor(key);
+        // Not the look and feel's own object: it would count as the look and feel's on a component that it is set on,
+        // and some have colours that fail outside of its own painters.
+        return color == null ? fallback : new Color(color.getRGB());
+    }
+}
