@@ -1,32 +1,17 @@
 package com.vantrel.model;
 
 import java.awt.Component;
-import java.awt.Window;
-import java.util.Collections;
-import java.util.Set;
-import java.util.WeakHashMap;
 
 /**
- * Which windows are the inspector's own. They are left out of trees, picks, logs and counts. May be called from any
- * thread.
+ * Marks the inspector's own windows. They, and what they own, are left out of trees, picks, logs and counts. A type and
+ * not a set of windows, so that asking calls nothing that a program may have overridden.
  */
-public final class Ours {
-    private static final Set<Window> WINDOWS = Collections.synchronizedSet(
-            Collections.newSetFromMap(new WeakHashMap<>()));
-
-    private Ours() {
-    }
-
-    /** Marks a window, and with it every window that it owns, now and later. */
-    public static void mark(Window window) {
-        WINDOWS.add(window);
-    }
-
-    /** Whether a component is one of our windows or lies in one. */
-    public static boolean isOurs(Component component) {
-        // A window's parent is its owner, so that this goes from dialogs and popups to our frame, too.
+public interface Ours {
+    /** Whether a component is one of our windows or lies in one. May be called from any thread. */
+    static boolean isOurs(Component component) {
+        // A window's parent is its owner, so that this leads from our dialogs and popups to our frame.
         for (Component at = component; at != null; at = at.getParent()) {
-            if (at instanceof Window && WINDOWS.contains(at)) {
+            if (at instanceof Ours) {
                 return true;
             }
         }
