@@ -64,6 +64,7 @@ final class MainFrame {
         JSplitPane split = things.named("split", new JSplitPane(JSplitPane.VERTICAL_SPLIT, maker.top(), maker.tabs()));
         frame.add(split);
         frame.setSize(640, 620);
+        split.setDividerLocation(300);
         frame.setVisible(true);
     }
 
@@ -92,12 +93,14 @@ final class MainFrame {
         right.setLayout(new BoxLayout(right, BoxLayout.Y_AXIS));
         right.add(awt());
         right.add(group());
-        right.add(Box.createVerticalGlue());
         JLabel invisible = things.named("invisible", new JLabel("Not shown"));
         invisible.setVisible(false);
         right.add(invisible);
         // Where additions, removals and misbehaving components go.
-        right.add(things.named("room", new JPanel(new FlowLayout(FlowLayout.LEFT, 2, 2))));
+        JPanel room = things.named("room", new JPanel(new FlowLayout(FlowLayout.LEFT, 2, 2)));
+        room.setPreferredSize(new Dimension(100, 100));
+        right.add(room);
+        right.add(Box.createVerticalGlue());
         top.add(right);
         return top;
     }
@@ -145,6 +148,7 @@ final class MainFrame {
         JTextField field = things.named("group.field", new JTextField(6));
         layout.setHorizontalGroup(layout.createSequentialGroup().addComponent(label).addComponent(field));
         layout.setVerticalGroup(layout.createParallelGroup().addComponent(label).addComponent(field));
+        panel.setMaximumSize(new Dimension(Short.MAX_VALUE, panel.getPreferredSize().height));
         return panel;
     }
 
