@@ -6,6 +6,8 @@ import java.lang.ProcessBuilder.Redirect;
 import java.nio.file.Path;
 import java.util.Map;
 import java.util.function.Consumer;
+import java.util.regex.Matcher;
+import java.util.regex.Pattern;
 
 /**
  * Opens lines in the user's editor: {@link #COMMAND} is the command, {@link #SOURCES} says where source files are.
@@ -34,6 +36,9 @@ public final class Editor {
             return isFailure;
         }
     }
+
+    /** In an exception's text: "error=2, No such file" or, on newer VMs, "error: 2 (No such file)". */
+    private static final Pattern REASON = Pattern.compile("error[=:] ?\\d+[ ,(]+([^)]+)");
 
     private Editor() {
     }
@@ -99,10 +104,10 @@ public final class Editor {
         }
     }
 
-    /** What the system said, without what Java puts before it. */
+    /** What the system said, without what Java puts around it. */
     private static String reason(IOException e) {
         String text = String.valueOf(e.getMessage());
-        int at = text.lastIndexOf("error=");
-        return at < 0 ? text : text.substring(text.indexOf(',', at) + 1).trim();
+        Matcher reason = REASON.matcher(text);
+        return reason.find() ? reason.group(1).trim() : text;
     }
 }

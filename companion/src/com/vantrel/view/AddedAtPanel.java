@@ -146,6 +146,11 @@ public final class AddedAtPanel extends JPanel {
             }
         };
         action.putValue(Action.ACCELERATOR_KEY, key);
+        if (key != null) {
+            String keys = KeyEvent.getKeyModifiersText(key.getModifiers());
+            action.putValue(Action.SHORT_DESCRIPTION,
+                    name + " (" + keys + (keys.isEmpty() ? "" : "+") + KeyEvent.getKeyText(key.getKeyCode()) + ")");
+        }
         return action;
     }
 

@@ -29,16 +29,16 @@ final class EditorSettings extends JPanel {
         super(new GridBagLayout());
         this.told = told;
         setBorder(Look.padding());
-        add("Editor command", Editor.COMMAND,
-                "for example: idea --line %line %file; quotes keep words together, and no shell is used");
-        add("Source folders", Editor.SOURCES,
-                "separated as in a class path; the folder that the program was started in comes last by itself");
+        add("Editor command", Editor.COMMAND, "Such as: idea --line %line %file",
+                "Quotes keep words together; no shell is used");
+        add("Source folders", Editor.SOURCES, "Beside the folder that the program runs in",
+                "Separated as in a class path");
     }
 
-    private void add(String title, String setting, String hint) {
+    private void add(String title, String setting, String hint, String more) {
         JTextField field = new JTextField(Settings.get(setting, ""), COLUMNS);
         field.setName("vantrel.addedAt." + setting);
-        field.setToolTipText(hint);
+        field.setToolTipText(more);
         field.addActionListener(event -> remember(setting, field));
         field.addFocusListener(new FocusAdapter() {
             @Override
