@@ -13,6 +13,17 @@ using testing::StartsWith;
 
 namespace {
 
+// The test classes, and how many tests each has: one that is not run is missed.
+constexpr struct {
+    const char* name;
+    int tests;
+} kUnitTests[] = {
+    {"model.AddedAtTest", 4},
+    {"model.EditorTest", 4},
+    {"stacktrace.StackTraceManagerTest", 6},
+    {"util.ClassFileEditorTest", 5},
+};
+
 class Companion : public testing::TestWithParam<int> {};
 INSTANTIATE_TEST_SUITE_P(OnJdk, Companion, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
 
@@ -20,11 +31,16 @@ TEST_P(Companion, PassesItsUnitTests) {
     SKIP_WITHOUT_JDK(GetParam());
     const std::string class_path =
         (kTestFolder / "companion-tests.jar").string() + ":" + kCompanionJar.string() + ":" + VANTREL_JUNIT_JARS;
-    const Finished tests = run({*find_jdk(GetParam()) / "bin" / "java", "-Djava.awt.headless=true", "-cp", class_path,
-                                "org.junit.runner.JUnitCore", "com.vantrel.util.ClassFileEditorTest",
-                                "com.vantrel.stacktrace.StackTraceManagerTest"});
+    Arguments command = {*find_jdk(GetParam()) / "bin" / "java", "-Djava.awt.headless=true", "-cp", class_path,
+                         "org.junit.runner.JUnitCore"};
+    int count = 0;
+    for (const auto& [name, tests] : kUnitTests) {
+        command.push_back("com.vantrel." + std::string(name));
+        count += tests;
+    }
+    const Finished tests = run(command);
     EXPECT_EQ(tests.status, 0) << tests.out << tests.err;
-    EXPECT_THAT(tests.out, HasSubstr("\nOK (11 tests)\n"));
+    EXPECT_THAT(tests.out, HasSubstr("\nOK (" + std::to_string(count) + " tests)\n"));
 }
 
 // The jar is on the boot class path of somebody else's application: what it holds hides what that brings.

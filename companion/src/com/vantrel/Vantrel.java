@@ -42,7 +42,12 @@ public final class Vantrel {
 
     /** Selects a component in the inspector. */
     public void selectOnComponentTree(Component component) {
-        VantrelFrame.getInstance().select(component);
+        VantrelFrame.getInstance().selection().select(component);
+    }
+
+    /** The component that is selected in the inspector, for debuggers and consoles; null for none. */
+    public static Component getSelectedComponent() {
+        return VantrelFrame.getInstance().selection().component();
     }
 
     /** Paints the highlight over a component. */

@@ -13,12 +13,15 @@ import javax.swing.JLabel;
 import javax.swing.Timer;
 import javax.swing.WindowConstants;
 
+import com.vantrel.model.Ours;
+import com.vantrel.model.Selection;
+
 /**
  * The inspector's window. A window that exists, shown or not, keeps the event thread and with it the VM alive, so this
  * one exists only while it is shown, and goes when nothing else is left of the program. It stays usable while a modal
  * dialog of the program is open.
  */
-public final class VantrelFrame extends JFrame {
+public final class VantrelFrame extends JFrame implements Ours {
     private static final long serialVersionUID = 1L;
 
     /** What is left of the main thread when it has ended, and the AWT's wait for its own end. */
@@ -28,7 +31,8 @@ public final class VantrelFrame extends JFrame {
 
     private static VantrelFrame instance;
 
-    private final JLabel selection = new JLabel("No component is selected.", JLabel.CENTER);
+    private final transient Selection selection = new Selection();
+    private final JLabel selected = new JLabel("No component is selected.", JLabel.CENTER);
 
     private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, new ActionListener() {
         @Override
@@ -41,9 +45,12 @@ public final class VantrelFrame extends JFrame {
 
     private VantrelFrame() {
         super("Vantrel");
+        setName("vantrel");
         setDefaultCloseOperation(WindowConstants.DISPOSE_ON_CLOSE);
         setModalExclusionType(Dialog.ModalExclusionType.TOOLKIT_EXCLUDE);
-        add(selection);
+        add(selected);
+        selection.onChange(() -> selected.setText(
+                selection.component() == null ? "No component is selected." : selection.component().toString()));
         setSize(480, 320);
     }
 
@@ -68,6 +75,7 @@ public final class VantrelFrame extends JFrame {
     @Override
     public void dispose() {
         looks.stop();
+        selection.clear();
         super.dispose();
     }
 
@@ -97,8 +105,9 @@ public final class VantrelFrame extends JFrame {
         return count == threads.length;
     }
 
-    void select(Component component) {
-        selection.setText(component == null ? "No component is selected." : component.toString());
+    /** What is selected in the inspector. */
+    Selection selection() {
+        return selection;
     }
 
     /** Asks for a window that is translucent, in percent. The agent does nothing with it. */
