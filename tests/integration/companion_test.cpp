@@ -18,6 +18,8 @@ constexpr struct {
     const char* name;
     int tests;
 } kUnitTests[] = {
+    {"model.AddedAtTest", 4},
+    {"model.EditorTest", 4},
     {"stacktrace.StackTraceManagerTest", 6},
     {"util.ClassFileEditorTest", 5},
 };

@@ -25,7 +25,7 @@ void Scenario::start(const Arguments& options) {
     program.emplace(
         java_under_agent(GetParam(), options + Arguments{"-Duser.home=" + folder.path.string(), "-cp",
                                                          kTestFolder / "scenario-program.jar", "scenario.Scenario"}),
-        ProcessOptions{.folder = folder.path, .environment = {x.display()}});
+        ProcessOptions{.folder = folder.path, .environment = {x.display(), "XDG_CONFIG_HOME="}});
     ASSERT_TRUE(program->reaches([this] { return x.shows("Scenario"); })) << program->err();
     EXPECT_TRUE(eventually([this] { return ask("focus") != "none"; }));
     ask("log");
