@@ -1,15 +1,20 @@
 import java.awt.Component;
 import java.awt.Container;
+import java.io.ObjectInputStream;
+import java.io.ObjectOutputStream;
 import java.nio.file.Files;
 import java.nio.file.Path;
 import java.nio.file.Paths;
-import java.io.ObjectInputStream;
-import java.io.ObjectOutputStream;
 
 import javax.swing.JLabel;
 import javax.swing.JPanel;
 
-/** Writes components that were added to each other into a file, or reads them from there and prints what they are. */
+import com.vantrel.stacktrace.StackTraceManager;
+
+/**
+ * Writes components that were added to each other into a file, or reads them from there and prints what they are, and
+ * whether the children are known to have been added.
+ */
 public final class Serialised {
     private Serialised() {
     }
@@ -37,7 +42,8 @@ public final class Serialised {
                 + (component instanceof JLabel ? " " + ((JLabel) component).getText() : ""));
         if (component instanceof Container) {
             for (Component child : ((Container) component).getComponents()) {
-                print(indent + (child.getParent() == component ? " in " : " lost "), child);
+                boolean traced = StackTraceManager.getStackTrace(child).length > 0;
+                print(indent + (child.getParent() == component ? " in" : " lost") + (traced ? " traced " : " "), child);
             }
         }
     }
