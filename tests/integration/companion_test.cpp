@@ -21,11 +21,12 @@ INSTANTIATE_TEST_SUITE_P(OnJdk, Companion, testing::ValuesIn(kReleases), testing
 TEST_P(Companion, PassesItsUnitTests) {
     SKIP_WITHOUT_JDK(GetParam());
     const std::string boot_path = (kTestFolder / "companion-tests.jar").string() + ":" + VANTREL_JUNIT_JARS;
-    const Finished tests = run(java_under_agent(
-        GetParam(), {"-Djava.awt.headless=true", "-Xbootclasspath/a:" + boot_path, "org.junit.runner.JUnitCore",
-                     "com.vantrel.util.ClassFileEditorTest", "com.vantrel.stacktrace.StackTraceManagerTest"}));
+    const Finished tests = run(
+        java_under_agent(GetParam(), {"-Djava.awt.headless=true", "-Xbootclasspath/a:" + boot_path,
+                                      "org.junit.runner.JUnitCore", "com.vantrel.util.ClassFileEditorTest",
+                                      "com.vantrel.stacktrace.StackTraceManagerTest", "com.vantrel.hooks.HooksTest"}));
     EXPECT_EQ(tests.status, 0) << tests.out << tests.err;
-    EXPECT_THAT(tests.out, HasSubstr("\nOK (11 tests)\n"));
+    EXPECT_THAT(tests.out, HasSubstr("\nOK (15 tests)\n"));
 }
 
 // The jar is on the boot class path of somebody else's application: what it holds hides what that brings.

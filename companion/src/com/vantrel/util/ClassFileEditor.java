@@ -21,6 +21,7 @@ final class ClassFileEditor {
 
     private static final int CONSTANT_UTF8 = 1;
     private static final int CONSTANT_CLASS = 7;
+    private static final int CONSTANT_STRING = 8;
     private static final int CONSTANT_FIELDREF = 9;
     private static final int CONSTANT_METHODREF = 10;
     private static final int CONSTANT_NAME_AND_TYPE = 12;
@@ -122,26 +123,26 @@ final class ClassFileEditor {
     }
 
     /**
-     * Puts code before a method's own; a method can get some once. If the new code jumps, then to its own end, with an
+     * Puts code before a method's own; a method can get some once, and then none of its writes replaced. If the new code jumps, then to its own end, with an
      * empty stack and the parameters as they came in.
      *
      * @param head     the code, of a length that is a multiple of four
      * @param maxStack what the code needs of the stack
      * @param jumps    whether it jumps
-     * @throws IllegalArgumentException if the class declares no such method with code
+     * @return whether the class declares such a method, with code; if not, nothing is changed
      */
-    void insertAtHead(String method, String descriptor, byte[] head, int maxStack, boolean jumps) {
+    boolean insertAtHead(String method, String descriptor, byte[] head, int maxStack, boolean jumps) {
         int at = fieldsEnd + 2;
         for (int i = u2(fieldsEnd); i > 0; i--) {
             int code = codeAttribute(at);
             if (code != 0 && isUtf8(u2(at + 2), method) && isUtf8(u2(at + 4), descriptor)) {
                 byte[] edited = MovedCode.behind(this, code, head, maxStack, jumps);
                 splices.put(code, new Splice(attributeEnd(code) - code, edited));
-                return;
+                return true;
             }
             at = memberEnd(at);
         }
-        throw new IllegalArgumentException("The class has no code for " + method + descriptor);
+        return false;
     }
 
     /**
@@ -299,6 +300,18 @@ final class ClassFileEditor {
         return poolCount++;
     }
 
+    int classRef(String className) {
+        int text = utf8(className);
+        newConstants.u1(CONSTANT_CLASS).u2(text);
+        return poolCount++;
+    }
+
+    int stringRef(String text) {
+        int index = utf8(text);
+        newConstants.u1(CONSTANT_STRING).u2(index);
+        return poolCount++;
+    }
+
     int fieldRef(String className, String name, String descriptor) {
         return memberRef(CONSTANT_FIELDREF, className, name, descriptor);
     }
@@ -308,9 +321,7 @@ final class ClassFileEditor {
     }
 
     private int memberRef(int kind, String className, String name, String descriptor) {
-        int classText = utf8(className);
-        newConstants.u1(CONSTANT_CLASS).u2(classText);
-        int classIndex = poolCount++;
+        int classIndex = classRef(className);
         int nameText = utf8(name);
         int descriptorText = utf8(descriptor);
         newConstants.u1(CONSTANT_NAME_AND_TYPE).u2(nameText).u2(descriptorText);

@@ -8,13 +8,16 @@ import java.nio.ByteBuffer;
  */
 final class Instructions {
     static final int NOP = 0x00;
+    static final int LDC_W = 0x13;
     static final int ALOAD_0 = 0x2A;
     static final int ALOAD_1 = 0x2B;
+    static final int POP = 0x57;
     static final int IFEQ = 0x99;
-    static final int RETURN = 0xB1;
     static final int ARETURN = 0xB0;
+    static final int RETURN = 0xB1;
     static final int GETFIELD = 0xB4;
     static final int PUTFIELD = 0xB5;
+    static final int INVOKEVIRTUAL = 0xB6;
     static final int INVOKESTATIC = 0xB8;
     static final int IFNULL = 0xC6;
 
