@@ -22,6 +22,7 @@ class XWindows {
     // Gives a window the focus; XCB_INPUT_FOCUS_POINTER_ROOT for whichever the pointer is over, XCB_INPUT_FOCUS_NONE
     // for none.
     void focus(xcb_window_t window);
+    [[nodiscard]] xcb_window_t focused() const;
 
     static std::string own_machine();
 
