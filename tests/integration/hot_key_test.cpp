@@ -428,6 +428,20 @@ TEST(HotKey, GoesToTheProgramThatHasTheFocus) {
     }
 }
 
+// As a program does that a debugger has stopped.
+TEST(HotKey, AHolderThatIsHeldUpStillPassesItOn) {
+    const XServer x;
+    XKeys keys(x.name());
+    XWindows windows(x.name());
+    Probe held_up(x.name(), "block");
+    Probe other(x.name());
+    keys.press({XK_Control_L, XK_F12});
+    EXPECT_TRUE(held_up.says("press 1"));
+    windows.focus(windows.make(other.id()));
+    keys.press({XK_Control_L, XK_F12});
+    EXPECT_TRUE(other.says("press 1"));
+}
+
 TEST(HotKey, IsTakenOverWhenItsHolderEnds) {
     std::vector<int> order = {0, 1, 2};
     do {
