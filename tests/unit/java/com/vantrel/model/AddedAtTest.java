@@ -49,6 +49,7 @@ public class AddedAtTest {
             {"toolkit*1 7 7", add, "a.B.c:7", "a.B.c:7"},
             {"toolkit*1 7 2more*2 8", add, "a.B.c:7", "a.B.c:7", "a.B.c:7", "a.B.c:8"},
             {"1 2 1more*2", "a.B.c:1", "a.B.c:2", "a.B.c:1", "a.B.c:2"},
+            {"1 2 1more*2 1", "a.B.c:1", "a.B.c:2", "a.B.c:1", "a.B.c:2", "a.B.c:1"},
             {"7 toolkit*2 2more*6 9", "a.B.c:7", add, add, "a.B.c:7", add, add, "a.B.c:7", add, add, "a.B.c:9"},
             // Other calls of the toolkit between are another round.
             {"7 toolkit*2 7 toolkit*1", "a.B.c:7", add, add, "a.B.c:7", add},
