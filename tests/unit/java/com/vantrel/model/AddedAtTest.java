@@ -89,6 +89,8 @@ public class AddedAtTest {
         assertNull(toolkits.where());
         assertEquals("added by the toolkit, by no line of the program", toolkits.line());
 
+        assertEquals("Form.<init>(File.java:7)", addedAt("a.Form.lambda$new$12:7").line());
+
         String[][] cases = { // the line, class, method, file, number
             {"at Main.main(Main.java:3)", "Main", "main", "Main.java", "3"},
             {"at a.Main.<init>(Main.java)", "a.Main", "<init>", "Main.java", "-1"},
