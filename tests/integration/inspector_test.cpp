@@ -83,7 +83,7 @@ TEST_P(Inspector, TheHotKeyShowsAndHidesItsWindow) {
         if (managed) {
             manager.emplace(x);
         }
-        start({"-cp", kSampleJar, "Sample"});
+        start({"-jar", kSampleJar});
         ASSERT_TRUE(program->reaches([&] { return x.shows("Vantrel sample"); })) << program->err();
         for (int round = 0; round < 2; ++round) {
             EXPECT_FALSE(x.shows(kWindow));
