@@ -369,7 +369,7 @@ TEST(HotKey, ADisplayThatAnswersLateIsStillServed) {
     for (const bool unbound_meanwhile : {false, true}) {
         SCOPED_TRACE(unbound_meanwhile ? "unbound meanwhile" : "still bound");
         x.signal(SIGSTOP);
-        Probe probe(x.name());
+        Probe probe(x.name(), "hasty");
         EXPECT_TRUE(
             probe.complains("vantrel-agent: no hot key: the X server of display " + x.name() + " does not answer."));
         if (unbound_meanwhile) {
