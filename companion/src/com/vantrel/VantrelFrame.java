@@ -10,9 +10,11 @@ import java.util.List;
 
 import javax.swing.JFrame;
 import javax.swing.JPanel;
+import javax.swing.SwingUtilities;
 import javax.swing.Timer;
 import javax.swing.WindowConstants;
 
+import com.vantrel.model.Edits;
 import com.vantrel.model.Ours;
 import com.vantrel.model.Selection;
 import com.vantrel.view.InspectorPane;
@@ -76,6 +78,7 @@ public final class VantrelFrame extends JFrame implements Ours {
         } else if (pane == null) {
             fill();
             super.setVisible(true);
+            pane.first().requestFocusInWindow();
             pane.start();
             looks.start();
         }
@@ -93,12 +96,12 @@ public final class VantrelFrame extends JFrame implements Ours {
 
     private void fill() {
         selection = new Selection();
-        pane = new InspectorPane(selection, Sight.NONE, chosen -> new JPanel(), this::dispose);
+        Edits edits = new Edits(SwingContext::safeRun1, SwingUtilities::invokeLater);
+        pane = new InspectorPane(selection, edits, Sight.NONE, this::dispose);
         setRootPane(createRootPane()); // one of the look and feel that the program has now
         setContentPane(pane);
         setJMenuBar(pane.menus());
         Placement.place(this);
-        pane.first().requestFocusInWindow();
         selection.select(toSelect.get());
         toSelect.clear();
     }

@@ -1,10 +1,12 @@
 package scenario;
 
-import java.util.Iterator;
-import java.util.Map;
+import java.awt.Color;
+import java.awt.Font;
 
+import javax.swing.Icon;
 import javax.swing.UIDefaults;
 import javax.swing.UIManager;
+import javax.swing.border.Border;
 import javax.swing.plaf.ColorUIResource;
 import javax.swing.plaf.metal.DefaultMetalTheme;
 import javax.swing.plaf.metal.MetalLookAndFeel;
@@ -15,7 +17,7 @@ final class Themes {
     }
 
     /**
-     * "dark" is Metal in dark colours. "bare" knows how to paint, but has no colours, fonts or icons: not even a text
+     * "dark" is Metal in dark colours. "bare" knows how to paint, but has no colours, fonts, borders or icons: not even a text
      * field with a text can be made under it. Any other name is a class's.
      */
     static void use(String name) throws Exception {
@@ -77,9 +79,11 @@ final class Themes {
         @Override
         public UIDefaults getDefaults() {
             UIDefaults all = super.getDefaults();
-            for (Iterator<Map.Entry<Object, Object>> entries = all.entrySet().iterator(); entries.hasNext();) {
-                if (!String.valueOf(entries.next().getKey()).endsWith("UI")) {
-                    entries.remove();
+            for (Object key : all.keySet().toArray()) {
+                Object value = all.get(key);
+                if (value instanceof Color || value instanceof Font || value instanceof Border
+                        || value instanceof Icon) {
+                    all.remove(key);
                 }
             }
             return all;
