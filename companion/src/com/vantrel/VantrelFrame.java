@@ -13,8 +13,11 @@ import javax.swing.JPanel;
 import javax.swing.Timer;
 import javax.swing.WindowConstants;
 
+import com.vantrel.model.Edits;
 import com.vantrel.model.Ours;
 import com.vantrel.model.Selection;
+import com.vantrel.view.AddedAtPanel;
+import com.vantrel.view.Details;
 import com.vantrel.view.InspectorPane;
 import com.vantrel.view.Placement;
 import com.vantrel.view.Sight;
@@ -93,7 +96,10 @@ public final class VantrelFrame extends JFrame implements Ours {
 
     private void fill() {
         selection = new Selection();
-        pane = new InspectorPane(selection, Sight.NONE, chosen -> new JPanel(), this::dispose);
+        Edits edits = new Edits(SwingContext::safeRun1, task -> SwingContext.safeRun1(this, task));
+        AddedAtPanel addedAt = new AddedAtPanel(selection);
+        pane = new InspectorPane(selection, Sight.NONE, edits,
+                chosen -> new Details(chosen, edits, addedAt, addedAt::openWhere), this::dispose);
         setRootPane(createRootPane()); // one of the look and feel that the program has now
         setContentPane(pane);
         setJMenuBar(pane.menus());

@@ -57,13 +57,7 @@ final class Fields {
     private synchronized boolean open() {
         if (field == null && tries < 3) {
             tries++;
-            try {
-                Field found = owner.getDeclaredField(name);
-                found.setAccessible(true);
-                field = found;
-            } catch (NoSuchFieldException | RuntimeException e) {
-                // Not this time; newer VMs throw a RuntimeException of their own for what is not open.
-            }
+            field = Members.field(owner, name);
         }
         return field != null;
     }

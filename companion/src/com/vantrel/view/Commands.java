@@ -7,6 +7,7 @@ import java.util.List;
 import javax.swing.JComponent;
 
 import com.vantrel.model.Description;
+import com.vantrel.model.Edits;
 import com.vantrel.model.Facts;
 import com.vantrel.model.Selection;
 
@@ -21,6 +22,8 @@ final class Commands {
     final Command copyPath;
     final Command copyClass;
     final Command copyDescription;
+    final Command undo;
+    final Command redo;
     final Command machinery;
     final Command expandAll;
     final Command collapseAll;
@@ -28,7 +31,8 @@ final class Commands {
     private final Selection selection;
     private final TreePane tree;
 
-    Commands(Selection selection, TreePane tree, Sight sight, StatusLine status, Runnable machineryChanged) {
+    Commands(Selection selection, TreePane tree, Sight sight, Edits edits, StatusLine status,
+            Runnable machineryChanged) {
         this.selection = selection;
         this.tree = tree;
         pick = new Command("Pick", "F8", "Selects what you click in the program next", sight::canPick,
@@ -52,6 +56,9 @@ final class Commands {
         copyDescription = new Command("Copy Description", "ctrl shift D",
                 "Copies what there is to know of the component, to paste into a report", this::hasSelected,
                 () -> status.copied("description", Description.of(selection.component())));
+        undo = new Command("Undo", "ctrl Z", "Takes back the last change of a property", edits::canUndo, edits::undo);
+        redo = new Command("Redo", "ctrl shift Z", "Makes the change again that was taken back", edits::canRedo,
+                edits::redo);
         machinery = new Command("Machinery", "ctrl M",
                 "Shows root panes, viewports, scroll bars and the like, too", () -> true, () -> {
                     tree.showMachinery(!tree.tree().showsMachinery());
@@ -78,8 +85,8 @@ final class Commands {
     }
 
     private List<Command> all() {
-        return Arrays.asList(pick, find, back, forward, parent, outline, copyPath, copyClass, copyDescription, machinery,
-                expandAll, collapseAll);
+        return Arrays.asList(pick, find, back, forward, parent, outline, copyPath, copyClass, copyDescription, undo,
+                redo, machinery, expandAll, collapseAll);
     }
 
     /** Takes the commands' keys anywhere in the window. */

@@ -17,6 +17,7 @@ import javax.swing.JPanel;
 import javax.swing.JPopupMenu;
 import javax.swing.KeyStroke;
 
+import com.vantrel.model.Edits;
 import com.vantrel.model.Selection;
 import com.vantrel.model.Settings;
 import com.vantrel.model.TreeNode;
@@ -30,6 +31,7 @@ public final class InspectorPane extends JPanel {
 
     private final transient Selection selection;
     private final transient Sight sight;
+    private final transient Edits edits;
     private final TreePane tree;
     private final transient Commands commands;
     private final ToolBar tools;
@@ -39,29 +41,33 @@ public final class InspectorPane extends JPanel {
     private final JMenuBar menus;
 
     /**
+     * @param edits   what has been changed in the program
      * @param details makes the part of the window that tells all about the selected component, out of the selection
      * @param close   hides the window
      */
-    public InspectorPane(Selection selection, Sight sight, Function<Selection, JComponent> details,
+    public InspectorPane(Selection selection, Sight sight, Edits edits, Function<Selection, JComponent> details,
             Runnable close) {
         super(new BorderLayout());
         this.selection = selection;
         this.sight = sight;
+        this.edits = edits;
         tree = new TreePane(selection);
         status = new StatusLine(selection);
-        commands = new Commands(selection, tree, sight, status, this::update);
-        tools = new ToolBar(commands, tree.searchBar(), null, null);
+        commands = new Commands(selection, tree, sight, edits, status, this::update);
+        tools = new ToolBar(commands, tree.searchBar(), commands.undo, commands.redo);
         this.details = new DetailsPane(selection, details.apply(selection));
         split = new Split(tree, this.details);
         split.setDividerLocation(Settings.get(SPLIT, TREE_WIDTH));
         split.setResizeWeight(0.3);
-        menus = Menus.bar(commands, tree.tree()::showsMachinery, closing(close), null, null);
+        menus = Menus.bar(commands, tree.tree()::showsMachinery, closing(close),
+                commands.undo, commands.redo);
         add(tools, BorderLayout.PAGE_START);
         add(split);
         add(status, BorderLayout.PAGE_END);
 
         commands.bind(this);
         selection.onChange(this::update);
+        edits.onChange(commands::update);
         tree.onLook(this::update);
         tree.view().onHover(node -> sight.outline(node == null ? null : node.component()));
         rowMenu(tree.view(), Menus.ofRow(commands));
@@ -139,6 +145,7 @@ public final class InspectorPane extends JPanel {
         sight.outline(null);
         sight.pick(false);
         selection.clear();
+        edits.clear();
         tree.clear();
     }
 
