@@ -10,7 +10,6 @@ import java.util.List;
 
 import javax.swing.JFrame;
 import javax.swing.JPanel;
-import javax.swing.SwingUtilities;
 import javax.swing.Timer;
 import javax.swing.WindowConstants;
 
@@ -96,7 +95,7 @@ public final class VantrelFrame extends JFrame implements Ours {
 
     private void fill() {
         selection = new Selection();
-        Edits edits = new Edits(SwingContext::safeRun1, SwingUtilities::invokeLater);
+        Edits edits = new Edits(SwingContext::safeRun1, task -> SwingContext.safeRun1(this, task));
         pane = new InspectorPane(selection, edits, Sight.NONE, this::dispose);
         setRootPane(createRootPane()); // one of the look and feel that the program has now
         setContentPane(pane);
