@@ -1,7 +1,6 @@
 package scenario;
 
 import java.awt.Color;
-import java.awt.Font;
 
 import javax.swing.Icon;
 import javax.swing.UIDefaults;
@@ -17,8 +16,8 @@ final class Themes {
     }
 
     /**
-     * "dark" is Metal in dark colours. "bare" knows how to paint, but has no colours, fonts, borders or icons: not even a text
-     * field with a text can be made under it. Any other name is a class's.
+     * "dark" is Metal in dark colours. "bare" knows how to paint, but has no colours, borders or icons; without fonts, a
+     * text field or menu of the JDK fails by itself. Any other name is a class's.
      */
     static void use(String name) throws Exception {
         switch (name) {
@@ -81,8 +80,7 @@ final class Themes {
             UIDefaults all = super.getDefaults();
             for (Object key : all.keySet().toArray()) {
                 Object value = all.get(key);
-                if (value instanceof Color || value instanceof Font || value instanceof Border
-                        || value instanceof Icon) {
+                if (value instanceof Color || value instanceof Border || value instanceof Icon) {
                     all.remove(key);
                 }
             }
