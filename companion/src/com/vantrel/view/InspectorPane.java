@@ -148,7 +148,6 @@ public final class InspectorPane extends JPanel {
     private void update() {
         Component component = selection.component();
         boolean gone = component != null && tree.isReady() && tree.tree().nodeOf(component) == null;
-        status.tellGone(gone);
         details.update(gone, selection.hasLost());
         commands.update();
         tools.update(sight.isPicking(), tree.tree().showsMachinery());
