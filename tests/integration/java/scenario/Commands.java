@@ -5,7 +5,9 @@ import java.awt.Container;
 import java.awt.KeyboardFocusManager;
 import java.awt.Point;
 import java.awt.Rectangle;
+import java.awt.Toolkit;
 import java.awt.Window;
+import java.awt.datatransfer.DataFlavor;
 import java.lang.ref.WeakReference;
 import java.lang.reflect.InvocationTargetException;
 import java.util.HashMap;
@@ -106,6 +108,15 @@ final class Commands {
             Component component = (Component) vantrel.getMethod("getSelectedComponent").invoke(null);
             return component == null ? "none" : things.nameOf(component);
         });
+        // select NAME: has the inspector select a component, as a debugger might
+        commands.put("select", words -> {
+            Object vantrel = Class.forName("com.vantrel.Vantrel").getMethod("getInstance").invoke(null);
+            vantrel.getClass().getMethod("selectOnComponentTree", Component.class).invoke(vantrel, things.get(words[0]));
+            return "";
+        });
+        // clipboard: the text on it
+        commands.put("clipboard", words -> (String) Toolkit.getDefaultToolkit().getSystemClipboard()
+                .getData(DataFlavor.stringFlavor));
         // watch: begins to measure how long the event thread is held; held: the longest time since, in milliseconds
         commands.put("watch", words -> watch.start());
         commands.put("held", words -> watch.stop());
