@@ -6,6 +6,9 @@
 //     Carbon        Command+F12     Command, either      the application's main event thread
 //     X11           Control+F12     Control, either      a thread of its own, "vantrel-hotkey"
 //
+// Under X11 the variable VANTREL_HOT_KEY of the environment may name another hot key (x11/hot_key.h), and several
+// programs under the agent share it (x11/agents.h).
+//
 // Without a window system, or where it refuses, there is no hot key, no modifier is held, and nothing fails.
 #ifndef VANTREL_KEYBOARD_H
 #define VANTREL_KEYBOARD_H
@@ -23,8 +26,9 @@ void setHotKeyThread(HotKeyThread thread);
 
 // Registers the hot key, which from then on runs `callback` each time it is pressed; a key that is held down counts
 // once. Says on stdout that it did, whether or not that worked, and on X11 says on stderr which key it is and, in
-// another line, why there is none. Called once, on any thread. On X11 an unresponsive display delays it by
-// half a second at most.
+// another line, why there is none; when the keyboard changes later, X11 says so again, or that there is one now. Called
+// on any thread, and again only after unbindMacHotKey. On X11 an unresponsive display delays it by half a second at
+// most.
 void bindMacHotKey(void (*callback)());
 
 // Gives the hot key back if there is one. Waits for nothing: a callback that runs already runs on.

@@ -99,6 +99,35 @@ TEST_P(Agent, TheVmsLogShowsTheReplacements) {
     EXPECT_EQ(logged_size(with.out, "Cursor"), other);
 }
 
+// What the agent adds to components is not part of them where they are written down. Without the agent the companion
+// knows of no addition.
+TEST_P(Agent, SerialisedComponentsAreReadWithAndWithoutIt) {
+    const ScratchFolder folder;
+    const auto in_vm = [&](bool under_agent, const char* action, const char* file) {
+        const Arguments arguments = {"-Djava.awt.headless=true",
+                                     "-cp",
+                                     kPrograms.string() + ":" + kCompanionJar.string(),
+                                     "Serialised",
+                                     action,
+                                     file};
+        const Finished program =
+            run(under_agent ? java(arguments) : Arguments{tool("java")} + arguments, {folder.path, {}});
+        EXPECT_EQ(program.status, 0) << program.err;
+        return program.out;
+    };
+    in_vm(true, "write", "with");
+    in_vm(false, "write", "without");
+    EXPECT_EQ(run({"cmp", folder.path / "with", folder.path / "without"}).status, 0);
+    EXPECT_EQ(in_vm(false, "read", "with"),
+              "java.awt.Container\n"
+              " in javax.swing.JPanel\n"
+              " in  in javax.swing.JLabel written\n");
+    EXPECT_EQ(in_vm(true, "read", "without"), kAgentOut +
+                                                  "java.awt.Container\n"
+                                                  " in traced javax.swing.JPanel\n"
+                                                  " in traced  in traced javax.swing.JLabel written\n");
+}
+
 TEST_P(Agent, ShowsASwingProgram) {
     const XServer x;
     Process sample(java({"-jar", kSampleJar}), {.folder = {}, .environment = {x.display()}});

@@ -18,6 +18,7 @@
 #include "process.h"
 #include "x_keys.h"
 #include "x_server.h"
+#include "x_windows.h"
 
 namespace fs = std::filesystem;
 using std::chrono::seconds;
@@ -109,6 +110,67 @@ TEST_P(Inspector, EveryPressIsACallOnOneDaemonThread) {
         "call 2: null on vantrel-hotkey \\1, a daemon\n"
         "call 3: null on vantrel-hotkey \\1, a daemon\n");
     EXPECT_TRUE(std::regex_search(program->out(), calls)) << program->out();
+}
+
+// The one that holds the key is killed, the next one ends as programs do.
+TEST_P(Inspector, ProgramsOnOneDisplayShareTheHotKey) {
+    struct Program {
+        const ScratchFolder folder;
+        std::optional<Process> process;
+    };
+    XWindows windows(x.name());
+    std::vector<std::unique_ptr<Program>> programs;
+    for (int i = 0; i < 3; ++i) {
+        programs.push_back(std::make_unique<Program>());
+        Program& added = *programs.back();
+        fs::copy(kLibrary, added.folder.path);
+        fs::copy(kTestFolder / "recording" / kCompanionJar.filename(), added.folder.path);
+        added.process.emplace(java_under_agent(GetParam(), {"-cp", kPrograms, "Ending", "dispose"},
+                                               added.folder.path / kLibrary.filename()),
+                              ProcessOptions{.folder = added.folder.path, .environment = {x.display()}});
+        ASSERT_TRUE(added.process->reaches([&] { return windows.shown_by(added.process->id()) != XCB_NONE; }))
+            << added.process->err();
+    }
+    const auto calls_of = [](const Program& program) {
+        const std::vector<std::string> lines = lines_of(program.process->out());
+        return std::count_if(lines.begin(), lines.end(),
+                             [](const std::string& line) { return line.starts_with("call "); });
+    };
+    const auto press_goes_to = [&](Program& program) {
+        const xcb_window_t window = windows.shown_by(program.process->id());
+        // A window that has just come asks for the focus, too.
+        ASSERT_TRUE(program.process->reaches([&] {
+            windows.focus(window);
+            std::this_thread::sleep_for(std::chrono::milliseconds(100));
+            return windows.focused() == window;
+        }));
+        std::vector<long> before;
+        for (const auto& other : programs) {
+            before.push_back(calls_of(*other));
+        }
+        const long own = calls_of(program);
+        EXPECT_TRUE(program.process->reaches(
+            [&] {
+                press_hot_key();
+                return calls_of(program) > own;
+            },
+            seconds(1)))
+            << program.process->out() << program.process->err();
+        for (size_t i = 0; i < programs.size(); ++i) {
+            EXPECT_TRUE(programs[i].get() == &program || calls_of(*programs[i]) == before[i]);
+        }
+    };
+    for (const auto& program : programs) {
+        press_goes_to(*program);
+    }
+    programs[0]->process->signal(SIGKILL);
+    programs.erase(programs.begin());
+    press_goes_to(*programs[1]);
+    std::ofstream(programs[0]->folder.path / "end");
+    EXPECT_EQ(programs[0]->process->wait(), 0);
+    programs.erase(programs.begin());
+    press_goes_to(*programs[0]);
+    EXPECT_EQ(programs[0]->process->err(), kAgentErr);
 }
 
 TEST_P(Inspector, AFaultOfTheInspectorIsDescribedAndTheNextPressStartsClean) {

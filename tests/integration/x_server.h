@@ -21,6 +21,9 @@ class XServer {
     // Whether a window with this title is on the screen.
     [[nodiscard]] bool shows(const std::string& title) const;
 
+    // Sends the server's process a signal: SIGSTOP makes it a display that hangs, until SIGCONT.
+    void signal(int number) const { server_.signal(number); }
+
     // Writes a picture of the screen. Returns how many colours it has.
     [[nodiscard]] int take_picture(const std::filesystem::path& file) const;
 

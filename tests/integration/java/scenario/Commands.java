@@ -51,6 +51,10 @@ final class Commands {
         commands.put("frame", words -> transients.frame(words[0])); // a second frame: its name, which is its title
         commands.put("glass", words -> transients.glass(words[0])); // on, off
         commands.put("odd", words -> Odd.add(things, words[0])); // throwing, blocking, null, lying: adds one to "room"
+        commands.put("look", words -> { // a theme or class name: the look and feel from now on; windows stay as they are
+            Themes.use(words[0]);
+            return "";
+        });
         commands.put("dispose", words -> transients.disposeAll()); // all windows, upon which the program ends
     }
 

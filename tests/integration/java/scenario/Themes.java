@@ -14,7 +14,10 @@ final class Themes {
     private Themes() {
     }
 
-    /** "dark": Metal in dark colours. "bare": one that knows how to paint, but has no colours, fonts or icons. */
+    /**
+     * "dark" is Metal in dark colours. "bare" knows how to paint, but has no colours, fonts or icons: not even a text
+     * field with a text can be made under it. Any other name is a class's.
+     */
     static void use(String name) throws Exception {
         switch (name) {
             case "dark" -> {
@@ -23,7 +26,8 @@ final class Themes {
                 UIManager.setLookAndFeel(new MetalLookAndFeel());
             }
             case "bare" -> UIManager.setLookAndFeel(new Bare());
-            default -> { }
+            case "" -> { }
+            default -> UIManager.setLookAndFeel(name);
         }
     }
 

@@ -11,37 +11,34 @@ import java.security.PrivilegedExceptionAction;
  * Supplies the class files that the agent puts in the place of two of the VM's own.
  *
  * <p>The agent calls the suppliers on whatever thread is about to define the class, while the class is being loaded:
- * nothing here may touch {@code java.awt}. Each takes the running VM's own class file and returns it with an addition;
+ * nothing here may touch {@code java.awt}. Each takes the running VM's own class file and returns it with additions;
  * everything else in it stays byte for byte. What a supplier throws the agent prints, and the VM ends.
  */
 public final class BCIUtil {
-    private static final int ACC_PRIVATE = 0x0002;
-    private static final int ACC_TRANSIENT = 0x0080;
-
     private BCIUtil() {
     }
 
-    /**
-     * The class file of {@code java.awt.Component}, with the private transient field {@code windowClosingException}
-     * that the agent reads by name. VMs up to 8 have it; where it is there, nothing is added.
-     */
+    /** The class file of {@code java.awt.Component}, with what {@link ToolkitEdits#editComponent} adds. */
     public static byte[] getComponentClassData() {
-        ClassFileEditor component = new ClassFileEditor(ownClassFile("java/awt/Component"));
-        if (!component.declaresField("windowClosingException")) {
-            component.addField(ACC_PRIVATE | ACC_TRANSIENT, "windowClosingException", "Ljava/lang/RuntimeException;");
-        }
+        ClassFileEditor component = new ClassFileEditor(ownClassFile(ToolkitEdits.COMPONENT));
+        ToolkitEdits.editComponent(component, hasModules());
         return component.toByteArray();
     }
 
-    /**
-     * The class file of {@code java.awt.Container}, whose {@code addImpl}, through which every component is added,
-     * first tells {@link com.vantrel.stacktrace.StackTraceManager#componentAdded} which one it is.
-     */
+    /** The class file of {@code java.awt.Container}, with what {@link ToolkitEdits#editContainer} adds. */
     public static byte[] getContainerClassData() {
-        ClassFileEditor container = new ClassFileEditor(ownClassFile("java/awt/Container"));
-        container.passFirstArgument("addImpl", "(Ljava/awt/Component;Ljava/lang/Object;I)V",
-                "com/vantrel/stacktrace/StackTraceManager", "componentAdded", "(Ljava/awt/Component;)V");
+        ClassFileEditor container = new ClassFileEditor(ownClassFile(ToolkitEdits.CONTAINER));
+        ToolkitEdits.editContainer(container);
         return container.toByteArray();
+    }
+
+    private static boolean hasModules() {
+        try {
+            Class.class.getMethod("getModule");
+            return true;
+        } catch (NoSuchMethodException e) {
+            return false;
+        }
     }
 
     /**

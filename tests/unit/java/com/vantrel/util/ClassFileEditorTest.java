@@ -9,9 +9,9 @@ import static org.junit.Assert.assertTrue;
 import java.io.ByteArrayOutputStream;
 import java.io.IOException;
 import java.io.InputStream;
-import java.io.PrintWriter;
-import java.io.StringWriter;
+import java.lang.invoke.MethodType;
 import java.lang.reflect.Field;
+import java.lang.reflect.InvocationTargetException;
 import java.lang.reflect.Method;
 import java.lang.reflect.Modifier;
 import java.net.URI;
@@ -21,9 +21,6 @@ import java.nio.file.Files;
 import java.nio.file.Path;
 import java.util.ArrayList;
 import java.util.List;
-import java.util.regex.Matcher;
-import java.util.regex.Pattern;
-import java.util.spi.ToolProvider;
 import java.util.stream.Collectors;
 import java.util.stream.Stream;
 
@@ -38,6 +35,10 @@ public class ClassFileEditorTest {
         public static void seen(Object argument) {
             SEEN.add(argument);
             caller = new Throwable().getStackTrace()[1];
+        }
+
+        public static boolean refuses(Object argument) {
+            return "cat".equals(argument);
         }
     }
 
@@ -57,12 +58,58 @@ public class ClassFileEditorTest {
             }
         }
 
-        public int none(int number) {
-            return number;
+        /** Writes to the field behind every instruction whose length has to be worked out, and beside a look-alike. */
+        public int write(int number) {
+            int sum = number;
+            switch (number) {
+                case 0: case 1: case 2:
+                    field = 1;
+                    break;
+                case 1000: case 100_000:
+                    sum += 1000; // wide iinc
+                    field = 0xB5B5; // putfield's opcode in a constant
+                    break;
+                default:
+                    switch (number) {
+                        case 0xB5: case -7000:
+                            other = 5;
+                            break;
+                        default:
+                            field = number;
+                    }
+            }
+            return sum + field;
         }
+
+        int other;
     }
 
+    private static final String SUBJECT = Subject.class.getName().replace('.', '/');
     private static final String RECORDER = Recorder.class.getName().replace('.', '/');
+
+    /** Has a method tell the recorder of its first argument; or throw null where the recorder refuses that. */
+    private static boolean addCall(ClassFileEditor editor, String method, String descriptor, boolean refusing) {
+        ByteSink head = new ByteSink().u1(Instructions.ALOAD_1).u1(Instructions.INVOKESTATIC);
+        if (refusing) {
+            head.u2(editor.methodRef(RECORDER, "refuses", "(Ljava/lang/Object;)Z"));
+            head.u1(Instructions.NOP).u1(Instructions.NOP).u1(Instructions.NOP).u1(Instructions.IFEQ).u2(5);
+            head.u1(0x01).u1(0xBF); // aconst_null, athrow
+        } else {
+            head.u2(editor.methodRef(RECORDER, "seen", "(Ljava/lang/Object;)V"));
+        }
+        return editor.insertAtHead(method, descriptor, head.toByteArray(), 1, refusing);
+    }
+
+    /** Has a method of the class's own, which does nothing else, do all writes to a field. */
+    private static void redirectWrites(ClassFileEditor editor, String owner, String field, String type) {
+        String parameters = "(L" + owner + ";" + type + ")V";
+        String name = "write$" + field;
+        editor.replaceWrites(owner, field, type, editor.methodRef(owner, name, parameters));
+        ByteSink code = new ByteSink().u1(Instructions.ALOAD_0);
+        code.u1(type.equals("I") ? 0x1B : Instructions.ALOAD_1); // iload_1
+        code.u1(Instructions.PUTFIELD).u2(editor.fieldRef(owner, field, type)).u1(Instructions.RETURN);
+        editor.addMethod(Modifier.STATIC, name, parameters, 2, 2, code.toByteArray(), ClassFileEditor.NO_FRAME);
+    }
 
     /** Loads the edited form of one class and everything else from the tests' own loader. */
     private static final class EditedLoader extends ClassLoader {
@@ -93,8 +140,7 @@ public class ClassFileEditorTest {
     @Test
     public void calleeGetsTheFirstArgumentOnceAndFirst() throws Exception {
         ClassFileEditor editor = new ClassFileEditor(subject());
-        editor.passFirstArgument("repeat", "(Ljava/lang/Object;I)Ljava/lang/String;", RECORDER, "seen",
-                "(Ljava/lang/Object;)V");
+        addCall(editor, "repeat", "(Ljava/lang/Object;I)Ljava/lang/String;", false);
         Class<?> edited = new EditedLoader().define(Subject.class.getName(), editor.toByteArray());
         Recorder.SEEN.clear();
         Object subject = edited.getConstructor().newInstance();
@@ -105,6 +151,35 @@ public class ClassFileEditorTest {
         int firstLine = new Throwable().getStackTrace()[0].getLineNumber();
         assertTrue("a line of this file, above this method: " + Recorder.caller,
                 Recorder.caller.getLineNumber() > 0 && Recorder.caller.getLineNumber() < firstLine);
+    }
+
+    @Test
+    public void addedCodeMayLeaveTheMethodOrGoOn() throws Exception {
+        ClassFileEditor editor = new ClassFileEditor(subject());
+        addCall(editor, "repeat", "(Ljava/lang/Object;I)Ljava/lang/String;", true);
+        Class<?> edited = new EditedLoader().define(Subject.class.getName(), editor.toByteArray());
+        Object subject = edited.getConstructor().newInstance();
+        Method repeat = edited.getMethod("repeat", Object.class, int.class);
+        assertEquals("dogs", repeat.invoke(subject, "dog", 3));
+        assertThrows(InvocationTargetException.class, () -> repeat.invoke(subject, "cat", 3));
+    }
+
+    @Test
+    public void everyWriteToAFieldIsReplacedAndNoOther() throws Exception {
+        ClassFileEditor editor = new ClassFileEditor(subject());
+        String parameters = "(L" + SUBJECT + ";I)V";
+        editor.replaceWrites(SUBJECT, "field", "I", editor.methodRef(SUBJECT, "tell", parameters));
+        byte[] tell = new ByteSink().u1(Instructions.ALOAD_0).u1(Instructions.INVOKESTATIC)
+                .u2(editor.methodRef(RECORDER, "seen", "(Ljava/lang/Object;)V")).u1(Instructions.RETURN).toByteArray();
+        editor.addMethod(Modifier.STATIC, "tell", parameters, 1, 2, tell, ClassFileEditor.NO_FRAME);
+        Class<?> edited = new EditedLoader().define(Subject.class.getName(), editor.toByteArray());
+        Object subject = edited.getConstructor().newInstance();
+        int[][] cases = {{1, 1, 1}, {1000, 1, 2000}, {100_000, 1, 101_000}, {5, 1, 5}, {0xB5, 0, 0xB5}, {-7000, 0, -7000}};
+        for (int[] c : cases) {
+            Recorder.SEEN.clear();
+            assertEquals(c[2], edited.getMethod("write", int.class).invoke(subject, c[0]));
+            assertEquals("of " + c[0], java.util.Collections.nCopies(c[1], subject), Recorder.SEEN);
+        }
     }
 
     @Test
@@ -123,11 +198,12 @@ public class ClassFileEditorTest {
     @Test
     public void whatCannotBeEditedIsRefused() throws Exception {
         ClassFileEditor editor = new ClassFileEditor(subject());
+        assertFalse(addCall(editor, "repeat", "(I)V", false));
         IllegalArgumentException refusal = assertThrows(IllegalArgumentException.class,
-                () -> editor.passFirstArgument("repeat", "(I)V", RECORDER, "seen", "(Ljava/lang/Object;)V"));
-        assertEquals("The class has no code for repeat(I)V", refusal.getMessage());
+                () -> redirectWrites(editor, SUBJECT, "field", "J"));
+        assertEquals("The class never writes to " + SUBJECT + ".field", refusal.getMessage());
 
-        for (int i = 0; i < 33000; i++) {
+        for (int i = 0; i < 66_000; i++) {
             editor.addField(0, "f" + i, "I");
         }
         refusal = assertThrows(IllegalArgumentException.class, editor::toByteArray);
@@ -156,16 +232,21 @@ public class ClassFileEditorTest {
             }
         }
         assertTrue("methods edited: " + loader.edited, loader.edited > 5_000);
+        assertTrue("fields edited: " + loader.fieldsEdited, loader.fieldsEdited > 500);
         assertTrue("classes left out: " + privileged, privileged < 10);
     }
 
-    /** Defines the compiler's own classes anew, with a call in every method that has a reference for its first argument. */
+    /**
+     * Defines the compiler's own classes anew, with code at the head of every method that has a reference for its first
+     * argument, and with writes to fields replaced.
+     */
     private static final class CompilerLoader extends ClassLoader {
         private final Path root;
         int edited;
+        int fieldsEdited;
 
         CompilerLoader(Path root) {
-            super(ClassFileEditorTest.class.getClassLoader());
+            super(ClassLoader.getSystemClassLoader());
             this.root = root;
         }
 
@@ -186,16 +267,33 @@ public class ClassFileEditorTest {
                 ClassFileEditor editor = new ClassFileEditor(image);
                 for (Method method : Class.forName(name, false, getParent()).getDeclaredMethods()) {
                     if (takesReferenceFirst(method)) {
-                        editor.passFirstArgument(method.getName(), descriptor(method), RECORDER, "seen",
-                                "(Ljava/lang/Object;)V");
-                        edited++;
+                        addCall(editor, method.getName(), descriptor(method), edited++ % 2 == 0);
                     }
                 }
-                image = editor.toByteArray();
+                image = withWritesReplaced(editor.toByteArray(), Class.forName(name, false, getParent()));
                 return defineClass(name, image, 0, image.length);
             } catch (IOException e) {
                 throw new ClassNotFoundException(name, e);
             }
+        }
+
+        private byte[] withWritesReplaced(byte[] image, Class<?> original) {
+            ClassFileEditor editor = new ClassFileEditor(image);
+            String owner = original.getName().replace('.', '/');
+            for (Field field : original.getDeclaredFields()) {
+                int without = Modifier.STATIC | Modifier.FINAL;
+                boolean oneSlot = field.getType() == int.class || !field.getType().isPrimitive();
+                if (oneSlot && (field.getModifiers() & without) == 0 && !field.isSynthetic()) {
+                    String type = MethodType.methodType(field.getType()).toMethodDescriptorString().substring(2);
+                    try {
+                        redirectWrites(editor, owner, field.getName(), type);
+                        fieldsEdited++;
+                    } catch (IllegalArgumentException e) {
+                        assertTrue(e.getMessage(), e.getMessage().startsWith("The class never writes to "));
+                    }
+                }
+            }
+            return editor.toByteArray();
         }
 
         private static boolean takesReferenceFirst(Method method) {
@@ -205,42 +303,8 @@ public class ClassFileEditorTest {
         }
 
         private static String descriptor(Method method) {
-            return java.lang.invoke.MethodType.methodType(method.getReturnType(), method.getParameterTypes())
+            return MethodType.methodType(method.getReturnType(), method.getParameterTypes())
                     .toMethodDescriptorString();
-        }
-    }
-
-    @Test
-    public void theSuppliersAddWhatTheVmLacks() throws Exception {
-        ClassFileEditor component = new ClassFileEditor(BCIUtil.getComponentClassData());
-        assertTrue(component.declaresField("windowClosingException"));
-
-        String addImpl = disassembled(BCIUtil.getContainerClassData(),
-                "protected void addImpl(java.awt.Component, java.lang.Object, int);");
-        assertTrue(addImpl, addImpl.matches("(?s).*"
-                + " 0: aload_1\n +1: invokestatic +#\\d+ +// Method com/vantrel/stacktrace/StackTraceManager"
-                + "\\.componentAdded:\\(Ljava/awt/Component;\\)V\n +4: aload_0\n.*"));
-        Matcher end = Pattern.compile("(\\d+): return\n +Exception table").matcher(addImpl);
-        assertTrue(addImpl, end.find());
-        int codeLength = Integer.parseInt(end.group(1)) + 1;
-        assertTrue("parameters are known from the first instruction on:\n" + addImpl,
-                addImpl.matches("(?s).* 0 +" + codeLength + " +1 +comp .*"));
-    }
-
-    private static String disassembled(byte[] image, String method) throws IOException {
-        Path file = Files.createTempFile("Edited", ".class");
-        try {
-            Files.write(file, image);
-            StringWriter text = new StringWriter();
-            PrintWriter out = new PrintWriter(text);
-            ToolProvider javap = ToolProvider.findFirst("javap").orElseThrow(IllegalStateException::new);
-            assertEquals(0, javap.run(out, out, "-v", "-p", file.toString()));
-            String all = text.toString();
-            int start = all.indexOf(method);
-            assertTrue(method, start >= 0);
-            return all.substring(start, all.indexOf("\n\n", start));
-        } finally {
-            Files.delete(file);
         }
     }
 }

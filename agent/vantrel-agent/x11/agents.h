@@ -1,0 +1,69 @@
+// Several programs under the agent on one display. Only one client can hold a grab, so one agent holds the hot key for
+// all of them and passes each press on to the program that it is meant for.
+//
+// Every agent makes a window, never shown, that says whose it is:
+//
+//     _VANTREL_AGENT     five CARDINALs: version of this property, process id, the hot key's keysym and modifiers, and
+//                        whether the agent has been refused the key (1) or not (0)
+//     _VANTREL_ASKED     a CARDINAL: the higher it is, the later this agent was last asked to show its inspector
+//     WM_CLIENT_MACHINE  the machine that the process is on
+//
+// The X server destroys the window when its agent ends, however it ends, and tells those that wait for it. A press is
+// passed on as a client message _VANTREL_SHOW, which only the client that has made the window receives. Agents with
+// another hot key have nothing to do with each other.
+#ifndef VANTREL_X11_AGENTS_H
+#define VANTREL_X11_AGENTS_H
+
+#include <xcb/xcb.h>
+
+#include <string>
+
+#include "hot_key.h"
+
+namespace x11 {
+
+// One agent's place among those on its display. Not safe for use from several threads.
+struct Agents {
+    struct Atoms {
+        xcb_atom_t agent;
+        xcb_atom_t asked;
+        xcb_atom_t show;
+        xcb_atom_t pid;
+    };
+
+    xcb_connection_t* connection;
+    HotKey hot_key;
+    std::string machine;
+    Atoms atoms;
+    xcb_window_t root;  // the first screen's, on which the agents' windows are
+    xcb_window_t own;
+    bool refused;
+};
+
+// Makes this process's window.
+Agents join_agents(xcb_connection_t* connection, const HotKey& hot_key);
+
+// Says whether this agent has been refused the key.
+void set_refused(Agents& agents, bool refused);
+
+// Asks the server to tell us when another agent that wants the same key ends or changes its mind: as events
+// XCB_DESTROY_NOTIFY and XCB_PROPERTY_NOTIFY.
+void watch_others(const Agents& agents);
+
+// Whether one of the others may have the key: it wants it, and has not been refused.
+bool another_may_have_it(const Agents& agents);
+
+// Chooses the agent that a press is meant for: the one whose program has the window with the focus; if there is none,
+// the one that was asked last; and if none was asked yet, this one. Remembers it as the one that was asked last, passes
+// the press on if it is not this one, and returns whether it is.
+bool take_or_pass_on(const Agents& agents);
+
+// Whether an event is a press that another agent has passed on to this one.
+bool is_passed_on(const Agents& agents, const xcb_generic_event_t& event);
+
+// Whether an event says that a watched agent has ended or changed its mind.
+bool is_change_of_another(const Agents& agents, const xcb_generic_event_t& event);
+
+}  // namespace x11
+
+#endif

@@ -1,0 +1,63 @@
+// A connection of our own to an X server, by XCB, and what every file in this folder needs of it. Never Xlib: its error
+// handler is the process's only one and belongs to the AWT. The rules that these files follow are those of the X Window
+// System Protocol, version 11.
+#ifndef VANTREL_X11_CONNECTION_H
+#define VANTREL_X11_CONNECTION_H
+
+#include <xcb/xcb.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <vector>
+
+namespace x11 {
+
+// A reply, error or event: XCB allocates it with malloc, and its receiver frees it.
+struct Free {
+    void operator()(void* block) const { free(block); }
+};
+template <typename T>
+using Owned = std::unique_ptr<T, Free>;
+
+struct Disconnect {
+    void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+};
+using Connection = std::unique_ptr<xcb_connection_t, Disconnect>;
+
+// What kind of event this is, whether the server has sent it by itself or for another client.
+inline uint8_t kind_of(const xcb_generic_event_t& event) {
+    constexpr uint8_t kSentByAClient = 0x80;
+    return event.response_type & static_cast<uint8_t>(~kSentByAClient);
+}
+
+// A connection to a display, the one that DISPLAY names for NULL. Null where the display cannot be reached or refuses.
+inline Connection connect(const char* display) {
+    Connection connection(xcb_connect(display, NULL));
+    if (xcb_connection_has_error(connection.get()) != 0) {
+        connection.reset();
+    }
+    return connection;
+}
+
+// The root window of each screen, the first one first.
+inline std::vector<xcb_window_t> root_windows(xcb_connection_t* connection) {
+    std::vector<xcb_window_t> roots;
+    for (auto screen = xcb_setup_roots_iterator(xcb_get_setup(connection)); screen.rem > 0; xcb_screen_next(&screen)) {
+        roots.push_back(screen.data->root);
+    }
+    return roots;
+}
+
+// The keys that the server's modifier map gives to a modifier (XCB_MAP_INDEX_SHIFT and so on).
+inline std::vector<xcb_keycode_t> keys_of_modifier(const xcb_get_modifier_mapping_reply_t& map, unsigned modifier) {
+    const size_t width = map.keycodes_per_modifier;
+    const xcb_keycode_t* row = xcb_get_modifier_mapping_keycodes(&map) + modifier * width;
+    std::vector<xcb_keycode_t> keys(row, row + width);
+    std::erase(keys, 0);  // fills rows up
+    return keys;
+}
+
+}  // namespace x11
+
+#endif

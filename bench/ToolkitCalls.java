@@ -1,0 +1,56 @@
+import java.awt.event.ComponentEvent;
+import java.util.Arrays;
+
+import javax.swing.JLabel;
+import javax.swing.JPanel;
+
+/**
+ * What the replaced classes cost a program while the inspector listens to nothing: 100,000 texts set, additions, and
+ * events. Run under two agents, or with the agent and without it, to compare.
+ */
+public final class ToolkitCalls {
+    private static final int CALLS = 100_000;
+    private static final int ROUNDS = 9;
+    private static final int ROUNDS_TO_WARM_UP = 4;
+
+    private ToolkitCalls() {
+    }
+
+    public static void main(String[] arguments) {
+        JLabel label = new JLabel();
+        String[] texts = {"one", "other"};
+        time("setText", () -> {
+            for (int i = 0; i < CALLS; i++) {
+                label.setText(texts[i & 1]);
+            }
+        });
+        JLabel[] labels = new JLabel[CALLS];
+        Arrays.setAll(labels, n -> new JLabel());
+        time("additions", () -> {
+            JPanel panel = new JPanel(null);
+            for (JLabel each : labels) {
+                panel.add(each);
+            }
+            panel.removeAll();
+        });
+        ComponentEvent event = new ComponentEvent(label, ComponentEvent.COMPONENT_MOVED);
+        time("events", () -> {
+            for (int i = 0; i < CALLS; i++) {
+                label.dispatchEvent(event);
+            }
+        });
+    }
+
+    private static void time(String what, Runnable calls) {
+        double[] millis = new double[ROUNDS];
+        for (int round = -ROUNDS_TO_WARM_UP; round < ROUNDS; round++) {
+            long start = System.nanoTime();
+            calls.run();
+            if (round >= 0) {
+                millis[round] = (System.nanoTime() - start) / 1e6;
+            }
+        }
+        Arrays.sort(millis);
+        System.out.printf("%d %s: %.1f ms%n", CALLS, what, millis[ROUNDS / 2]);
+    }
+}

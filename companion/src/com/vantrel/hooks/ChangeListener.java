@@ -1,0 +1,25 @@
+package com.vantrel.hooks;
+
+import java.awt.Component;
+import java.awt.Container;
+
+/**
+ * Hears of components that are about to change, on whatever thread changes them, perhaps with the AWT's tree lock held:
+ * what it is told of is for it to note, and to look at later, on the event thread. Not every call changes something.
+ */
+public interface ChangeListener {
+    /**
+     * A property of a component is being set.
+     *
+     * @param what the name under which the component fires it, or one of the names that {@link Hooks} has
+     */
+    void changing(Component component, String what);
+
+    /**
+     * A component is being added to a container, or removed from one.
+     *
+     * @param from the parent that it has; null for none
+     * @param to   the parent that it will have; null for none
+     */
+    void moving(Component component, Container from, Container to);
+}

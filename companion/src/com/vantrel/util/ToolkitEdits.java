@@ -1,0 +1,170 @@
+package com.vantrel.util;
+
+import static com.vantrel.util.ClassFileEditor.NO_FRAME;
+import static com.vantrel.util.Instructions.ALOAD_0;
+import static com.vantrel.util.Instructions.ALOAD_1;
+import static com.vantrel.util.Instructions.ARETURN;
+import static com.vantrel.util.Instructions.GETFIELD;
+import static com.vantrel.util.Instructions.IFEQ;
+import static com.vantrel.util.Instructions.IFNULL;
+import static com.vantrel.util.Instructions.INVOKESTATIC;
+import static com.vantrel.util.Instructions.INVOKEVIRTUAL;
+import static com.vantrel.util.Instructions.LDC_W;
+import static com.vantrel.util.Instructions.NOP;
+import static com.vantrel.util.Instructions.POP;
+import static com.vantrel.util.Instructions.PUTFIELD;
+import static com.vantrel.util.Instructions.RETURN;
+
+import com.vantrel.hooks.Hooks;
+
+/**
+ * What the agent adds to {@code java.awt.Component} and {@code Container}. A change that the inspector can do without is
+ * left out of a VM whose class has no such method; what it cannot do without must be possible.
+ */
+final class ToolkitEdits {
+    static final String COMPONENT = "java/awt/Component";
+    static final String CONTAINER = "java/awt/Container";
+
+    private static final int ACC_PUBLIC = 0x0001;
+    private static final int ACC_PRIVATE = 0x0002;
+    private static final int ACC_STATIC = 0x0008;
+    private static final int ACC_VOLATILE = 0x0040;
+    private static final int ACC_TRANSIENT = 0x0080;
+    private static final int ACC_SYNTHETIC = 0x1000;
+
+    private static final String HOOKS = "com/vantrel/hooks/Hooks";
+    private static final String STACK_TRACE_MANAGER = "com/vantrel/stacktrace/StackTraceManager";
+    private static final String TRACE = "vantrel$trace";
+    private static final String PARENT_TYPE = "Ljava/awt/Container;";
+
+    /** Methods of Component that say in their first argument which property changes. */
+    private static final String[] FIRING = {
+        "(Ljava/lang/String;Ljava/lang/Object;Ljava/lang/Object;)V",
+        "(Ljava/lang/String;ZZ)V",
+        "(Ljava/lang/String;II)V",
+    };
+
+    /** Other methods of Component through which every change of something goes, and of what. */
+    private static final String[][] CHANGING = {
+        {"reshape", "(IIII)V", Hooks.BOUNDS},
+        {"show", "()V", Hooks.VISIBLE},
+        {"hide", "()V", Hooks.VISIBLE},
+        {"enable", "()V", Hooks.ENABLED},
+        {"disable", "()V", Hooks.ENABLED},
+        {"setCursor", "(Ljava/awt/Cursor;)V", Hooks.CURSOR},
+        {"setFocusable", "(Z)V", Hooks.FOCUSABLE},
+        {"invalidate", "()V", Hooks.VALID},
+    };
+
+    private ToolkitEdits() {
+    }
+
+    /**
+     * Gives components room for their trace, has them tell {@link Hooks} of events and changes, and adds the private
+     * transient field {@code windowClosingException} that the agent reads by name, which VMs up to 8 have themselves.
+     *
+     * @param hasModules whether the VM has modules, which the class is then to open to the companion
+     */
+    static void editComponent(ClassFileEditor component, boolean hasModules) {
+        if (!component.declaresField("windowClosingException")) {
+            component.addField(ACC_PRIVATE | ACC_TRANSIENT, "windowClosingException", "Ljava/lang/RuntimeException;");
+        }
+        addTrace(component);
+        filterEvents(component);
+        for (String descriptor : FIRING) {
+            tellOfChanges(component, "firePropertyChange", descriptor, null);
+        }
+        for (String[] change : CHANGING) {
+            tellOfChanges(component, change[0], change[1], change[2]);
+        }
+        if (hasModules) {
+            addOpen(component);
+        }
+    }
+
+    /**
+     * Has containers tell {@link Hooks} of additions and removals, and remember with a component the stack on which it
+     * got its parent. Every way of giving it one is a write to {@code Component.parent} in this class.
+     */
+    static void editContainer(ClassFileEditor container) {
+        String name = "vantrel$setParent";
+        String descriptor = "(Ljava/awt/Component;Ljava/awt/Container;)V";
+        int field = container.fieldRef(COMPONENT, "parent", PARENT_TYPE);
+        int moving = container.methodRef(HOOKS, "moving",
+                "(Ljava/awt/Component;Ljava/awt/Container;Ljava/awt/Container;)V");
+        int take = container.methodRef(STACK_TRACE_MANAGER, "take", "()Ljava/lang/Object;");
+        int trace = container.fieldRef(COMPONENT, TRACE, "Ljava/lang/Object;");
+        int branch = 15;
+        int end = 25;
+        byte[] code = new ByteSink()
+                // Hooks.moving(component, component.parent, parent);
+                .u1(ALOAD_0).u1(ALOAD_0).u1(GETFIELD).u2(field).u1(ALOAD_1).u1(INVOKESTATIC).u2(moving)
+                // component.parent = parent;
+                .u1(ALOAD_0).u1(ALOAD_1).u1(PUTFIELD).u2(field)
+                // if (parent != null) component.vantrel$trace = StackTraceManager.take();
+                .u1(ALOAD_1).u1(IFNULL).u2(end - branch)
+                .u1(ALOAD_0).u1(INVOKESTATIC).u2(take).u1(PUTFIELD).u2(trace)
+                .u1(RETURN).toByteArray();
+        container.replaceWrites(COMPONENT, "parent", PARENT_TYPE, container.methodRef(CONTAINER, name, descriptor));
+        container.addMethod(ACC_PRIVATE | ACC_STATIC | ACC_SYNTHETIC, name, descriptor, 3, 2, code, end);
+        tellOfChanges(container, "setComponentZOrder", "(Ljava/awt/Component;I)V", Hooks.ORDER);
+    }
+
+    /**
+     * Adds the field of a trace, which goes with its component, and how {@link com.vantrel.stacktrace} reaches it from
+     * outside of the package. The field is volatile so that whoever finds a trace finds all of it, on any thread; the
+     * methods are static so that they do not pass for properties.
+     */
+    private static void addTrace(ClassFileEditor component) {
+        component.addField(ACC_TRANSIENT | ACC_VOLATILE | ACC_SYNTHETIC, TRACE, "Ljava/lang/Object;");
+        int field = component.fieldRef(COMPONENT, TRACE, "Ljava/lang/Object;");
+        int flags = ACC_PUBLIC | ACC_STATIC | ACC_SYNTHETIC;
+        byte[] get = new ByteSink().u1(ALOAD_0).u1(GETFIELD).u2(field).u1(ARETURN).toByteArray();
+        component.addMethod(flags, TRACE, "(Ljava/awt/Component;)Ljava/lang/Object;", 1, 1, get, NO_FRAME);
+        byte[] set = new ByteSink().u1(ALOAD_0).u1(ALOAD_1).u1(PUTFIELD).u2(field).u1(RETURN).toByteArray();
+        component.addMethod(flags, TRACE, "(Ljava/awt/Component;Ljava/lang/Object;)V", 2, 2, set, NO_FRAME);
+    }
+
+    /** {@code if (Hooks.event(this, event)) return;} before all that happens to an event. */
+    private static void filterEvents(ClassFileEditor component) {
+        int event = component.methodRef(HOOKS, "event", "(Ljava/awt/Component;Ljava/awt/AWTEvent;)Z");
+        byte[] head = new ByteSink().u1(ALOAD_0).u1(ALOAD_1).u1(INVOKESTATIC).u2(event)
+                .u1(NOP).u1(NOP).u1(NOP).u1(IFEQ).u2(4).u1(RETURN).toByteArray();
+        if (!component.insertAtHead("dispatchEvent", "(Ljava/awt/AWTEvent;)V", head, 2, true)) {
+            throw new IllegalArgumentException("Component has no dispatchEvent");
+        }
+    }
+
+    /**
+     * {@code Hooks.changing(this, what);} first of all.
+     *
+     * @param what null for the method's first argument
+     */
+    private static void tellOfChanges(ClassFileEditor file, String method, String descriptor, String what) {
+        ByteSink head = new ByteSink().u1(ALOAD_0);
+        if (what == null) {
+            head.u1(ALOAD_1).u1(NOP).u1(NOP);
+        } else {
+            head.u1(LDC_W).u2(file.stringRef(what));
+        }
+        head.u1(INVOKESTATIC).u2(file.methodRef(HOOKS, "changing", "(Ljava/awt/Component;Ljava/lang/String;)V"));
+        file.insertAtHead(method, descriptor, head.u1(NOP).toByteArray(), 2, false);
+    }
+
+    /**
+     * {@code Component.class.getModule().addOpens(packageName, Hooks.class.getModule());} as a method of the class, for
+     * the VM asks whose code it is that opens a package.
+     */
+    private static void addOpen(ClassFileEditor component) {
+        int getModule = component.methodRef("java/lang/Class", "getModule", "()Ljava/lang/Module;");
+        int addOpens = component.methodRef("java/lang/Module", "addOpens",
+                "(Ljava/lang/String;Ljava/lang/Module;)Ljava/lang/Module;");
+        byte[] code = new ByteSink()
+                .u1(LDC_W).u2(component.classRef(COMPONENT)).u1(INVOKEVIRTUAL).u2(getModule)
+                .u1(ALOAD_0)
+                .u1(LDC_W).u2(component.classRef(HOOKS)).u1(INVOKEVIRTUAL).u2(getModule)
+                .u1(INVOKEVIRTUAL).u2(addOpens).u1(POP).u1(RETURN).toByteArray();
+        component.addMethod(ACC_PUBLIC | ACC_STATIC | ACC_SYNTHETIC, "vantrel$open", "(Ljava/lang/String;)V", 3, 1, code,
+                NO_FRAME);
+    }
+}
