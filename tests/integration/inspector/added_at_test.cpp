@@ -48,16 +48,17 @@ class AddedAt : public Scenario {
     void show_amount() {
         open_inspector();
         ask("select amount");
+        click(place("inspector-tab Added at"));
         ASSERT_TRUE(eventually([&] { return ask("inspector " + kList).find("* " + line) != std::string::npos; }))
             << ask("inspector " + kList);
         ask("log");
     }
-    Place row(const std::string& text) {
+    Place place(const std::string& question) {
         Place place;
-        std::istringstream(ask("inspector-row " + kList + " " + text)) >> place.x >> place.y >> place.width >>
-            place.height;
+        std::istringstream(ask(question)) >> place.x >> place.y >> place.width >> place.height;
         return place;
     }
+    Place row(const std::string& text) { return place("inspector-row " + kList + " " + text); }
     void double_click(const Place& place) {
         click(place);
         keys.click();
@@ -116,11 +117,14 @@ TEST_P(AddedAt, OpensTheLineInTheUsersEditor) {
     // Another command, from the window: one that cannot work, and one that does; that is remembered.
     const auto set = [&](const std::string& field, const std::string& value) {
         click(where("vantrel.addedAt." + field));
+        EXPECT_TRUE(eventually([&] { return ask("focus") == "inspector vantrel.addedAt." + field; }));
         keys.press({XK_Control_L, XK_a});
         keys.type(value);
         keys.press({XK_Return});
     };
     click(where("vantrel.addedAt.settings"));
+    ASSERT_TRUE(
+        eventually([&] { return ask("inspector vantrel.addedAt").find("Editor command") != std::string::npos; }));
     set("editor", "/nowhere/edit %file");
     double_click(row(line));
     EXPECT_TRUE(message_says("the editor '/nowhere/edit' does not start: No such file or directory"))

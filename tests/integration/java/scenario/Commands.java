@@ -19,6 +19,7 @@ import java.util.concurrent.FutureTask;
 import javax.swing.JComponent;
 import javax.swing.JLabel;
 import javax.swing.JList;
+import javax.swing.JTabbedPane;
 import javax.swing.JTable;
 import javax.swing.JTree;
 import javax.swing.SwingUtilities;
@@ -105,6 +106,11 @@ final class Commands {
         commands.put("inspector-row", words -> {
             Component view = Inspector.find(words[0]);
             return onScreen(view, Inspector.row(view, words.length == 3 ? words[1] + " " + words[2] : words[1]));
+        });
+        // inspector-tab TITLE: where the tab of the details is
+        commands.put("inspector-tab", words -> {
+            JTabbedPane tabs = (JTabbedPane) Inspector.find("vantrel.details");
+            return onScreen(tabs, tabs.getBoundsAt(tabs.indexOfTab(String.join(" ", words))));
         });
         // selected: the name of the component that the inspector has selected
         commands.put("selected", words -> {

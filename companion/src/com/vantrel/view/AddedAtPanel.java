@@ -123,7 +123,8 @@ public final class AddedAtPanel extends JPanel {
                 }
                 if (SwingUtilities.isRightMouseButton(event) && !list.isSelectedIndex(row)) {
                     list.setSelectedIndex(row); // what the menu is about
-                } else if (SwingUtilities.isLeftMouseButton(event) && event.getClickCount() == 2) {
+                } else if (SwingUtilities.isLeftMouseButton(event) && event.getClickCount() % 2 == 0) {
+                    // A quick click somewhere else before counts, too, so that a double click may end with a four.
                     openSelected();
                 }
             }
