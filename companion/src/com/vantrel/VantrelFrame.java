@@ -16,8 +16,6 @@ import javax.swing.WindowConstants;
 import com.vantrel.model.Edits;
 import com.vantrel.model.Ours;
 import com.vantrel.model.Selection;
-import com.vantrel.view.AddedAtPanel;
-import com.vantrel.view.Details;
 import com.vantrel.view.InspectorPane;
 import com.vantrel.view.Placement;
 import com.vantrel.view.Sight;
@@ -79,6 +77,7 @@ public final class VantrelFrame extends JFrame implements Ours {
         } else if (pane == null) {
             fill();
             super.setVisible(true);
+            pane.first().requestFocusInWindow();
             pane.start();
             looks.start();
         }
@@ -97,14 +96,11 @@ public final class VantrelFrame extends JFrame implements Ours {
     private void fill() {
         selection = new Selection();
         Edits edits = new Edits(SwingContext::safeRun1, task -> SwingContext.safeRun1(this, task));
-        AddedAtPanel addedAt = new AddedAtPanel(selection);
-        pane = new InspectorPane(selection, Sight.NONE, edits,
-                chosen -> new Details(chosen, edits, addedAt, addedAt::openWhere), this::dispose);
+        pane = new InspectorPane(selection, edits, Sight.NONE, this::dispose);
         setRootPane(createRootPane()); // one of the look and feel that the program has now
         setContentPane(pane);
         setJMenuBar(pane.menus());
         Placement.place(this);
-        pane.first().requestFocusInWindow();
         selection.select(toSelect.get());
         toSelect.clear();
     }

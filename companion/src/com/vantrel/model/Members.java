@@ -11,7 +11,7 @@ import com.vantrel.hooks.DesktopModule;
 /** Members of classes that are called or read by reflection. For any thread; who calls decides on which. */
 final class Members {
     static {
-        DesktopModule.open("java.awt", "javax.swing");
+        DesktopModule.open("java.awt", "javax.accessibility", "javax.swing");
     }
 
     private Members() {

@@ -22,19 +22,20 @@ final class Commands {
     final Command copyPath;
     final Command copyClass;
     final Command copyDescription;
-    final Command undo;
-    final Command redo;
     final Command machinery;
     final Command expandAll;
     final Command collapseAll;
+    final Command undo;
+    final Command redo;
 
     private final Selection selection;
     private final TreePane tree;
+    private final Edits edits;
 
-    Commands(Selection selection, TreePane tree, Sight sight, Edits edits, StatusLine status,
-            Runnable machineryChanged) {
+    Commands(Selection selection, Edits edits, TreePane tree, Sight sight, StatusLine status, Runnable machineryChanged) {
         this.selection = selection;
         this.tree = tree;
+        this.edits = edits;
         pick = new Command("Pick", "F8", "Selects what you click in the program next", sight::canPick,
                 () -> sight.pick(!sight.isPicking()));
         find = new Command("Find", "ctrl F", "Searches for components", () -> true, () -> {
@@ -56,9 +57,6 @@ final class Commands {
         copyDescription = new Command("Copy Description", "ctrl shift D",
                 "Copies what there is to know of the component, to paste into a report", this::hasSelected,
                 () -> status.copied("description", Description.of(selection.component())));
-        undo = new Command("Undo", "ctrl Z", "Takes back the last change of a property", edits::canUndo, edits::undo);
-        redo = new Command("Redo", "ctrl shift Z", "Makes the change again that was taken back", edits::canRedo,
-                edits::redo);
         machinery = new Command("Machinery", "ctrl M",
                 "Shows root panes, viewports, scroll bars and the like, too", () -> true, () -> {
                     tree.showMachinery(!tree.tree().showsMachinery());
@@ -68,6 +66,8 @@ final class Commands {
                 () -> tree.setAllExpanded(true));
         collapseAll = new Command("Collapse All", "ctrl shift W", "Collapses everything", () -> true,
                 () -> tree.setAllExpanded(false));
+        undo = new Command("Undo", "ctrl Z", "", edits::canUndo, edits::undo);
+        redo = new Command("Redo", "ctrl Y", "", edits::canRedo, edits::redo);
     }
 
     private boolean hasSelected() {
@@ -85,8 +85,8 @@ final class Commands {
     }
 
     private List<Command> all() {
-        return Arrays.asList(pick, find, back, forward, parent, outline, copyPath, copyClass, copyDescription, undo,
-                redo, machinery, expandAll, collapseAll);
+        return Arrays.asList(pick, find, back, forward, parent, outline, copyPath, copyClass, copyDescription, machinery,
+                expandAll, collapseAll, undo, redo);
     }
 
     /** Takes the commands' keys anywhere in the window. */
@@ -98,6 +98,8 @@ final class Commands {
 
     /** Looks again at what can be done now. */
     void update() {
+        undo.describe(("Undoes " + edits.whatToUndo()).trim());
+        redo.describe(("Does again " + edits.whatToRedo()).trim());
         for (Command command : all()) {
             command.update();
         }

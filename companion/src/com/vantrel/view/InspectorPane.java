@@ -7,15 +7,12 @@ import java.awt.Rectangle;
 import java.awt.event.ActionEvent;
 import java.awt.event.MouseAdapter;
 import java.awt.event.MouseEvent;
-import java.util.function.Function;
 
 import javax.swing.AbstractAction;
 import javax.swing.Action;
-import javax.swing.JComponent;
 import javax.swing.JMenuBar;
 import javax.swing.JPanel;
 import javax.swing.JPopupMenu;
-import javax.swing.KeyStroke;
 
 import com.vantrel.model.Edits;
 import com.vantrel.model.Selection;
@@ -27,11 +24,11 @@ public final class InspectorPane extends JPanel {
     private static final long serialVersionUID = 1L;
     private static final String SPLIT = "window.split";
     private static final String MACHINERY = "tree.machinery";
-    private static final int TREE_WIDTH = 420;
+    private static final double TREE_SHARE = 0.4;
 
     private final transient Selection selection;
-    private final transient Sight sight;
     private final transient Edits edits;
+    private final transient Sight sight;
     private final TreePane tree;
     private final transient Commands commands;
     private final ToolBar tools;
@@ -41,33 +38,30 @@ public final class InspectorPane extends JPanel {
     private final JMenuBar menus;
 
     /**
-     * @param edits   what has been changed in the program
-     * @param details makes the part of the window that tells all about the selected component, out of the selection
-     * @param close   hides the window
+     * @param edits what is changed in the program goes through it
+     * @param close hides the window
      */
-    public InspectorPane(Selection selection, Sight sight, Edits edits, Function<Selection, JComponent> details,
-            Runnable close) {
+    public InspectorPane(Selection selection, Edits edits, Sight sight, Runnable close) {
         super(new BorderLayout());
         this.selection = selection;
-        this.sight = sight;
         this.edits = edits;
+        this.sight = sight;
         tree = new TreePane(selection);
         status = new StatusLine(selection);
-        commands = new Commands(selection, tree, sight, edits, status, this::update);
-        tools = new ToolBar(commands, tree.searchBar(), commands.undo, commands.redo);
-        this.details = new DetailsPane(selection, details.apply(selection));
-        split = new Split(tree, this.details);
-        split.setDividerLocation(Settings.get(SPLIT, TREE_WIDTH));
-        split.setResizeWeight(0.3);
-        menus = Menus.bar(commands, tree.tree()::showsMachinery, closing(close),
-                commands.undo, commands.redo);
+        commands = new Commands(selection, edits, tree, sight, status, this::update);
+        tools = new ToolBar(commands, tree.searchBar());
+        AddedAtPanel addedAt = new AddedAtPanel(selection);
+        details = new DetailsPane(selection, new Details(selection, edits, addedAt, addedAt::openWhere));
+        split = new Split(tree, details);
+        split.setResizeWeight(TREE_SHARE);
+        menus = Menus.bar(commands, tree.tree()::showsMachinery, closing(close));
         add(tools, BorderLayout.PAGE_START);
         add(split);
         add(status, BorderLayout.PAGE_END);
 
         commands.bind(this);
         selection.onChange(this::update);
-        edits.onChange(commands::update);
+        edits.onChange(this::update);
         tree.onLook(this::update);
         tree.view().onHover(node -> sight.outline(node == null ? null : node.component()));
         rowMenu(tree.view(), Menus.ofRow(commands));
@@ -84,7 +78,7 @@ public final class InspectorPane extends JPanel {
                 close.run();
             }
         };
-        action.putValue(Action.ACCELERATOR_KEY, KeyStroke.getKeyStroke("ctrl W"));
+        action.putValue(Action.ACCELERATOR_KEY, Command.keyStroke("ctrl W"));
         return action;
     }
 
@@ -129,8 +123,10 @@ public final class InspectorPane extends JPanel {
         return tree.view();
     }
 
-    /** Begins to look at the program. */
+    /** Begins to look at the program: the window has its size now. */
     public void start() {
+        validate();
+        split.setDividerLocation(Settings.get(SPLIT, (int) (TREE_SHARE * getWidth())));
         tree.start();
     }
 
