@@ -85,7 +85,8 @@ TEST_P(AddedAt, NamesTheProgramsLineAndCopiesIt) {
 
     double_click(row(line));
     EXPECT_TRUE(message_says("no editor is set, so the line was copied")) << ask("inspector " + kMessage);
-    EXPECT_EQ(ask("clipboard"), "at scenario.MainFrame.row(MainFrame.java:" + number + ")");
+    const std::string link = "at scenario.MainFrame.row(MainFrame.java:" + number + ")";
+    EXPECT_EQ(ask("clipboard"), link);
 
     // The line below, by keyboard; then what a fold holds.
     keys.press({XK_Down});
@@ -98,10 +99,16 @@ TEST_P(AddedAt, NamesTheProgramsLineAndCopiesIt) {
         << ask("inspector " + kList);
     keys.press({XK_Left});
     EXPECT_TRUE(eventually([&] { return ask("inspector " + kList).find("Container.add(") == std::string::npos; }));
-    keys.press({XK_Control_L, XK_Shift_L, XK_c});
+    keys.press({XK_Control_L, XK_a});
+    keys.press({XK_Control_L, XK_c});
     EXPECT_TRUE(eventually([&] {
         return ask("clipboard").find("\n\tat java.awt.Container.add(") != std::string::npos;
     })) << ask("clipboard");
+
+    // The line above all tabs does the same as the list's.
+    click(place("inspector-tab Properties"));
+    click(where("vantrel.header.where"));
+    EXPECT_TRUE(eventually([&] { return ask("clipboard") == link; })) << ask("clipboard");
     EXPECT_EQ(ask("log"), "") << "the program saw nothing of it";
 }
 
