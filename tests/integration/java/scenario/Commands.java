@@ -5,7 +5,9 @@ import java.awt.Container;
 import java.awt.KeyboardFocusManager;
 import java.awt.Point;
 import java.awt.Rectangle;
+import java.awt.Toolkit;
 import java.awt.Window;
+import java.awt.datatransfer.DataFlavor;
 import java.lang.ref.WeakReference;
 import java.lang.reflect.InvocationTargetException;
 import java.util.HashMap;
@@ -17,6 +19,7 @@ import java.util.concurrent.FutureTask;
 import javax.swing.JComponent;
 import javax.swing.JLabel;
 import javax.swing.JList;
+import javax.swing.JTabbedPane;
 import javax.swing.JTable;
 import javax.swing.JTree;
 import javax.swing.SwingUtilities;
@@ -104,12 +107,26 @@ final class Commands {
             Component view = Inspector.find(words[0]);
             return onScreen(view, Inspector.row(view, words.length == 3 ? words[1] + " " + words[2] : words[1]));
         });
+        // inspector-tab TITLE: where the tab of the details is
+        commands.put("inspector-tab", words -> {
+            JTabbedPane tabs = (JTabbedPane) Inspector.find("vantrel.details");
+            return onScreen(tabs, tabs.getBoundsAt(tabs.indexOfTab(String.join(" ", words))));
+        });
         // selected: the name of the component that the inspector has selected
         commands.put("selected", words -> {
             Class<?> vantrel = Class.forName("com.vantrel.Vantrel");
             Component component = (Component) vantrel.getMethod("getSelectedComponent").invoke(null);
             return component == null ? "none" : things.nameOf(component);
         });
+        // select NAME: has the inspector select a component, as a debugger might
+        commands.put("select", words -> {
+            Object vantrel = Class.forName("com.vantrel.Vantrel").getMethod("getInstance").invoke(null);
+            vantrel.getClass().getMethod("selectOnComponentTree", Component.class).invoke(vantrel, things.get(words[0]));
+            return "";
+        });
+        // clipboard: the text on it
+        commands.put("clipboard", words -> (String) Toolkit.getDefaultToolkit().getSystemClipboard()
+                .getData(DataFlavor.stringFlavor));
         // watch: begins to measure how long the event thread is held; held: the longest time since, in milliseconds
         commands.put("watch", words -> watch.start());
         commands.put("held", words -> watch.stop());
