@@ -23,6 +23,7 @@ import java.util.stream.Collectors;
 import javax.swing.JComponent;
 import javax.swing.JLabel;
 import javax.swing.JList;
+import javax.swing.JTabbedPane;
 import javax.swing.JTable;
 import javax.swing.JTree;
 import javax.swing.SwingUtilities;
@@ -121,12 +122,24 @@ final class Commands {
             Component view = Inspector.find(words[0]);
             return onScreen(view, Inspector.row(view, words.length == 3 ? words[1] + " " + words[2] : words[1]));
         });
+        // inspector-tab TITLE: where the tab of the details is
+        commands.put("inspector-tab", words -> {
+            JTabbedPane tabs = (JTabbedPane) Inspector.find("vantrel.details");
+            return onScreen(tabs, tabs.getBoundsAt(tabs.indexOfTab(String.join(" ", words))));
+        });
         // selected: the name of the component that the inspector has selected
         commands.put("selected", words -> {
             Class<?> vantrel = Class.forName("com.vantrel.Vantrel");
             Component component = (Component) vantrel.getMethod("getSelectedComponent").invoke(null);
             return component == null ? "none" : things.nameOf(component);
         });
+        // select NAME: has the inspector select a component, as a debugger might
+        commands.put("select", words -> {
+            Object vantrel = Class.forName("com.vantrel.Vantrel").getMethod("getInstance").invoke(null);
+            vantrel.getClass().getMethod("selectOnComponentTree", Component.class).invoke(vantrel, things.get(words[0]));
+            return "";
+        });
+        // clipboard: the text on it
         commands.put("clipboard", words -> {
             Clipboard clipboard = Toolkit.getDefaultToolkit().getSystemClipboard();
             boolean text = clipboard.isDataFlavorAvailable(DataFlavor.stringFlavor);

@@ -51,6 +51,7 @@ public final class InspectorPane extends JPanel {
         commands = new Commands(selection, edits, tree, sight, status, this::update);
         tools = new ToolBar(commands, tree.searchBar());
         AddedAtPanel addedAt = new AddedAtPanel(selection);
+        addedAt.onOutcome(outcome -> status.say(outcome.line(), outcome.isFailure()));
         details = new DetailsPane(selection, new Details(selection, edits, addedAt, addedAt::openWhere));
         split = new Split(tree, details);
         split.setResizeWeight(TREE_SHARE);

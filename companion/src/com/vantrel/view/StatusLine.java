@@ -59,8 +59,13 @@ final class StatusLine extends JComponent {
     /** Copies a text, and says so. */
     void copied(String what, String text) {
         boolean works = Clip.copy(text);
-        tell(works ? "The " + what + " is on the clipboard."
+        say(works ? "The " + what + " is on the clipboard."
                 : "The clipboard is busy: another program holds it. Try again.", !works);
+    }
+
+    /** Says for a while what was done, or why it was not. */
+    void say(String message, boolean fault) {
+        tell(message, fault);
         endOfMessage.restart();
     }
 
