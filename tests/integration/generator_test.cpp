@@ -307,7 +307,7 @@ TEST(GeneratorCommand, FindsTheVmOrSaysThatThereIsNone) {
         int status;
         std::string err;
     } cases[] = {
-        {{}, {"JAVA_HOME=" + jdk, "PATH="}, 0, ""},
+        {{"--vm-option", "-Da=1", "--vm-option=-Db=2"}, {"JAVA_HOME=" + jdk, "PATH="}, 0, ""},
         {{}, {"JAVA_HOME=", "PATH=/nowhere:" + scratch.path.string()}, 0, ""},
         {{"--java-home", jdk}, {"JAVA_HOME=/nowhere", "PATH="}, 0, ""},
         {{}, {"JAVA_HOME=", "PATH=/nowhere"}, 2, none},

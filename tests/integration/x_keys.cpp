@@ -29,7 +29,8 @@ void XKeys::settle() {
     owned(xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
 }
 
-xcb_keycode_t XKeys::key_of(xcb_keysym_t keysym) const {
+// Level 1 is that of the keysyms that a key makes with Shift. 0 where no key does.
+xcb_keycode_t XKeys::find_key(xcb_keysym_t keysym, size_t level) const {
     xcb_connection_t* x = connection_.get();
     const xcb_setup_t* setup = xcb_get_setup(x);
     const auto count = static_cast<uint8_t>(setup->max_keycode - setup->min_keycode + 1);
@@ -37,27 +38,33 @@ xcb_keycode_t XKeys::key_of(xcb_keysym_t keysym) const {
         owned(xcb_get_keyboard_mapping_reply(x, xcb_get_keyboard_mapping(x, setup->min_keycode, count), nullptr));
     const xcb_keysym_t* keysyms = xcb_get_keyboard_mapping_keysyms(map.get());
     for (size_t key = 0; key < count; ++key) {
-        if (keysyms[key * map->keysyms_per_keycode] == keysym) {
+        if (level < map->keysyms_per_keycode && keysyms[key * map->keysyms_per_keycode + level] == keysym) {
             return static_cast<xcb_keycode_t>(setup->min_keycode + key);
         }
     }
-    ADD_FAILURE() << "no key makes keysym " << keysym;
     return 0;
 }
 
-void XKeys::send(unsigned char type, xcb_keysym_t keysym) {
+xcb_keycode_t XKeys::key_of(xcb_keysym_t keysym) const {
+    const xcb_keycode_t key = find_key(keysym, 0);
+    EXPECT_NE(key, 0) << "no key makes keysym " << keysym;
+    return key;
+}
+
+void XKeys::send(unsigned char type, unsigned char detail, int x, int y) {
     // A server's clock counts milliseconds, and nobody presses two keys in one.
     std::this_thread::sleep_for(std::chrono::milliseconds(2));
-    xcb_test_fake_input(connection_.get(), type, key_of(keysym), XCB_CURRENT_TIME, root_, 0, 0, 0);
+    xcb_test_fake_input(connection_.get(), type, detail, XCB_CURRENT_TIME, root_, static_cast<int16_t>(x),
+                        static_cast<int16_t>(y), 0);
     settle();
 }
 
 void XKeys::down(xcb_keysym_t keysym) {
-    send(XCB_KEY_PRESS, keysym);
+    send(XCB_KEY_PRESS, key_of(keysym));
 }
 
 void XKeys::up(xcb_keysym_t keysym) {
-    send(XCB_KEY_RELEASE, keysym);
+    send(XCB_KEY_RELEASE, key_of(keysym));
 }
 
 void XKeys::press(std::initializer_list<xcb_keysym_t> keysyms) {
@@ -66,6 +73,48 @@ void XKeys::press(std::initializer_list<xcb_keysym_t> keysyms) {
     }
     for (auto keysym = std::rbegin(keysyms); keysym != std::rend(keysyms); ++keysym) {
         up(*keysym);
+    }
+}
+
+void XKeys::type(const std::string& text) {
+    for (const char character : text) {
+        const auto keysym = static_cast<xcb_keysym_t>(character);  // of printable ASCII, the code is the keysym
+        if (find_key(keysym, 0) != 0) {
+            press({keysym});
+            continue;
+        }
+        const xcb_keycode_t key = find_key(keysym, 1);
+        EXPECT_NE(key, 0) << "no key makes '" << character << "'";
+        down(XK_Shift_L);
+        send(XCB_KEY_PRESS, key);
+        send(XCB_KEY_RELEASE, key);
+        up(XK_Shift_L);
+    }
+}
+
+void XKeys::point_at(int x, int y) {
+    send(XCB_MOTION_NOTIFY, 0, x > 0 ? x - 1 : x + 1, y);
+    send(XCB_MOTION_NOTIFY, 0, x, y);
+}
+
+void XKeys::button_down(int button) {
+    send(XCB_BUTTON_PRESS, static_cast<unsigned char>(button));
+}
+
+void XKeys::button_up(int button) {
+    send(XCB_BUTTON_RELEASE, static_cast<unsigned char>(button));
+}
+
+void XKeys::click(int button) {
+    button_down(button);
+    button_up(button);
+}
+
+void XKeys::wheel(int notches) {
+    constexpr int kAway = 4;
+    constexpr int kTowards = 5;
+    for (int notch = 0; notch < std::abs(notches); ++notch) {
+        click(notches > 0 ? kTowards : kAway);
     }
 }
 

@@ -1,4 +1,5 @@
-// Keys pressed on a real X server as if somebody typed them (the XTEST extension), and changes to its keyboard.
+// Keys and mouse buttons pressed on a real X server as if by somebody's hand (the XTEST extension), and changes to its
+// keyboard.
 #ifndef VANTREL_X_KEYS_H
 #define VANTREL_X_KEYS_H
 
@@ -21,6 +22,20 @@ class XKeys {
     // Presses keys in turn, and releases them in the opposite order.
     void press(std::initializer_list<xcb_keysym_t> keysyms);
 
+    // Types a text of printable ASCII characters.
+    void type(const std::string& text);
+
+    // Moves the pointer to a place on the first screen, in pixels, by way of one beside it: a program sees it come.
+    void point_at(int x, int y);
+
+    // Presses or releases a mouse button (1 is the left one), or both, where the pointer is.
+    void button_down(int button);
+    void button_up(int button);
+    void click(int button = 1);
+
+    // Turns the wheel by notches: towards the user if positive.
+    void wheel(int notches);
+
     // Makes a key make another keysym, shifted or not.
     void change(xcb_keysym_t from, xcb_keysym_t to);
 
@@ -37,8 +52,9 @@ class XKeys {
     int grabbed_presses();
 
   private:
+    [[nodiscard]] xcb_keycode_t find_key(xcb_keysym_t keysym, size_t level) const;
     [[nodiscard]] xcb_keycode_t key_of(xcb_keysym_t keysym) const;
-    void send(unsigned char type, xcb_keysym_t keysym);
+    void send(unsigned char type, unsigned char detail, int x = 0, int y = 0);
     void settle();
 
     std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t*)> connection_;

@@ -33,3 +33,11 @@ int XServer::take_picture(const std::filesystem::path& file) const {
     EXPECT_EQ(import.status, 0) << import.err;
     return std::stoi("0" + run({"identify", "-format", "%k", file}).out);
 }
+
+WindowManager::WindowManager(const XServer& x)
+    : manager_({"openbox"}, ProcessOptions{.folder = {}, .environment = {x.display()}}) {
+    EXPECT_TRUE(manager_.reaches([&x] {
+        return run({"xprop", "-display", x.name(), "-root", "_NET_SUPPORTING_WM_CHECK"}).out.find("0x") !=
+               std::string::npos;
+    })) << manager_.err();
+}

@@ -32,4 +32,14 @@ class XServer {
     std::string name_;
 };
 
+// A window manager on a server, at work when it has been made: with one, windows have frames, can be minimised, and get
+// the focus when they are clicked.
+class WindowManager {
+  public:
+    explicit WindowManager(const XServer& x);
+
+  private:
+    Process manager_;
+};
+
 #endif

@@ -44,6 +44,17 @@ Finished rewrite(const Words& arguments, const fs::path& folder) {
     return run(rewrite_command(arguments), {.folder = folder, .environment = {}});
 }
 
+std::vector<std::string> options_in_help(const std::string& help) {
+    std::vector<std::string> options;
+    for (const std::string& line : lines_of(help)) {
+        if (line.starts_with("  -")) {
+            const std::string names = line.substr(2, line.find(' ', 2) - 2);  // -h,--help
+            options.push_back(names.substr(names.find(',') + 1));
+        }
+    }
+    return options;
+}
+
 std::string contents(const fs::path& file) {
     std::ostringstream text;
     text << std::ifstream(file).rdbuf();

@@ -1,4 +1,4 @@
-// What the tests of the command share: running it, and making and reading files and jars.
+// What the tests of the commands share: running them, and making and reading files and jars.
 #ifndef VANTREL_TOOL_KIT_H
 #define VANTREL_TOOL_KIT_H
 
@@ -18,6 +18,9 @@ using Words = std::vector<std::string>;
 // The command with a tracker whose method is called at each entry.
 Words rewrite_command(const Words& arguments);
 Finished rewrite(const Words& arguments, const std::filesystem::path& folder);
+
+// The long names of the options that a command's help lists, like --verbose.
+std::vector<std::string> options_in_help(const std::string& help);
 
 std::string contents(const std::filesystem::path& file);
 void write(const std::filesystem::path& file, const std::string& text);

@@ -38,7 +38,7 @@ std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
         ->type_name("PATH");
     app.add_option("--vm-option", arguments.vm_options, "An option for the VM, as java takes it; may be repeated")
         ->type_name("OPT")
-        ->expected(1);
+        ->allow_extra_args(false);
     auto* out = app.add_option("--out", arguments.out, "The folder for the files; is made if it is not there")
                     ->type_name("DIR");
     app.add_flag("--list", arguments.list, "Print the members that would be written, and write nothing")->excludes(out);

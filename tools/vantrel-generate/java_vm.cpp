@@ -5,10 +5,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <iterator>
-#include <sstream>
+#include <utility>
 
 #include "failure.h"
+#include "java_home.h"
 
 namespace fs = std::filesystem;
 
@@ -21,43 +21,19 @@ constexpr int kNothingDone = 2;
 // class file. Without that their order, and so the numbers of the wrappers, changes from run to run.
 jvmtiEnv* agent_jvmti = nullptr;
 
-// The folder that holds bin/java, where that is the java on the path.
-fs::path home_of_java_on_path() {
-    const char* path = getenv("PATH");
-    std::istringstream folders(path != nullptr ? path : "");
-    for (std::string folder; std::getline(folders, folder, ':');) {
-        std::error_code error;
-        const fs::path java = fs::canonical(fs::path(folder) / "java", error);
-        if (!error && fs::is_regular_file(java)) {
-            return java.parent_path().parent_path();
-        }
-    }
-    return {};
-}
-
 fs::path find_home(const std::string& given) {
     if (!given.empty()) {
         return given;
     }
-    const char* java_home = getenv("JAVA_HOME");
-    if (java_home != nullptr && java_home[0] != '\0') {
-        return java_home;
+    if (auto home = find_java_home()) {
+        return *std::move(home);
     }
-    fs::path home = home_of_java_on_path();
-    if (home.empty()) {
-        throw Failure{"there is no Java: no --java-home, no JAVA_HOME, no java on the path"};
-    }
-    return home;
+    throw Failure{"there is no Java: no --java-home, no JAVA_HOME, no java on the path"};
 }
 
 fs::path find_library(const fs::path& home) {
-    // The last two are Java 8's.
-    for (const char* place : {"lib/server", "lib/client", "jre/lib/amd64/server", "lib/amd64/server"}) {
-        for (const char* name : {"libjvm.so", "libjvm.dylib"}) {
-            if (fs::exists(home / place / name)) {
-                return home / place / name;
-            }
-        }
+    if (auto library = find_vm_library(home)) {
+        return *std::move(library);
     }
     throw Failure{"there is no Java VM in " + home.string()};
 }

@@ -18,8 +18,8 @@ public final class Vantrel {
     }
 
     /**
-     * Shows the inspector's window, or hides it if it is shown. May be called from any thread. Does nothing but say so
-     * where there can be no window.
+     * Shows the inspector's window, or hides it if it is shown; brings it back if it is minimised. May be called from
+     * any thread. Does nothing but say so where there can be no window.
      *
      * @param component the component to select; null for none
      */
@@ -32,7 +32,7 @@ public final class Vantrel {
             @Override
             public void run() {
                 VantrelFrame frame = VantrelFrame.getInstance();
-                frame.setVisible(!frame.isVisible());
+                frame.toggle();
                 if (frame.isVisible() && component != null) {
                     INSTANCE.selectOnComponentTree(component);
                 }
@@ -43,6 +43,11 @@ public final class Vantrel {
     /** Selects a component in the inspector. */
     public void selectOnComponentTree(Component component) {
         VantrelFrame.getInstance().select(component);
+    }
+
+    /** The component that is selected in the inspector, for debuggers and consoles; null for none. */
+    public static Component getSelectedComponent() {
+        return VantrelFrame.selected();
     }
 
     /** Paints the highlight over a component. */

@@ -2,49 +2,59 @@ package com.vantrel;
 
 import java.awt.Component;
 import java.awt.Dialog;
+import java.awt.Dimension;
 import java.awt.Window;
-import java.awt.event.ActionEvent;
-import java.awt.event.ActionListener;
+import java.lang.ref.WeakReference;
 import java.util.Arrays;
 import java.util.List;
 
 import javax.swing.JFrame;
-import javax.swing.JLabel;
+import javax.swing.JPanel;
 import javax.swing.Timer;
 import javax.swing.WindowConstants;
 
+import com.vantrel.model.Ours;
+import com.vantrel.model.Selection;
+import com.vantrel.view.InspectorPane;
+import com.vantrel.view.Memory;
+import com.vantrel.view.Placement;
+import com.vantrel.view.Sight;
+
 /**
  * The inspector's window. A window that exists, shown or not, keeps the event thread and with it the VM alive, so this
- * one exists only while it is shown, and goes when nothing else is left of the program. It stays usable while a modal
- * dialog of the program is open.
+ * one exists only while it is shown, and goes when nothing else is left of the program. What is in it is made when it
+ * is shown, in the look and feel of that moment, and dropped when it is closed. It stays usable while a modal dialog of
+ * the program is open.
  */
-public final class VantrelFrame extends JFrame {
+public final class VantrelFrame extends JFrame implements Ours {
     private static final long serialVersionUID = 1L;
 
     /** What is left of the main thread when it has ended, and the AWT's wait for its own end. */
     private static final List<String> OF_THE_VM = Arrays.asList("DestroyJavaVM", "AWT-Shutdown");
 
     private static final int MILLIS_BETWEEN_LOOKS = 250;
+    private static final Dimension SMALLEST = new Dimension(560, 320);
 
     private static VantrelFrame instance;
 
-    private final JLabel selection = new JLabel("No component is selected.", JLabel.CENTER);
+    private transient Memory memory;
+    private transient volatile Selection selection;
+    private InspectorPane pane;
+    /** What somebody has selected while the window was not shown. */
+    private transient WeakReference<Component> toSelect = new WeakReference<>(null);
 
-    private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, new ActionListener() {
-        @Override
-        public void actionPerformed(ActionEvent event) {
-            if (!programHasWindow() && !programHasThread()) {
-                dispose();
-            }
+    private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> {
+        if (!programHasWindow() && !programHasThread()) {
+            dispose();
         }
     });
 
     private VantrelFrame() {
         super("Vantrel");
+        setName("vantrel");
         setDefaultCloseOperation(WindowConstants.DISPOSE_ON_CLOSE);
         setModalExclusionType(Dialog.ModalExclusionType.TOOLKIT_EXCLUDE);
-        add(selection);
-        setSize(480, 320);
+        setMinimumSize(SMALLEST);
     }
 
     /** The window, made when it is first asked for. */
@@ -55,20 +65,71 @@ public final class VantrelFrame extends JFrame {
         return instance;
     }
 
+    /** What is selected in the inspector; null for nothing. May be called from any thread. */
+    static synchronized Component selected() {
+        Selection selection = instance == null ? null : instance.selection;
+        return selection == null ? null : selection.component();
+    }
+
     @Override
     public void setVisible(boolean visible) {
-        if (visible) {
-            super.setVisible(true);
-            looks.start();
-        } else {
+        if (!visible) {
             dispose();
+        } else if (pane == null) {
+            fill();
+            super.setVisible(true);
+            pane.start();
+            looks.start();
+        }
+    }
+
+    /** Shows the window, brings it back if it is minimised, and otherwise hides it. */
+    void toggle() {
+        if (isVisible() && (getExtendedState() & ICONIFIED) != 0) {
+            setExtendedState(getExtendedState() & ~ICONIFIED);
+            toFront();
+        } else {
+            setVisible(!isVisible());
+        }
+    }
+
+    private void fill() {
+        memory = Memory.open();
+        selection = new Selection();
+        pane = new InspectorPane(selection, memory, Sight.NONE, chosen -> new JPanel(), this::dispose);
+        setRootPane(createRootPane()); // one of the look and feel that the program has now
+        setContentPane(pane);
+        setJMenuBar(pane.menus());
+        Placement.place(this, memory);
+        pane.first().requestFocusInWindow();
+        selection.select(toSelect.get());
+        toSelect.clear();
+    }
+
+    /** Selects a component; while the window is not shown, as soon as it is. */
+    void select(Component component) {
+        if (selection == null) {
+            toSelect = new WeakReference<>(component);
+        } else {
+            selection.select(component);
         }
     }
 
     @Override
     public void dispose() {
         looks.stop();
+        if (pane != null) {
+            Placement.remember(this, memory);
+            pane.remember();
+            memory.save();
+            pane.clear();
+            pane = null;
+            selection = null;
+            memory = null;
+        }
         super.dispose();
+        setJMenuBar(null);
+        setContentPane(new JPanel());
     }
 
     private boolean programHasWindow() {
@@ -95,10 +156,6 @@ public final class VantrelFrame extends JFrame {
             }
         }
         return count == threads.length;
-    }
-
-    void select(Component component) {
-        selection.setText(component == null ? "No component is selected." : component.toString());
     }
 
     /** Asks for a window that is translucent, in percent. The agent does nothing with it. */

@@ -29,6 +29,11 @@ public final class Selection {
         return target == null ? null : target.component();
     }
 
+    /** Whether something is selected that has been collected meanwhile. */
+    public boolean hasLost() {
+        return at >= 0 && history.get(at).component() == null;
+    }
+
     /** Selects a component; null for none. Listeners hear of it if that changes what is selected. */
     public void select(Component component) {
         select(component == null ? null : Target.of(component));

@@ -2,6 +2,12 @@ package com.vantrel.view;
 
 import java.awt.Color;
 import java.awt.Font;
+import java.awt.FontMetrics;
+import java.awt.Graphics;
+import java.awt.Graphics2D;
+import java.awt.RenderingHints;
+import java.awt.Toolkit;
+import java.util.Map;
 
 import javax.swing.BorderFactory;
 import javax.swing.UIManager;
@@ -34,17 +40,25 @@ public final class Look {
         return color("List.background", color("Tree.background", isDark() ? background().darker() : Color.WHITE));
     }
 
+    /** For text on paper. */
+    public static Color ink() {
+        Color ink = color("List.foreground", foreground());
+        return canBeRead(ink, paper()) ? ink : isDark(paper()) ? new Color(0xE3E3E3) : new Color(0x1F1F1F);
+    }
+
     public static Color selectionBackground() {
         return color("List.selectionBackground", new Color(0x2F6FBF));
     }
 
     public static Color selectionForeground() {
-        return color("List.selectionForeground", Color.WHITE);
+        Color text = color("List.selectionForeground", Color.WHITE);
+        Color back = selectionBackground();
+        return canBeRead(text, back) ? text : isDark(back) ? Color.WHITE : Color.BLACK;
     }
 
     /** For what is there but matters less: units, hints, rows of components that do not show. */
     public static Color dim() {
-        return mix(foreground(), background(), 0.45);
+        return mix(foreground(), background(), 0.4);
     }
 
     /** For thin lines between parts. */
@@ -72,9 +86,44 @@ public final class Look {
         return mix(highlight(), paper(), 0.55);
     }
 
+    /** Behind a button that the pointer is over, and behind one that is switched on. */
+    public static Color hover() {
+        return mix(foreground(), background(), 0.9);
+    }
+
+    public static Color pressed() {
+        return mix(foreground(), background(), 0.8);
+    }
+
     public static boolean isDark() {
-        Color back = background();
-        return 0.299 * back.getRed() + 0.587 * back.getGreen() + 0.114 * back.getBlue() < 128;
+        return isDark(background());
+    }
+
+    private static boolean isDark(Color color) {
+        return brightness(color) < 128;
+    }
+
+    private static boolean canBeRead(Color text, Color back) {
+        return Math.abs(brightness(text) - brightness(back)) > 70;
+    }
+
+    /** From 0 to 255, as people see it. */
+    private static double brightness(Color color) {
+        return 0.299 * color.getRed() + 0.587 * color.getGreen() + 0.114 * color.getBlue();
+    }
+
+    /** Has lines and text painted smooth, as the desktop has it. For whoever paints by itself. */
+    public static Graphics2D smooth(Graphics graphics) {
+        Graphics2D g = (Graphics2D) graphics.create();
+        Object hints = Toolkit.getDefaultToolkit().getDesktopProperty("awt.font.desktophints");
+        if (hints instanceof Map) {
+            g.addRenderingHints((Map<?, ?>) hints);
+        } else {
+            g.setRenderingHint(RenderingHints.KEY_TEXT_ANTIALIASING, RenderingHints.VALUE_TEXT_ANTIALIAS_ON);
+        }
+        g.setRenderingHint(RenderingHints.KEY_ANTIALIASING, RenderingHints.VALUE_ANTIALIAS_ON);
+        g.setRenderingHint(RenderingHints.KEY_STROKE_CONTROL, RenderingHints.VALUE_STROKE_PURE);
+        return g;
     }
 
     /** The plain font of the look and feel's labels. */
@@ -94,6 +143,18 @@ public final class Look {
 
     public static Border padding() {
         return BorderFactory.createEmptyBorder(GAP, GAP, GAP, GAP);
+    }
+
+    /** A text, or as much of its beginning as has room, with an ellipsis. */
+    static String fitting(String text, FontMetrics metrics, int room) {
+        if (metrics.stringWidth(text) <= room) {
+            return text;
+        }
+        int end = text.length();
+        while (end > 0 && metrics.stringWidth(text.substring(0, end) + "\u2026") > room) {
+            end--;
+        }
+        return end == 0 ? "" : text.substring(0, end) + "\u2026";
     }
 
     /** A colour between two: the first one at 0, the second one at 1. */

@@ -1,0 +1,284 @@
+package com.vantrel.model;
+
+import java.awt.Component;
+import java.awt.Container;
+import java.awt.Dimension;
+import java.awt.Window;
+import java.lang.reflect.Method;
+import java.util.ArrayList;
+import java.util.Arrays;
+import java.util.HashSet;
+import java.util.LinkedHashMap;
+import java.util.List;
+import java.util.Map;
+import java.util.Set;
+
+import javax.accessibility.AccessibleContext;
+import javax.swing.JPasswordField;
+import javax.swing.SwingUtilities;
+import javax.swing.text.Document;
+import javax.swing.text.JTextComponent;
+
+/**
+ * The properties of a component, in groups: those that most components have in an order that is easy to find things
+ * in, then what each of its classes adds. Decides which of them may be read unasked. For the event thread.
+ *
+ * <p>Unasked are read the toolkit's own getters, as long as the program overrides nothing of what they ask. What the
+ * program has written may block, throw, load data or change something: that is read when the user asks for it.
+ */
+final class Catalog {
+    static final String IDENTITY = "Identity";
+    static final String GEOMETRY = "Geometry";
+    static final String TEXT = "Text";
+    static final String LAYOUT = "Layout";
+    static final String ACCESSIBILITY = "Accessibility";
+    static final String CLIENT_PROPERTIES = "Client properties";
+
+    /** By group, the properties in it, in order. */
+    private static final Map<String, List<String>> GROUPS = new LinkedHashMap<>();
+
+    static {
+        GROUPS.put(IDENTITY, Arrays.asList("name"));
+        GROUPS.put("State", Arrays.asList("enabled", "visible", "showing", "editable", "selected", "valid",
+                "displayable", "lightweight", "doubleBuffered"));
+        GROUPS.put(GEOMETRY, Arrays.asList("bounds", "on screen", "insets", "minimumSize", "preferredSize",
+                "maximumSize", "baseline", "alignmentX", "alignmentY", "componentOrientation"));
+        GROUPS.put(TEXT, Arrays.asList("text", "title", "label", "toolTipText", "actionCommand", "mnemonic",
+                "displayedMnemonic", "displayedMnemonicIndex", "horizontalAlignment", "verticalAlignment",
+                "horizontalTextPosition", "verticalTextPosition", "iconTextGap", "columns", "rows", "locale"));
+        GROUPS.put("Look", Arrays.asList("background", "foreground", "font", "border", "margin", "icon", "opaque",
+                "cursor", "UI", "borderPainted", "contentAreaFilled", "focusPainted", "rolloverEnabled"));
+        GROUPS.put(LAYOUT, Arrays.asList("constraints", "parent's layout", "layout", "componentCount"));
+        GROUPS.put("Focus", Arrays.asList("focusable", "focusOwner", "requestFocusEnabled", "focusCycleRoot",
+                "focusCycleRootAncestor", "focusTraversalPolicy", "focusTraversalPolicySet",
+                "focusTraversalPolicyProvider", "focusTraversalKeysEnabled", "inputVerifier",
+                "verifyInputWhenFocusTarget"));
+        GROUPS.put(ACCESSIBILITY, Arrays.asList("accessibleName", "accessibleDescription", "accessibleRole"));
+        GROUPS.put(CLIENT_PROPERTIES, new ArrayList<>());
+    }
+
+    /** What the toolkit works out anew each time, by asking much else. */
+    private static final Set<String> COMPUTED = new HashSet<>(
+            Arrays.asList("minimumSize", "preferredSize", "maximumSize", "alignmentX", "alignmentY"));
+
+    private static final Set<String> NEEDS_LAYOUT = new HashSet<>(
+            Arrays.asList("minimumSize", "preferredSize", "maximumSize", "alignmentX", "alignmentY", "constraints"));
+
+    private final Component component;
+    private final Class<?> type;
+    private final Class<?> getterOverrider;
+    private final Map<String, Map<String, Property>> found = new LinkedHashMap<>();
+
+    private Catalog(Component component) {
+        this.component = component;
+        type = component.getClass();
+        getterOverrider = Code.getterOverrider(type);
+    }
+
+    /** All properties that components of a component's class have, but for client properties. */
+    static List<Property> of(Component component) {
+        Catalog catalog = new Catalog(component);
+        catalog.addIdentity();
+        catalog.addGeometry();
+        catalog.addText();
+        catalog.addLayout();
+        catalog.addAccessibility();
+        for (Getters.Getter getter : Getters.of(catalog.type)) {
+            catalog.add(getter);
+        }
+        return catalog.inOrder();
+    }
+
+    /** Whether a property takes effect only when the component's window is laid out again. */
+    static boolean needsLayout(Property property) {
+        return NEEDS_LAYOUT.contains(property.name());
+    }
+
+    private List<Property> inOrder() {
+        List<Property> all = new ArrayList<>();
+        for (Map.Entry<String, List<String>> group : GROUPS.entrySet()) {
+            Map<String, Property> properties = found.remove(group.getKey());
+            if (properties != null) {
+                for (String name : group.getValue()) {
+                    Property property = properties.remove(name);
+                    if (property != null) {
+                        all.add(property);
+                    }
+                }
+                all.addAll(properties.values());
+            }
+        }
+        for (Map<String, Property> properties : found.values()) {
+            all.addAll(properties.values());
+        }
+        return all;
+    }
+
+    private Property add(String group, String name, Class<?> of, Property.Get get) {
+        Property property = new Property(group, name, of, get);
+        found.computeIfAbsent(group, key -> new LinkedHashMap<>()).put(name, property);
+        return property;
+    }
+
+    private void add(Getters.Getter getter) {
+        String group = group(getter);
+        if (found.containsKey(group) && found.get(group).containsKey(getter.name)) {
+            return;
+        }
+        Method read = getter.method;
+        Property property = add(group, getter.name, getter.type, on -> Members.call(read, on));
+        if (getter.programs != null) {
+            askProgram(property, getter.programs);
+        } else if (COMPUTED.contains(getter.name)) {
+            askIfComputed(property);
+        }
+        if (getter.setter != null) {
+            Method write = getter.setter;
+            Format format = Constants.of(getter.name);
+            property.settable((on, value) -> Members.call(write, on, value),
+                    format != null && getter.type == int.class ? format : Formats.of(write.getParameterTypes()[0]));
+        }
+        storeOnlyWhatIsSet(property, read);
+    }
+
+    /** Has an undo put back "none of its own" where a value came from the parent or was computed. */
+    private void storeOnlyWhatIsSet(Property property, Method read) {
+        Property.Get value = on -> Members.call(read, on);
+        switch (property.name()) {
+        case "background":
+        case "foreground":
+        case "font":
+        case "cursor":
+            property.stored(on -> Boolean.TRUE.equals(Origin.isSet(on, property.name())) ? value.from(on) : null);
+            break;
+        case "minimumSize":
+            property.stored(on -> on.isMinimumSizeSet() ? value.from(on) : null);
+            break;
+        case "preferredSize":
+            property.stored(on -> on.isPreferredSizeSet() ? value.from(on) : null);
+            break;
+        case "maximumSize":
+            property.stored(on -> on.isMaximumSizeSet() ? value.from(on) : null);
+            break;
+        default:
+            break;
+        }
+    }
+
+    private static String group(Getters.Getter getter) {
+        for (Map.Entry<String, List<String>> group : GROUPS.entrySet()) {
+            if (group.getValue().contains(getter.name)) {
+                return group.getKey();
+            }
+        }
+        return "Of " + Code.shortName(getter.method.getDeclaringClass());
+    }
+
+    private void askProgram(Property property, Class<?> programs) {
+        property.asked(Code.shortName(programs) + " has its own method for it, which may do anything when it is called.");
+    }
+
+    private void askIfComputed(Property property) {
+        if (getterOverrider != null) {
+            property.asked("It is worked out from what " + Code.shortName(getterOverrider)
+                    + " overrides, and that may do anything when it is called.");
+        }
+    }
+
+    private void addIdentity() {
+        add(IDENTITY, "class", Class.class, on -> type);
+        Class<?> toolkit = Code.toolkitClass(type);
+        if (toolkit != type) {
+            add(IDENTITY, "extends", Class.class, on -> toolkit);
+            java.security.CodeSource source = type.getProtectionDomain().getCodeSource();
+            if (source != null && source.getLocation() != null) {
+                String location = source.getLocation().getPath();
+                add(IDENTITY, "loaded from", String.class, on -> location);
+            }
+        }
+        add(IDENTITY, "object", Object.class, on -> Values.object(on));
+        add(IDENTITY, "parent", Container.class, Component::getParent);
+        if (!(component instanceof Window)) {
+            add(IDENTITY, "window", Window.class, SwingUtilities::getWindowAncestor);
+        }
+    }
+
+    private void addGeometry() {
+        add(GEOMETRY, "on screen", java.awt.Point.class, on -> on.isShowing() ? on.getLocationOnScreen() : null);
+        askIfComputed(add(GEOMETRY, "baseline", int.class, on -> {
+            Dimension size = on.getSize();
+            return on.getBaseline(size.width, size.height);
+        }));
+    }
+
+    private void addText() {
+        if (component instanceof JPasswordField) {
+            add(TEXT, "text", String.class, on -> {
+                int length = ((JPasswordField) on).getDocument().getLength();
+                return "hidden, " + Values.count(length, "character");
+            });
+        } else if (component instanceof JTextComponent && Code.overrider(type, "getText") == null
+                && Code.overrider(type, "setText", String.class) == null) {
+            // Only as much as can be shown: a document may hold megabytes, and getText() copies all of it.
+            Property text = add(TEXT, "text", String.class, on -> {
+                Document document = ((JTextComponent) on).getDocument();
+                return document.getText(0, Math.min(document.getLength(), Values.LONGEST + 1));
+            });
+            text.settable((on, value) -> ((JTextComponent) on).setText((String) value), Formats.of(String.class));
+            Document document = ((JTextComponent) component).getDocument();
+            if (document != null && !Code.isToolkit(document.getClass())) {
+                askProgram(text, document.getClass());
+            }
+        }
+    }
+
+    private void addLayout() {
+        add(LAYOUT, "parent's layout", java.awt.LayoutManager.class,
+                on -> on.getParent() == null ? null : on.getParent().getLayout());
+        Format format = Constraints.format(component);
+        if (format != null) {
+            add(LAYOUT, "constraints", Object.class, Constraints::of).settable(Constraints::set, format);
+        }
+    }
+
+    /** A component makes its accessible context when it is first asked for it, and listens to itself from then on. */
+    private void addAccessibility() {
+        Property[] all = {
+            add(ACCESSIBILITY, "accessibleName", String.class, on -> context(on).getAccessibleName())
+                    .settable((on, value) -> context(on).setAccessibleName((String) value), Formats.of(String.class)),
+            add(ACCESSIBILITY, "accessibleDescription", String.class, on -> context(on).getAccessibleDescription())
+                    .settable((on, value) -> context(on).setAccessibleDescription((String) value),
+                            Formats.of(String.class)),
+            add(ACCESSIBILITY, "accessibleRole", String.class, on -> context(on).getAccessibleRole().toDisplayString())
+        };
+        Class<?> programs = getterOverrider != null ? getterOverrider : Code.overrider(type, "getAccessibleContext");
+        for (Property property : all) {
+            if (programs != null) {
+                askProgram(property, programs);
+            } else if (!hasContext()) {
+                property.asked("The component makes its accessible context when it is first asked for it.");
+            }
+        }
+    }
+
+    private boolean hasContext() {
+        try {
+            return ContextField.FIELD != null && ContextField.FIELD.get(component) != null;
+        } catch (IllegalAccessException e) {
+            return false;
+        }
+    }
+
+    private static AccessibleContext context(Component of) {
+        AccessibleContext context = of.getAccessibleContext();
+        if (context == null) {
+            throw new IllegalStateException("it has no accessible context");
+        }
+        return context;
+    }
+
+    /** Known only where the toolkit's module is open to us. */
+    private static final class ContextField {
+        static final java.lang.reflect.Field FIELD = Members.field(Component.class, "accessibleContext");
+    }
+}

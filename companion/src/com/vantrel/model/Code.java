@@ -1,0 +1,160 @@
+package com.vantrel.model;
+
+import java.awt.Component;
+import java.lang.reflect.Method;
+import java.lang.reflect.Modifier;
+import java.lang.reflect.Proxy;
+import java.util.regex.Matcher;
+import java.util.regex.Pattern;
+
+import javax.swing.LookAndFeel;
+import javax.swing.UIManager;
+
+/**
+ * Whose a class is, and what people call it. What is not the toolkit's is the program's, and may do anything when it is
+ * called: so nothing here calls anything of the classes and objects that it is asked about. For any thread.
+ */
+public final class Code {
+    /** What the VM calls the class of a lambda or method reference: the name of the class that it stands in first. */
+    private static final Pattern LAMBDA = Pattern.compile("(.+?)\\$\\$Lambda.*");
+    private static final Pattern NESTED = Pattern.compile("\\$(?=[^0-9$])");
+
+    private static final ClassLoader PLATFORM = platformLoader();
+
+    private Code() {
+    }
+
+    private static ClassLoader platformLoader() {
+        ClassLoader loader = ClassLoader.getSystemClassLoader();
+        while (loader.getParent() != null) {
+            loader = loader.getParent();
+        }
+        return loader;
+    }
+
+    /** Whether a class is the JDK's. The inspector's own are nobody's business, and count as its, too. */
+    public static boolean isToolkit(Class<?> type) {
+        ClassLoader loader = type.getClassLoader();
+        return (loader == null || loader == PLATFORM) && !Proxy.isProxyClass(type);
+    }
+
+    /** Whether a class is the JDK's or belongs to the look and feel, wherever that comes from. */
+    public static boolean isMachinery(Class<?> type) {
+        if (isToolkit(type)) {
+            return true;
+        }
+        LookAndFeel look = UIManager.getLookAndFeel();
+        return look != null && !isToolkit(look.getClass()) && isBeside(type, look.getClass());
+    }
+
+    private static boolean isBeside(Class<?> type, Class<?> look) {
+        String folder = look.getName().substring(0, look.getName().lastIndexOf('.') + 1);
+        return !folder.isEmpty() && type.getName().startsWith(folder);
+    }
+
+    /** The class of the toolkit that a class of the program extends; the class itself if it is the toolkit's. */
+    public static Class<?> toolkitClass(Class<?> type) {
+        Class<?> at = type;
+        while (!isToolkit(at)) {
+            at = at.getSuperclass();
+        }
+        return at;
+    }
+
+    /**
+     * The program's class that has the say when a public or protected method is called, or null where that is the
+     * toolkit's. A class whose methods cannot be listed, because it mentions others that are not there, has it, too.
+     */
+    public static Class<?> overrider(Class<?> type, String method, Class<?>... parameters) {
+        for (Class<?> at = type; at != null && !isToolkit(at); at = at.getSuperclass()) {
+            try {
+                at.getDeclaredMethod(method, parameters);
+                return at;
+            } catch (NoSuchMethodException e) {
+                // The next one up, then.
+            } catch (LinkageError e) {
+                return at;
+            }
+        }
+        return null;
+    }
+
+    /**
+     * The program's class that overrides one of the getters that the toolkit computes with, or null. Whoever asks such
+     * an object for its size may be asking the program for anything.
+     */
+    static Class<?> getterOverrider(Class<?> type) {
+        Class<?> toolkit = toolkitClass(type);
+        for (Class<?> at = type; at != toolkit; at = at.getSuperclass()) {
+            try {
+                for (Method method : at.getDeclaredMethods()) {
+                    if (isGetter(method) && has(toolkit, method)) {
+                        return at;
+                    }
+                }
+            } catch (LinkageError e) {
+                return at;
+            }
+        }
+        return null;
+    }
+
+    private static boolean has(Class<?> toolkit, Method method) {
+        for (Class<?> at = toolkit; at != null; at = at.getSuperclass()) {
+            try {
+                return !Modifier.isPrivate(at.getDeclaredMethod(method.getName(), method.getParameterTypes())
+                        .getModifiers());
+            } catch (NoSuchMethodException e) {
+                // The next one up, then.
+            }
+        }
+        return false;
+    }
+
+    private static boolean isGetter(Method method) {
+        return (method.getName().startsWith("get") || method.getName().startsWith("is"))
+                && !Modifier.isStatic(method.getModifiers());
+    }
+
+    /** A class as people say it: without its package, and without the classes around it where it has a name. */
+    public static String shortName(Class<?> type) {
+        if (type.isArray()) {
+            return shortName(type.getComponentType()) + "[]";
+        }
+        String name = type.getName();
+        Matcher lambda = LAMBDA.matcher(name);
+        if (lambda.matches()) {
+            return "lambda in " + withoutPackage(lambda.group(1));
+        }
+        String[] parts = NESTED.split(withoutPackage(name));
+        return parts[parts.length - 1];
+    }
+
+    /** The class that a class stands in, by its full name: for a lambda the one around it, otherwise itself. */
+    public static String enclosingName(Class<?> type) {
+        Matcher lambda = LAMBDA.matcher(type.getName());
+        return lambda.matches() ? lambda.group(1) : type.getName();
+    }
+
+    /** A class with the ones around it but without its package. */
+    static String withoutPackage(String name) {
+        // A hidden class has a slash and a number after its name.
+        int end = name.indexOf('/') < 0 ? name.length() : name.indexOf('/');
+        return name.substring(name.lastIndexOf('.', end - 1) + 1, end);
+    }
+
+    /** A component in a few words, class and name, and no call into the program: its name only if that is not one. */
+    public static String describe(Component component) {
+        String name = name(component);
+        return shortName(component.getClass()) + (name == null ? "" : " \"" + name + "\"");
+    }
+
+    /** The name of a component; null where it has none, or where the program has the say over it. */
+    public static String name(Component component) {
+        try {
+            return overrider(component.getClass(), "getName") == null ? component.getName() : null;
+        } catch (RuntimeException e) {
+            return null;
+        }
+    }
+}

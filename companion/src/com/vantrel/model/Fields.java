@@ -1,0 +1,70 @@
+package com.vantrel.model;
+
+import java.awt.Component;
+import java.lang.reflect.Field;
+
+/**
+ * A field of the toolkit's, for what a program's class answers in its own way when it is asked by method. Reading it
+ * runs nothing. Whether it can be read is the VM's business: its module may not be open to us, or the field not be
+ * there; who asks says what holds then.
+ */
+final class Fields {
+    static final Fields NAME = new Fields(Component.class, "name");
+    static final Fields NAME_IS_SET = new Fields(Component.class, "nameExplicitlySet");
+    static final Fields PARENT = new Fields(Component.class, "parent");
+    static final Fields VISIBLE = new Fields(Component.class, "visible");
+    static final Fields ENABLED = new Fields(Component.class, "enabled");
+    static final Fields X = new Fields(Component.class, "x");
+    static final Fields Y = new Fields(Component.class, "y");
+    static final Fields WIDTH = new Fields(Component.class, "width");
+    static final Fields HEIGHT = new Fields(Component.class, "height");
+    static final Fields CHILDREN = new Fields(java.awt.Container.class, "component");
+    static final Fields LABEL_TEXT = new Fields(javax.swing.JLabel.class, "text");
+    static final Fields BUTTON_TEXT = new Fields(javax.swing.AbstractButton.class, "text");
+    static final Fields FRAME_TITLE = new Fields(java.awt.Frame.class, "title");
+    static final Fields DIALOG_TITLE = new Fields(java.awt.Dialog.class, "title");
+    static final Fields INTERNAL_TITLE = new Fields(javax.swing.JInternalFrame.class, "title");
+    static final Fields ACCESSIBLE = new Fields(Component.class, "accessibleContext");
+    static final Fields ACCESSIBLE_NAME = new Fields(javax.accessibility.AccessibleContext.class, "accessibleName");
+
+    private final Class<?> owner;
+    private final String name;
+    private Field field;
+    private int tries;
+
+    private Fields(Class<?> owner, String name) {
+        this.owner = owner;
+        this.name = name;
+    }
+
+    /** The value in an object; a fallback where the field cannot be read. */
+    synchronized Object of(Object object, Object fallback) {
+        if (field == null && !open()) {
+            return fallback;
+        }
+        try {
+            return field.get(object);
+        } catch (IllegalAccessException | RuntimeException e) {
+            return fallback;
+        }
+    }
+
+    boolean isReadable() {
+        return field != null || open();
+    }
+
+    /** The toolkit's packages may be opened to us only after somebody has asked, so that this tries again. */
+    private synchronized boolean open() {
+        if (field == null && tries < 3) {
+            tries++;
+            try {
+                Field found = owner.getDeclaredField(name);
+                found.setAccessible(true);
+                field = found;
+            } catch (NoSuchFieldException | RuntimeException e) {
+                // Not this time; newer VMs throw a RuntimeException of their own for what is not open.
+            }
+        }
+        return field != null;
+    }
+}

@@ -1,0 +1,67 @@
+package com.vantrel.model;
+
+import java.awt.Component;
+import java.lang.reflect.Field;
+import java.util.List;
+
+import javax.swing.GroupLayout;
+
+/**
+ * The groups of a GroupLayout, which it keeps to itself: read where the toolkit's module is open to us. For the event
+ * thread.
+ */
+final class Groups {
+    private static final Field HORIZONTAL = Members.field(GroupLayout.class, "horizontalGroup");
+    private static final Field VERTICAL = Members.field(GroupLayout.class, "verticalGroup");
+
+    private Groups() {
+    }
+
+    /** A line for each direction: what stands in brackets comes after each other, what stands in braces side by side. */
+    static void describe(List<Row> rows, String group, GroupLayout layout) throws Throwable {
+        if (HORIZONTAL == null || VERTICAL == null) {
+            rows.add(Row.of(group, "groups", "not seen").kind(Row.Kind.DIM)
+                    .explanation("GroupLayout keeps its groups to itself in this Java VM."));
+        } else {
+            String how = "What stands in [ ] comes one after the other, what stands in { } in the same place.";
+            rows.add(Row.of(group, "horizontally", text(HORIZONTAL.get(layout))).explanation(how));
+            rows.add(Row.of(group, "vertically", text(VERTICAL.get(layout))).explanation(how));
+        }
+        rows.add(Row.of(group, "automatic gaps", layout.getAutoCreateGaps() + " between, "
+                + layout.getAutoCreateContainerGaps() + " around"));
+    }
+
+    private static String text(Object spring) throws Throwable {
+        StringBuilder text = new StringBuilder();
+        write(text, spring);
+        return Values.cut(text.toString());
+    }
+
+    private static void write(StringBuilder text, Object spring) throws Throwable {
+        Field springs = field(spring, "springs");
+        if (springs != null) {
+            boolean sequential = spring instanceof GroupLayout.SequentialGroup;
+            text.append(sequential ? '[' : '{');
+            String separator = "";
+            for (Object part : (List<?>) springs.get(spring)) {
+                text.append(separator);
+                write(text, part);
+                separator = ", ";
+            }
+            text.append(sequential ? ']' : '}');
+            return;
+        }
+        Field component = field(spring, "component");
+        text.append(component == null ? "gap" : Code.describe((Component) component.get(spring)));
+    }
+
+    private static Field field(Object spring, String name) {
+        for (Class<?> at = spring.getClass(); at != null; at = at.getSuperclass()) {
+            Field field = Members.field(at, name);
+            if (field != null) {
+                return field;
+            }
+        }
+        return null;
+    }
+}

@@ -1,0 +1,37 @@
+package com.vantrel.model;
+
+import java.awt.Component;
+import java.awt.LayoutManager;
+
+/**
+ * Layout managers of the library MigLayout, which is the program's if it is there at all: reached by the names of its
+ * public methods. For the event thread.
+ */
+final class MigLayouts {
+    private MigLayouts() {
+    }
+
+    /** Whether a manager is one, and not a class of the program's that extends it. */
+    static boolean isOne(LayoutManager layout) {
+        return layout.getClass().getName().equals("net.miginfocom.swing.MigLayout");
+    }
+
+    /** The constraints of a component, as the program gave them: a text, or an object of the library's. */
+    static Object constraints(LayoutManager layout, Component component) throws Throwable {
+        return Members.call(layout.getClass().getMethod("getComponentConstraints", Component.class), layout, component);
+    }
+
+    static void setConstraints(LayoutManager layout, Component component, Object constraints) throws Throwable {
+        Members.call(layout.getClass().getMethod("setComponentConstraints", Component.class, Object.class), layout,
+                component, constraints);
+    }
+
+    /**
+     * What the layout as a whole, its columns or its rows were told.
+     *
+     * @param what "Layout", "Column" or "Row"
+     */
+    static Object ofAll(LayoutManager layout, String what) throws Throwable {
+        return Members.call(layout.getClass().getMethod("get" + what + "Constraints"), layout);
+    }
+}

@@ -1,0 +1,349 @@
+package com.vantrel.model;
+
+import java.awt.Color;
+import java.awt.Component;
+import java.awt.Dimension;
+import java.awt.Insets;
+import java.awt.Rectangle;
+import java.lang.ref.WeakReference;
+import java.util.ArrayList;
+import java.util.Collections;
+import java.util.HashMap;
+import java.util.HashSet;
+import java.util.LinkedHashMap;
+import java.util.List;
+import java.util.Map;
+import java.util.Objects;
+import java.util.Set;
+import java.util.WeakHashMap;
+
+import javax.swing.JComponent;
+
+/**
+ * The properties of one component or cell as they are now, read again and again. Holds the component weakly, and of its
+ * values only what is written of them. Belongs to the event thread, which it never holds for long: a getter that takes
+ * its time is asked once, and from then on only when the user asks.
+ */
+public final class Reading {
+    /** What reading may take each time before the rest waits for the next time; half of what anybody feels. */
+    private static final long MOST_NANOS = 40_000_000;
+
+    /** A getter that takes longer is not asked again unasked, for the JDK's own take a thousandth of it. */
+    private static final long SLOW_NANOS = 50_000_000;
+
+    /** By class, the properties that took long, or the renderer. Outlives the selection, so that each is met once. */
+    private static final Map<Class<?>, Set<String>> SLOW = new WeakHashMap<>();
+    private static final String RENDERER = "renderer";
+
+    /** One property, and the line that was made of it last. */
+    private static final class Slot {
+        final Property property;
+        Row row;
+        boolean slow;
+        /** Whether it has neither been read nor been found to be one that is not read unasked. */
+        boolean untouched = true;
+        /** What the note was made for: finding where a value comes from takes longer than reading it. */
+        WeakReference<Object> notedValue = new WeakReference<>(null);
+        Boolean notedSet;
+        String note = "";
+
+        Slot(Property property) {
+            this.property = property;
+            row = Row.of(property.group(), property.name(), "\u2026").kind(Row.Kind.DIM);
+        }
+    }
+
+    private final Target target;
+    private final List<Slot> slots = new ArrayList<>();
+    private final Map<String, Slot> clientProperties = new LinkedHashMap<>();
+    private final Map<String, Object> plainValues = new HashMap<>();
+    /** What the slots are for. A cell may be painted by another component each time. */
+    private Class<?> shape;
+    private int next;
+    private boolean askedForCell;
+
+    public Reading(Target target) {
+        this.target = target;
+    }
+
+    public Target target() {
+        return target;
+    }
+
+    /** The lines as they were read last, in a lasting order. */
+    public List<Row> rows() {
+        List<Row> rows = new ArrayList<>();
+        boolean client = false;
+        for (Slot slot : slots) {
+            // The client properties are not the class's, and stand before what the class adds.
+            if (!client && slot.property.group().startsWith("Of ")) {
+                addClientProperties(rows);
+                client = true;
+            }
+            rows.add(slot.row);
+        }
+        if (!client) {
+            addClientProperties(rows);
+        }
+        return rows;
+    }
+
+    private void addClientProperties(List<Row> rows) {
+        for (Slot slot : clientProperties.values()) {
+            rows.add(slot.row);
+        }
+    }
+
+    /** The line of a property of the groups that all components have; null if there is none. */
+    public Row row(String name) {
+        for (Slot slot : slots) {
+            if (slot.property.name().equals(name) && !slot.property.group().startsWith("Of ")) {
+                return slot.row;
+            }
+        }
+        return null;
+    }
+
+    /** The value of a size, rectangle, insets or number, as it was read last; null if it was not. */
+    public Object plainValue(String name) {
+        return plainValues.get(name);
+    }
+
+    /**
+     * Reads what may be read unasked, for a few dozen milliseconds at most unless something takes long by itself; goes
+     * on the next time where it ended.
+     *
+     * @return whether the component is still there
+     */
+    public boolean refresh() {
+        Component component = component();
+        if (component == null) {
+            return target.component() != null;
+        }
+        if (shape != component.getClass()) {
+            shape(component);
+        }
+        long end = System.nanoTime() + MOST_NANOS;
+        for (int done = 0; done < slots.size() && System.nanoTime() < end; done++) {
+            next = (next + 1) % slots.size();
+            Slot slot = slots.get(next);
+            if (slot.property.askedBecause() == null && !slot.slow) {
+                read(slot, component, false);
+            } else if (slot.untouched) {
+                slot.untouched = false;
+                slot.row = unread(slot);
+            }
+        }
+        if (component instanceof JComponent) {
+            readClientProperties((JComponent) component);
+        }
+        return true;
+    }
+
+    /** Reads one property, because the user asks for it. */
+    public void ask(Row row) {
+        askedForCell = true;
+        Component component = component();
+        for (Slot slot : slots) {
+            if (component != null && slot.property == row.property()) {
+                read(slot, component, true);
+            }
+        }
+        askedForCell = false;
+    }
+
+    /** The lines that wait to be asked for, one by one, so that the program can go on between them. */
+    public List<Row> unasked() {
+        List<Row> unasked = new ArrayList<>();
+        for (Slot slot : slots) {
+            if (slot.row.kind() == Row.Kind.ASK) {
+                unasked.add(slot.row);
+            }
+        }
+        return unasked;
+    }
+
+    /** What is read: the component, or the one that paints the cell, which is not to be held. */
+    private Component component() {
+        Component owner = target.component();
+        if (!target.isCell() || owner == null) {
+            return owner;
+        }
+        if (!askedForCell && slow(owner.getClass()).contains(RENDERER)) {
+            return null;
+        }
+        long start = System.nanoTime();
+        Component prepared = Cells.prepare(target);
+        if (System.nanoTime() - start > SLOW_NANOS) {
+            markSlow(owner.getClass(), RENDERER);
+        }
+        return prepared;
+    }
+
+    private void shape(Component component) {
+        shape = component.getClass();
+        slots.clear();
+        next = -1;
+        Set<String> slow = slow(shape);
+        for (Property property : Catalog.of(component)) {
+            Slot slot = new Slot(property);
+            slot.slow = slow.contains(property.name());
+            slots.add(slot);
+        }
+    }
+
+    private static Set<String> slow(Class<?> type) {
+        Set<String> slow = SLOW.get(type);
+        return slow == null ? Collections.<String>emptySet() : slow;
+    }
+
+    private static void markSlow(Class<?> type, String name) {
+        SLOW.computeIfAbsent(type, key -> new HashSet<>()).add(name);
+    }
+
+    private void read(Slot slot, Component component, boolean asked) {
+        Property property = slot.property;
+        long start = System.nanoTime();
+        Row row;
+        try {
+            Object value = property.read(component);
+            keepPlain(property.name(), value);
+            row = row(slot, component, value);
+        } catch (Throwable thrown) {
+            row = Row.of(property.group(), property.name(), Values.error(thrown)).kind(Row.Kind.ERROR)
+                    .type(property.type().getName()).property(property);
+        }
+        long nanos = System.nanoTime() - start;
+        if (nanos > SLOW_NANOS) {
+            slot.slow = true;
+            markSlow(component.getClass(), property.name());
+        }
+        if (asked || slot.slow) {
+            String took = nanos > SLOW_NANOS ? "took " + nanos / 1_000_000 + " ms" : "read once";
+            row.note(took).explanation("It is read only when you ask: Enter reads it again.");
+        }
+        slot.row = row;
+        slot.untouched = false;
+    }
+
+    private Row row(Slot slot, Component component, Object value) {
+        Property property = slot.property;
+        Row row = Row.of(property.group(), property.name(), Values.text(value));
+        row.type(value == null ? property.type().getName() : value.getClass().getName());
+        boolean whole = !(value instanceof String) || ((String) value).length() <= Values.LONGEST;
+        if (whole && !target.isCell()) {
+            row.property(property);
+        }
+        if (value == null) {
+            row.kind(Row.Kind.DIM);
+        } else if (value instanceof Color) {
+            row.swatch(new Color(((Color) value).getRGB(), true));
+        } else if (value instanceof Boolean) {
+            row.check((Boolean) value);
+        }
+        row.programs(isPrograms(value));
+        row.note(note(slot, component, value));
+        if (row.isEditable()) {
+            row.explanation("Enter or F2 edits it: " + property.format().expects() + ".");
+        }
+        return row;
+    }
+
+    private static boolean isPrograms(Object value) {
+        if (value == null) {
+            return false;
+        }
+        return !Code.isMachinery(value instanceof Class ? (Class<?>) value : value.getClass());
+    }
+
+    private String note(Slot slot, Component component, Object value) {
+        String size = sizeNote(slot.property.name(), component);
+        if (size != null) {
+            return size;
+        }
+        if (slot.property.group().equals(Catalog.IDENTITY) || slot.property.group().equals(Catalog.GEOMETRY)) {
+            return "";
+        }
+        Boolean set = Origin.isSet(component, slot.property.name());
+        if (slot.notedValue.get() != value || !Objects.equals(slot.notedSet, set)) {
+            slot.note = Origin.of(component, slot.property.name(), value);
+            slot.notedValue = new WeakReference<>(value);
+            slot.notedSet = set;
+        }
+        return slot.note;
+    }
+
+    private static String sizeNote(String property, Component component) {
+        switch (property) {
+        case "minimumSize":
+            return component.isMinimumSizeSet() ? "set" : "computed";
+        case "preferredSize":
+            return component.isPreferredSizeSet() ? "set" : "computed";
+        case "maximumSize":
+            return component.isMaximumSizeSet() ? "set" : "computed";
+        default:
+            return null;
+        }
+    }
+
+    private Row unread(Slot slot) {
+        Property property = slot.property;
+        String why = slot.slow ? "It took long when it was read last." : property.askedBecause();
+        return Row.of(property.group(), property.name(), "read").kind(Row.Kind.ASK).type(property.type().getName())
+                .property(property).note(slot.slow ? "slow" : "on demand").explanation(why + " Enter reads it.");
+    }
+
+    private void keepPlain(String name, Object value) {
+        if (value instanceof Dimension) {
+            plainValues.put(name, new Dimension((Dimension) value));
+        } else if (value instanceof Rectangle) {
+            plainValues.put(name, new Rectangle((Rectangle) value));
+        } else if (value instanceof Insets) {
+            plainValues.put(name, ((Insets) value).clone());
+        } else if (value instanceof Integer) {
+            plainValues.put(name, value);
+        } else {
+            plainValues.remove(name);
+        }
+    }
+
+    /** Their keys come and go, so that each has to be looked for each time. */
+    private void readClientProperties(JComponent component) {
+        Map<String, Slot> now = new LinkedHashMap<>();
+        try {
+            for (Object key : ClientProperties.keys(component)) {
+                String name = Values.text(key);
+                Slot slot = clientProperties.get(name);
+                Object value = component.getClientProperty(key);
+                if (slot == null || slot.property.type() != (value == null ? Object.class : value.getClass())) {
+                    slot = new Slot(clientProperty(key, name, value));
+                }
+                slot.row = row(slot, component, value);
+                now.put(name, slot);
+            }
+        } catch (Throwable thrown) {
+            Slot failed = new Slot(new Property(Catalog.CLIENT_PROPERTIES, "keys", Object.class, on -> null));
+            failed.row = Row.of(Catalog.CLIENT_PROPERTIES, "keys", Values.error(thrown)).kind(Row.Kind.ERROR);
+            now.put("keys", failed);
+        }
+        clientProperties.clear();
+        clientProperties.putAll(now);
+        if (!ClientProperties.areAllSeen()) {
+            Slot more = new Slot(new Property(Catalog.CLIENT_PROPERTIES, "others", Object.class, on -> null));
+            more.row = Row.of(Catalog.CLIENT_PROPERTIES, "others", "not seen").kind(Row.Kind.DIM)
+                    .explanation("This Java VM shows client properties only to those who know the key.");
+            clientProperties.put("others", more);
+        }
+    }
+
+    private static Property clientProperty(Object key, String name, Object value) {
+        Class<?> type = value == null ? Object.class : value.getClass();
+        // A key that is an object of the program's is not to be held.
+        if (!(key instanceof String)) {
+            return new Property(Catalog.CLIENT_PROPERTIES, name, type, on -> null);
+        }
+        Property property = new Property(Catalog.CLIENT_PROPERTIES, name, type,
+                on -> ((JComponent) on).getClientProperty(key));
+        return property.settable((on, to) -> ((JComponent) on).putClientProperty(key, to), Formats.of(type));
+    }
+}

@@ -1,0 +1,97 @@
+package com.vantrel.model;
+
+import java.util.ArrayList;
+import java.util.Collections;
+import java.util.List;
+
+/**
+ * A search in the tree, in pieces short enough for an event thread: whoever started it has it work until it is done,
+ * and starts it over when the program has changed. What it found stays shown meanwhile. For the event thread.
+ */
+public final class TreeSearch {
+    /** How many components are looked at between two looks at the clock. */
+    private static final int AT_ONCE = 64;
+
+    private final ComponentTree tree;
+    private Calls calls = new Calls();
+    private Query query = Query.parse("", calls);
+    private List<TreeNode> open = Collections.emptyList();
+    private int next;
+    private List<TreeNode> finds = new ArrayList<>();
+    private int found;
+
+    public TreeSearch(ComponentTree tree) {
+        this.tree = tree;
+    }
+
+    /** Begins to search for what was typed; for nothing, shows everything again. */
+    public void start(String typed) {
+        query = Query.parse(typed, calls);
+        startOver();
+        if (query.isEmpty()) {
+            found = 0;
+            tree.showOnly(null);
+        }
+    }
+
+    /** Searches again for the same: the program has changed. */
+    public void startOver() {
+        open = query.isEmpty() ? Collections.emptyList() : tree.all();
+        next = 0;
+        finds = new ArrayList<>();
+    }
+
+    public boolean isOn() {
+        return !query.isEmpty();
+    }
+
+    public boolean isWorking() {
+        return next < open.size();
+    }
+
+    /** Goes on for a while, in nanoseconds. Returns whether the rows are others now. */
+    public boolean work(long duration) {
+        long end = System.nanoTime() + duration;
+        while (isWorking()) {
+            int until = Math.min(open.size(), next + AT_ONCE);
+            for (; next < until; next++) {
+                TreeNode node = open.get(next);
+                if (query.finds(node)) {
+                    finds.add(node);
+                }
+            }
+            if (!isWorking()) {
+                open = Collections.emptyList();
+                next = 0;
+                found = finds.size();
+                tree.showOnly(finds);
+                return true;
+            }
+            if (System.nanoTime() - end > 0) {
+                return false;
+            }
+        }
+        return false;
+    }
+
+    /** How many components the last search found. */
+    public int found() {
+        return found;
+    }
+
+    /** How much of the search is done, in percent. */
+    public int percent() {
+        return open.isEmpty() ? 100 : (int) (100L * next / open.size());
+    }
+
+    public Query query() {
+        return query;
+    }
+
+    /** Forgets everything: the window is being closed. */
+    public void clear() {
+        calls = new Calls();
+        start("");
+        finds = new ArrayList<>();
+    }
+}

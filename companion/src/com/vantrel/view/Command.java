@@ -1,0 +1,59 @@
+package com.vantrel.view;
+
+import java.awt.event.ActionEvent;
+import java.util.function.BooleanSupplier;
+
+import javax.swing.AbstractAction;
+import javax.swing.Action;
+import javax.swing.JComponent;
+import javax.swing.KeyStroke;
+
+/** Something that the inspector does when it is told: by a button, a menu or a key. */
+final class Command extends AbstractAction {
+    private static final long serialVersionUID = 1L;
+
+    private final transient Runnable task;
+    private final transient BooleanSupplier possible;
+
+    /**
+     * @param name     as menus have it
+     * @param key      as {@link KeyStroke#getKeyStroke(String)} takes it; null for none
+     * @param purpose  what it does, in a sentence without its full stop, for the tooltip
+     * @param possible whether there is anything to do now
+     */
+    Command(String name, String key, String purpose, BooleanSupplier possible, Runnable task) {
+        super(name);
+        this.task = task;
+        this.possible = possible;
+        KeyStroke stroke = key == null ? null : KeyStroke.getKeyStroke(key);
+        putValue(ACCELERATOR_KEY, stroke);
+        putValue(SHORT_DESCRIPTION, stroke == null ? purpose : purpose + " (" + keyText(stroke) + ")");
+    }
+
+    static String keyText(KeyStroke stroke) {
+        String modifiers = java.awt.event.InputEvent.getModifiersExText(stroke.getModifiers());
+        return (modifiers.isEmpty() ? "" : modifiers + "+") + java.awt.event.KeyEvent.getKeyText(stroke.getKeyCode());
+    }
+
+    /** Takes its key anywhere in the window. */
+    Command in(JComponent root) {
+        KeyStroke stroke = (KeyStroke) getValue(ACCELERATOR_KEY);
+        if (stroke != null) {
+            root.getInputMap(JComponent.WHEN_ANCESTOR_OF_FOCUSED_COMPONENT).put(stroke, getValue(Action.NAME));
+            root.getActionMap().put(getValue(Action.NAME), this);
+        }
+        return this;
+    }
+
+    /** Looks again whether there is anything to do. */
+    void update() {
+        setEnabled(possible.getAsBoolean());
+    }
+
+    @Override
+    public void actionPerformed(ActionEvent event) {
+        if (possible.getAsBoolean()) {
+            task.run();
+        }
+    }
+}

@@ -1,0 +1,43 @@
+package com.vantrel.view;
+
+import java.awt.Color;
+import java.awt.Graphics;
+
+import javax.swing.BorderFactory;
+import javax.swing.JComponent;
+import javax.swing.JSplitPane;
+import javax.swing.plaf.basic.BasicSplitPaneDivider;
+import javax.swing.plaf.basic.BasicSplitPaneUI;
+
+/** Two parts side by side with a thin line between them that can be dragged. The same under every look and feel. */
+final class Split extends JSplitPane {
+    private static final long serialVersionUID = 1L;
+    private static final int DIVIDER = 5;
+
+    Split(JComponent left, JComponent right) {
+        super(HORIZONTAL_SPLIT, true, left, right);
+    }
+
+    @Override
+    public void updateUI() {
+        setUI(new BasicSplitPaneUI() {
+            @Override
+            public BasicSplitPaneDivider createDefaultDivider() {
+                return new BasicSplitPaneDivider(this) {
+                    private static final long serialVersionUID = 1L;
+
+                    @Override
+                    public void paint(Graphics g) {
+                        Color line = Look.line();
+                        g.setColor(Look.background());
+                        g.fillRect(0, 0, getWidth(), getHeight());
+                        g.setColor(line);
+                        g.fillRect(getWidth() / 2, 0, 1, getHeight());
+                    }
+                };
+            }
+        });
+        setDividerSize(DIVIDER);
+        setBorder(BorderFactory.createEmptyBorder());
+    }
+}

@@ -1,0 +1,268 @@
+package com.vantrel.view;
+
+import java.awt.BorderLayout;
+import java.awt.CardLayout;
+import java.awt.Component;
+import java.util.List;
+import java.util.concurrent.TimeUnit;
+
+import javax.swing.BorderFactory;
+import javax.swing.JPanel;
+import javax.swing.JScrollPane;
+import javax.swing.JTextField;
+import javax.swing.SwingUtilities;
+import javax.swing.Timer;
+
+import com.vantrel.model.ComponentTree;
+import com.vantrel.model.ProgramWindows;
+import com.vantrel.model.Selection;
+import com.vantrel.model.TreeNode;
+import com.vantrel.model.TreeSearch;
+
+/** The tree of the program's components with its search, kept up to date while it is shown. */
+final class TreePane extends JPanel {
+    private static final long serialVersionUID = 1L;
+
+    /** How often it looks at the program: what changes is seen within half a second, twice this and what it takes. */
+    private static final int MILLIS_BETWEEN_LOOKS = 200;
+    /** It takes no more than this share of the event thread, so that it looks less often at a very large program. */
+    private static final int MOST_SHARE = 8;
+    private static final int MOST_MILLIS_BETWEEN_LOOKS = 2000;
+    /** How long a search may hold the event thread at a time. */
+    private static final long PIECE = TimeUnit.MILLISECONDS.toNanos(40);
+    /** A search that takes longer shows how far it is. */
+    private static final long LONG_SEARCH = TimeUnit.MILLISECONDS.toNanos(500);
+
+    private static final String ROWS = "rows";
+    private static final String STATE = "state";
+
+    private final transient Selection selection;
+    private final transient ComponentTree tree = new ComponentTree(ProgramWindows::withoutOwner);
+    private final transient TreeSearch search = new TreeSearch(tree);
+    private final TreeView view = new TreeView(tree, search);
+    private final SearchBar bar = new SearchBar(this::searchChanged);
+    private final StatePanel state = new StatePanel();
+    private final CardLayout cards = new CardLayout();
+    private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> look());
+    private final Timer pieces = new Timer(0, event -> goOnSearching());
+    private long searchStarted;
+    private long searchTook;
+    private boolean goToFirst;
+    private boolean isReady;
+    private transient Runnable onLook = () -> { };
+
+    TreePane(Selection selection) {
+        this.selection = selection;
+        setLayout(cards);
+        JScrollPane scroll = new JScrollPane(view);
+        scroll.setBorder(BorderFactory.createEmptyBorder());
+        scroll.getVerticalScrollBar().setUnitIncrement(3 * TreeRowPainter.height());
+        scroll.getHorizontalScrollBar().setUnitIncrement(20);
+        scroll.getViewport().addChangeListener(event -> view.lookAgain());
+        scroll.getViewport().setBackground(Look.paper());
+        add(scroll, ROWS);
+        JPanel states = new JPanel(new BorderLayout());
+        states.add(state);
+        add(states, STATE);
+        state.show(ToolIcon.SEARCH, "Looking at the program\u2026");
+        cards.show(this, STATE);
+
+        view.onSelect(node -> selection.select(node.component()));
+        view.addPropertyChangeListener("typed", event -> typeInSearch((String) event.getNewValue()));
+        selection.onChange(this::showSelected);
+        bar.onKey("ENTER", () -> step(1));
+        bar.onKey("shift ENTER", () -> step(-1));
+        bar.onKey("ESCAPE", this::endSearch);
+        bar.onKey("DOWN", view::requestFocusInWindow);
+        looks.setInitialDelay(0);
+        looks.setCoalesce(true);
+    }
+
+    TreeView view() {
+        return view;
+    }
+
+    SearchBar searchBar() {
+        return bar;
+    }
+
+    ComponentTree tree() {
+        return tree;
+    }
+
+    /** What to do whenever the program has been looked at. */
+    void onLook(Runnable task) {
+        onLook = task;
+    }
+
+    /** Whether it has looked at the program at all. */
+    boolean isReady() {
+        return isReady;
+    }
+
+    void start() {
+        looks.start();
+    }
+
+    void stop() {
+        looks.stop();
+        pieces.stop();
+    }
+
+    /** Forgets everything: the window is being closed. */
+    void clear() {
+        stop();
+        search.clear();
+        tree.clear();
+        view.clear();
+    }
+
+    private void look() {
+        long start = System.nanoTime();
+        boolean changed = tree.refresh();
+        if (!isReady) {
+            isReady = true;
+            showSelected(); // somebody may have selected it before the tree was there
+        } else if (changed) {
+            showRows(false);
+        }
+        if (search.isOn() && !search.isWorking()) {
+            search.startOver(); // what was found may be found no more, and the other way round
+            pieces.start();
+        }
+        view.lookAgain();
+        showState();
+        onLook.run();
+        int took = (int) TimeUnit.NANOSECONDS.toMillis(System.nanoTime() - start + searchTook);
+        searchTook = 0;
+        looks.setDelay(Math.max(MILLIS_BETWEEN_LOOKS, Math.min(MOST_SHARE * took, MOST_MILLIS_BETWEEN_LOOKS)));
+    }
+
+    /** Shows the rows as they are now; the selected component's too, where it has only just got a row. */
+    private void showRows(boolean scroll) {
+        Component component = selection.component();
+        TreeNode node = component == null ? null : tree.nodeOf(component);
+        if (scroll) {
+            view.select(node);
+        } else {
+            view.keep(node);
+        }
+        view.lookAgain();
+    }
+
+    private void showSelected() {
+        Component component = selection.component();
+        TreeNode node = component == null ? null : tree.nodeOf(component);
+        if (component != null && node == null) {
+            tree.refresh(); // it may have come since the last look
+            node = tree.nodeOf(component);
+        }
+        tree.reveal(node);
+        view.select(node);
+        view.lookAgain();
+        tellCount();
+    }
+
+    private void searchChanged() {
+        search.start(bar.field().getText());
+        searchStarted = System.nanoTime();
+        goToFirst = true;
+        if (search.isOn()) {
+            goOnSearching();
+        } else {
+            pieces.stop();
+            showSelected();
+            showState();
+        }
+    }
+
+    private void goOnSearching() {
+        long start = System.nanoTime();
+        boolean done = search.work(PIECE);
+        searchTook += System.nanoTime() - start;
+        if (done) {
+            pieces.stop();
+            Component component = selection.component();
+            TreeNode node = component == null ? null : tree.nodeOf(component);
+            boolean toFirst = goToFirst && (node == null || !node.isMatch());
+            goToFirst = false;
+            view.keep(node);
+            if (toFirst) {
+                view.scrollToFirst();
+            }
+            view.lookAgain();
+            showState();
+        } else {
+            pieces.start();
+        }
+        tellCount();
+    }
+
+    private void tellCount() {
+        if (search.isWorking() && System.nanoTime() - searchStarted > LONG_SEARCH && goToFirst) {
+            bar.tell("searching, " + search.percent() + " %", false);
+        } else if (!search.isOn()) {
+            bar.tell(tree.count() + (tree.count() == 1 ? " component" : " components"), false);
+        } else if (!goToFirst) {
+            bar.tell(search.found() + " of " + tree.count(), search.found() == 0);
+        }
+    }
+
+    private void showState() {
+        tellCount();
+        boolean empty = tree.rows().isEmpty();
+        if (empty && search.isOn()) {
+            state.show(ToolIcon.SEARCH, "Nothing is called \u201c" + bar.field().getText().trim() + "\u201d",
+                    "Escape\tshows everything again");
+        } else if (empty) {
+            state.show(ToolIcon.SEARCH, "The program has no windows", "They appear here as soon as there are any.");
+        }
+        cards.show(this, empty ? STATE : ROWS);
+    }
+
+    /** Selects the next component that the search has found, in a direction. */
+    private void step(int direction) {
+        List<TreeNode> rows = tree.rows();
+        int from = view.getSelectedIndex();
+        if (from < 0) {
+            from = direction > 0 ? -1 : 0;
+        }
+        for (int i = 1; i <= rows.size() && search.isOn(); i++) {
+            TreeNode node = rows.get(Math.floorMod(from + direction * i, rows.size()));
+            if (node.isMatch() && node.component() != null) {
+                selection.select(node.component());
+                return;
+            }
+        }
+    }
+
+    private void endSearch() {
+        JTextField field = bar.field();
+        if (field.getText().isEmpty()) {
+            view.requestFocusInWindow();
+        } else {
+            field.setText("");
+        }
+    }
+
+    private void typeInSearch(String text) {
+        bar.field().setText(bar.field().getText() + text);
+        bar.field().requestFocusInWindow();
+        SwingUtilities.invokeLater(() -> bar.field().setCaretPosition(bar.field().getText().length()));
+    }
+
+    void showMachinery(boolean show) {
+        tree.showMachinery(show);
+        if (search.isOn()) {
+            search.startOver();
+            pieces.start();
+        }
+        showRows(true);
+        showState();
+    }
+
+    void setAllExpanded(boolean expanded) {
+        tree.setAllExpanded(expanded);
+        showRows(true);
+    }
+}

@@ -1,0 +1,50 @@
+package scenario;
+
+import java.awt.Component;
+import java.awt.Container;
+import java.awt.Window;
+
+/** What there is, as the program itself sees it: a line for each component, two spaces deeper than its parent's. */
+final class Dump {
+    private Dump() {
+    }
+
+    /** All windows with all that is in them, or those of the inspector: simple class, and name where there is one. */
+    static String windows(boolean inspectors) {
+        StringBuilder text = new StringBuilder();
+        for (Window window : Window.getWindows()) {
+            if (window.getOwner() == null && Scenario.isInspectors(window) == inspectors) {
+                add(text, window, 0);
+            }
+        }
+        return text.toString();
+    }
+
+    private static void add(StringBuilder text, Component component, int depth) {
+        if (component instanceof Window window && !window.isDisplayable()) {
+            return;
+        }
+        String name = component instanceof Odd ? null : component.getName();
+        text.append("  ".repeat(depth)).append(simpleName(component)).append(name == null ? "" : " " + name)
+                .append('\n');
+        if (component instanceof Container container) {
+            for (int child = 0; child < container.getComponentCount(); child++) {
+                add(text, container.getComponent(child), depth + 1);
+            }
+        }
+        if (component instanceof Window window) {
+            for (Window owned : window.getOwnedWindows()) {
+                add(text, owned, depth + 1);
+            }
+        }
+    }
+
+    /** A class's simple name; that of the named class that an anonymous one extends. */
+    private static String simpleName(Component component) {
+        Class<?> type = component.getClass();
+        while (type.isAnonymousClass()) {
+            type = type.getSuperclass();
+        }
+        return type.getSimpleName();
+    }
+}

@@ -1,0 +1,95 @@
+package scenario;
+
+import java.awt.Component;
+import java.awt.Container;
+import java.awt.Rectangle;
+import java.awt.Window;
+import java.util.ArrayList;
+import java.util.List;
+
+import javax.swing.AbstractButton;
+import javax.swing.JLabel;
+import javax.swing.JList;
+import javax.swing.JTable;
+import javax.swing.text.JTextComponent;
+
+/** What the inspector shows, found by the names of its components. */
+final class Inspector {
+    private Inspector() {
+    }
+
+    static Component find(String name) {
+        for (Window window : Window.getWindows()) {
+            Component found = window.isDisplayable() && Scenario.isInspectors(window) ? find(window, name) : null;
+            if (found != null) {
+                return found;
+            }
+        }
+        throw new IllegalArgumentException("the inspector has no component " + name);
+    }
+
+    private static Component find(Component component, String name) {
+        if (name.equals(component.getName())) {
+            return component;
+        }
+        if (component instanceof Container container) {
+            for (Component child : container.getComponents()) {
+                Component found = find(child, name);
+                if (found != null) {
+                    return found;
+                }
+            }
+        }
+        return null;
+    }
+
+    /**
+     * The rows of a list or table, selected ones behind "* ", others behind "- ", cells separated by " | "; the text of
+     * anything that has one; all texts below a panel.
+     */
+    static String describe(String name) {
+        return String.join("\n", lines(find(name)));
+    }
+
+    static List<String> lines(Component component) {
+        List<String> lines = new ArrayList<>();
+        if (component instanceof JList<?> list) {
+            for (int row = 0; row < list.getModel().getSize(); row++) {
+                lines.add((list.isSelectedIndex(row) ? "* " : "- ") + list.getModel().getElementAt(row));
+            }
+        } else if (component instanceof JTable table) {
+            for (int row = 0; row < table.getRowCount(); row++) {
+                StringBuilder line = new StringBuilder(table.isRowSelected(row) ? "* " : "- ");
+                for (int column = 0; column < table.getColumnCount(); column++) {
+                    line.append(column == 0 ? "" : " | ").append(table.getValueAt(row, column));
+                }
+                lines.add(line.toString());
+            }
+        } else if (component instanceof JTextComponent text) {
+            lines.add(text.getText());
+        } else if (component instanceof JLabel label) {
+            lines.add(String.valueOf(label.getText()));
+        } else if (component instanceof AbstractButton button) {
+            lines.add(String.valueOf(button.getText()));
+        } else if (component instanceof Container container) {
+            for (Component child : container.getComponents()) {
+                if (child.isVisible()) {
+                    lines.addAll(lines(child));
+                }
+            }
+        }
+        return lines;
+    }
+
+    /** The bounds of the first row, of a list or table, that contains a text. */
+    static Rectangle row(Component view, String text) {
+        List<String> lines = lines(view);
+        for (int row = 0; row < lines.size(); row++) {
+            if (lines.get(row).contains(text)) {
+                return view instanceof JTable table ? table.getCellRect(row, 0, false)
+                        : ((JList<?>) view).getCellBounds(row, row);
+            }
+        }
+        throw new IllegalArgumentException("no row contains " + text + " in " + lines);
+    }
+}

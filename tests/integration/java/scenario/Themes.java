@@ -1,0 +1,93 @@
+package scenario;
+
+import java.util.Iterator;
+import java.util.Map;
+
+import javax.swing.UIDefaults;
+import javax.swing.UIManager;
+import javax.swing.plaf.ColorUIResource;
+import javax.swing.plaf.metal.DefaultMetalTheme;
+import javax.swing.plaf.metal.MetalLookAndFeel;
+
+/** Looks that a program may have beside those of the JDK (which -Dswing.defaultlaf chooses). */
+final class Themes {
+    private Themes() {
+    }
+
+    /**
+     * "dark" is Metal in dark colours. "bare" knows how to paint, but has no colours, fonts or icons: not even a text
+     * field with a text can be made under it. Any other name is a class's.
+     */
+    static void use(String name) throws Exception {
+        switch (name) {
+            case "dark" -> {
+                MetalLookAndFeel.setCurrentTheme(new Dark());
+                UIManager.put("swing.boldMetal", Boolean.FALSE);
+                UIManager.setLookAndFeel(new MetalLookAndFeel());
+            }
+            case "bare" -> UIManager.setLookAndFeel(new Bare());
+            case "" -> { }
+            default -> UIManager.setLookAndFeel(name);
+        }
+    }
+
+    private static final class Dark extends DefaultMetalTheme {
+        @Override
+        protected ColorUIResource getPrimary1() {
+            return new ColorUIResource(0x8FA8C8);
+        }
+
+        @Override
+        protected ColorUIResource getPrimary2() {
+            return new ColorUIResource(0x3F5F86);
+        }
+
+        @Override
+        protected ColorUIResource getPrimary3() {
+            return new ColorUIResource(0x2F4A6B);
+        }
+
+        @Override
+        protected ColorUIResource getSecondary1() {
+            return new ColorUIResource(0x5C6066);
+        }
+
+        @Override
+        protected ColorUIResource getSecondary2() {
+            return new ColorUIResource(0x45484D);
+        }
+
+        @Override
+        protected ColorUIResource getSecondary3() {
+            return new ColorUIResource(0x2B2D30);
+        }
+
+        @Override
+        protected ColorUIResource getBlack() {
+            return new ColorUIResource(0xD8DADD);
+        }
+
+        @Override
+        protected ColorUIResource getWhite() {
+            return new ColorUIResource(0x1E1F22);
+        }
+    }
+
+    private static final class Bare extends MetalLookAndFeel {
+        @Override
+        public UIDefaults getDefaults() {
+            UIDefaults all = super.getDefaults();
+            for (Iterator<Map.Entry<Object, Object>> entries = all.entrySet().iterator(); entries.hasNext();) {
+                if (!String.valueOf(entries.next().getKey()).endsWith("UI")) {
+                    entries.remove();
+                }
+            }
+            return all;
+        }
+
+        @Override
+        public String getName() {
+            return "Bare";
+        }
+    }
+}

@@ -1,0 +1,104 @@
+#include "scenario.h"
+
+#include <fstream>
+#include <sstream>
+#include <thread>
+
+#include "test_folder.h"
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+namespace {
+
+constexpr auto kPollInterval = milliseconds(5);
+const std::string kWindow = "Vantrel";
+
+}  // namespace
+
+void Scenario::start(const Arguments& options) {
+    if (!manager) {
+        manager.emplace(x);
+    }
+    asked_ = 0;
+    std::filesystem::remove(folder.path / "commands");
+    program.emplace(
+        java_under_agent(GetParam(), options + Arguments{"-Duser.home=" + folder.path.string(), "-cp",
+                                                         kTestFolder / "scenario-program.jar", "scenario.Scenario"}),
+        ProcessOptions{.folder = folder.path, .environment = {x.display(), "XDG_CONFIG_HOME="}});
+    ASSERT_TRUE(program->reaches([this] { return x.shows("Scenario"); })) << program->err();
+    EXPECT_TRUE(eventually([this] { return ask("focus") != "none"; }));
+    ask("log");
+}
+
+std::string Scenario::ask(const std::string& command) {
+    const std::string number = std::to_string(++asked_);
+    std::ofstream(folder.path / "commands", std::ios::app) << command << "\n";
+    std::string answer;
+    const auto answered = [&] {
+        const std::string out = program->out();
+        const std::string prefix = number + "| ";
+        const std::string end = number + ".";
+        answer.clear();
+        std::istringstream lines(out);
+        for (std::string line; std::getline(lines, line);) {
+            if (line == end) {
+                return true;
+            }
+            if (line.starts_with(prefix)) {
+                answer += (answer.empty() ? "" : "\n") + line.substr(prefix.size());
+            }
+        }
+        return false;
+    };
+    EXPECT_TRUE(eventually(answered, std::chrono::seconds(30))) << command << ": no answer\n" << program->err();
+    EXPECT_FALSE(answer.starts_with("failed: ")) << command << ": " << answer;
+    return answer;
+}
+
+Place Scenario::where(const std::string& name) {
+    Place place;
+    std::istringstream(ask((name.starts_with("vantrel") ? "inspector-where " : "where ") + name)) >> place.x >>
+        place.y >> place.width >> place.height;
+    return place;
+}
+
+void Scenario::point_at(const Place& place) {
+    keys.point_at(place.x + place.width / 2, place.y + place.height / 2);
+}
+
+void Scenario::click(const Place& place, int button) {
+    point_at(place);
+    keys.click(button);
+}
+
+bool Scenario::inspector_is_open() {
+    return x.shows(kWindow);
+}
+
+void Scenario::open_inspector() {
+    keys.press({XK_Control_L, XK_F12});
+    ASSERT_TRUE(eventually([this] { return inspector_is_open(); })) << program->err();
+}
+
+void Scenario::close_inspector() {
+    keys.press({XK_Control_L, XK_F12});
+    ASSERT_TRUE(eventually([this] { return !inspector_is_open(); })) << program->err();
+}
+
+bool Scenario::eventually(const std::function<bool()>& condition, milliseconds limit) {
+    const auto deadline = steady_clock::now() + limit;
+    while (!condition()) {
+        if (steady_clock::now() > deadline) {
+            return false;
+        }
+        std::this_thread::sleep_for(kPollInterval);
+    }
+    return true;
+}
+
+void Scenario::take_picture(const std::string& name) {
+    const std::filesystem::path pictures = kTestFolder / "pictures";
+    std::filesystem::create_directories(pictures);
+    EXPECT_GT(x.take_picture(pictures / (name + "-" + std::to_string(GetParam()) + ".png")), 1);
+}

@@ -1,0 +1,73 @@
+// The scenario program (java/scenario) under the agent, on an X server of its own with a window manager, with a hand on
+// its keyboard and mouse: the ground of all tests of the inspector's window. A test's class derives from it:
+//
+//     TEST_P(TreeOfWindow, FollowsTheProgram) {
+//         start();
+//         open_inspector();
+//         ask("add room newcomer");
+//         EXPECT_TRUE(eventually([&] { return ask("inspector vantrel.tree").find("newcomer") != std::string::npos; }));
+//     }
+#ifndef VANTREL_SCENARIO_H
+#define VANTREL_SCENARIO_H
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "agent_in_vm.h"
+#include "process.h"
+#include "x_keys.h"
+#include "x_server.h"
+
+// A rectangle on the screen, in pixels.
+struct Place {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+};
+
+class Scenario : public testing::TestWithParam<int> {
+  protected:
+    void SetUp() override { SKIP_WITHOUT_JDK(GetParam()); }
+
+    // Starts the program; it has its window on the screen, and the focus, when this returns.
+    // options   of the VM, such as -Dtheme=dark
+    void start(const Arguments& options = {});
+
+    // Has the program do something; commands and answers are listed in Commands.java. Returns the answer, its lines
+    // separated by line feeds. A command that fails, or is not answered, fails the test.
+    std::string ask(const std::string& command);
+
+    // Where a component of the program is, or one of the inspector's ("vantrel.tree").
+    Place where(const std::string& name);
+
+    // Moves the pointer to the middle of a place, and clicks there.
+    void point_at(const Place& place);
+    void click(const Place& place, int button = 1);
+
+    // Presses the hot key and waits for the inspector's window to be there, or gone.
+    void open_inspector();
+    void close_inspector();
+    bool inspector_is_open();
+
+    // Whether a condition comes true in time.
+    bool eventually(const std::function<bool()>& condition, std::chrono::milliseconds limit = std::chrono::seconds(10));
+
+    // Writes a picture of the screen beside the other products of the tests, for people to look at.
+    void take_picture(const std::string& name);
+
+    const ScratchFolder folder;
+    const XServer x{{"-screen", "0", "1800x1100x24"}};
+    XKeys keys{x.name()};
+    std::optional<WindowManager> manager;
+    std::optional<Process> program;
+
+  private:
+    int asked_ = 0;
+};
+
+#endif

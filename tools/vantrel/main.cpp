@@ -1,0 +1,39 @@
+// vantrel: the inspector's command. It starts programs under the agent.
+#include <cstdio>
+#include <exception>
+#include <string>
+#include <variant>
+
+#include "arguments.h"
+#include "failure.h"
+#include "run.h"
+
+namespace {
+
+constexpr int kAllWell = 0;
+// A status that programs leave to those who start them.
+constexpr int kNothingDone = 125;
+
+int report(const std::string& line, int status) {
+    fprintf(stderr, "vantrel: %s\n", line.c_str());
+    return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const auto parsed = parse_arguments(argc, argv);
+        if (const auto* text = std::get_if<std::string>(&parsed)) {
+            fputs(text->c_str(), stdout);
+            return kAllWell;
+        }
+        run(std::get<RunArguments>(parsed));
+    } catch (const NotStarted& failure) {
+        return report(failure.line, failure.status);
+    } catch (const Failure& failure) {
+        return report(failure.line, kNothingDone);
+    } catch (const std::exception& failure) {
+        return report(failure.what(), kNothingDone);
+    }
+}

@@ -1,0 +1,112 @@
+#include "run.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <vector>
+
+#include "agent.h"
+#include "java_home.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kNotStarted = 126;
+constexpr int kNotFound = 127;
+
+constexpr const char* kToolOptions = "JAVA_TOOL_OPTIONS";
+
+using Words = std::vector<std::string>;
+
+void append(Words& words, const Words& more) {
+    words.insert(words.end(), more.begin(), more.end());
+}
+
+// A file that was named with its folder, or is meant to be in the working folder.
+void check_is_file(const std::string& name) {
+    if (!fs::exists(name)) {
+        throw NotStarted{"there is no file " + name, kNotFound};
+    }
+    if (fs::is_directory(name)) {
+        throw NotStarted{name + " is a folder, not a program", kNotStarted};
+    }
+}
+
+fs::path find_program(const std::string& name) {
+    if (auto file = find_on_path(name)) {
+        return *std::move(file);
+    }
+    if (name.find('/') == std::string::npos) {
+        const bool is_here = fs::is_regular_file(name);
+        throw NotStarted{"there is no program '" + name + "' on the path" +
+                             (is_here ? "; the file in this folder is ./" + name : ""),
+                         kNotFound};
+    }
+    check_is_file(name);
+    throw NotStarted{name + " is not executable", kNotStarted};
+}
+
+fs::path java_for_jar(const std::string& jar) {
+    check_is_file(jar);
+    const auto home = find_java_home();
+    if (!home) {
+        throw NotStarted{"there is no Java for " + jar + ": no JAVA_HOME, and no java on the path", kNotFound};
+    }
+    return find_program(*home / "bin" / "java");
+}
+
+// Whether a file is a VM's launcher, which takes options itself. The java on the path may be a script that looks for
+// one.
+bool is_java(const fs::path& program) {
+    const fs::path file = fs::canonical(program);
+    return file.filename() == "java" && find_vm_library(file.parent_path().parent_path());
+}
+
+[[noreturn]] void become(const fs::path& program, const Words& words) {
+    std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
+    for (const std::string& word : words) {
+        arguments.push_back(const_cast<char*>(word.c_str()));
+    }
+    arguments.push_back(nullptr);
+    // Not execv: a script without a first line that names its shell is /bin/sh's.
+    execvp(program.c_str(), arguments.data());
+    throw NotStarted{"cannot start " + program.string() + ": " + strerror(errno), kNotStarted};
+}
+
+}  // namespace
+
+void run(const RunArguments& arguments) {
+    const std::string& name = arguments.program.front();
+    Words words = arguments.program;
+    fs::path program;
+    if (name.ends_with(".jar")) {
+        program = java_for_jar(name);
+        words.insert(words.begin(), {program, "-jar"});
+    } else {
+        program = find_program(name);
+    }
+
+    const char* variable = getenv(kToolOptions);
+    const std::string already = variable == nullptr ? "" : variable;
+    Words options;
+    // A script under the agent may run a program under the agent: once is enough.
+    const std::string agent = agent_option();
+    if (already.find(tool_options("", {agent})) == std::string::npos) {
+        options.push_back(agent);
+    }
+    append(options, arguments.vm_options);
+
+    if (is_java(program)) {
+        // Not by the environment: the VM would say on stderr that it has picked it up, and a Java program that this one
+        // starts would have the agent too.
+        words.insert(words.begin() + 1, options.begin(), options.end());
+    } else {
+        setenv(kToolOptions, tool_options(already, options).c_str(), 1);
+    }
+    become(program, words);
+}
