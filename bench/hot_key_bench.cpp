@@ -114,7 +114,7 @@ int main(int argument_count, char** arguments) {
 
     show_cost_of_the_modifier(server, x.get());
 
-    Process program({arguments[1], std::string("-agentpath:") + arguments[2], "-cp", arguments[3], "Sample"},
+    Process program({arguments[1], std::string("-agentpath:") + arguments[2], "-jar", arguments[3]},
                     {.folder = {}, .environment = {server.display()}});
     if (!program.reaches([&] { return server.shows("Vantrel sample"); })) {
         give_up("the sample does not come up: " + program.err());

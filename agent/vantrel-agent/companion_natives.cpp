@@ -1,7 +1,9 @@
 // The native methods of the companion's classes. They are declared in the headers of the proxies that register them,
-// and run on whatever Java thread calls them. What Java throws in them stays pending for their caller.
+// and run on whatever Java thread calls them. What Java throws in them stays pending for their caller. Each is a visit
+// of the agent; one that is turned away does nothing and returns nothing, false or -1.
 #include <cstdio>
 
+#include "agent_life.h"
 #include "assertion.h"
 #include "jc/AlphaComposite.h"
 #include "jc/AppContext.h"
@@ -22,6 +24,10 @@ namespace NSVantrel {
 // An outline inside the component's bounds, and a translucent fill of the same width and height, which therefore leaves
 // the last column and row out.
 void JNICALL highlight(JNIEnv* env, jobject /*_this*/, jobject component, jobject graphics) {
+    const Visit visit;
+    if (visit.turned_away()) {
+        return;
+    }
     constexpr jfloat kFillAlpha = 0.33F;
     assert(HighlightColor != NULL);
     NSGraphics::setColor(env, graphics, HighlightColor);
@@ -35,16 +41,22 @@ void JNICALL highlight(JNIEnv* env, jobject /*_this*/, jobject component, jobjec
 }
 
 void JNICALL beep(JNIEnv* /*env*/, jclass /*clazz*/) {
+    const Visit visit;
+    if (visit.turned_away()) {
+        return;
+    }
     putchar('\a');
     fflush(stdout);
 }
 
 jint JNICALL getOSVer(JNIEnv* /*env*/, jclass /*clazz*/) {
+    const Visit visit;
     return -1;
 }
 
 jboolean JNICALL canHighlight(JNIEnv* /*env*/, jclass /*clazz*/) {
-    return isHotKeyModifierHeld() ? JNI_TRUE : JNI_FALSE;
+    const Visit visit;
+    return !visit.turned_away() && isHotKeyModifierHeld() ? JNI_TRUE : JNI_FALSE;
 }
 
 }  // namespace NSVantrel
@@ -52,6 +64,10 @@ jboolean JNICALL canHighlight(JNIEnv* /*env*/, jclass /*clazz*/) {
 namespace NSSwingContext {
 
 void JNICALL _safeRun1(JNIEnv* env, jobject /*_this*/, jobject comp, jobject runnable) {
+    const Visit visit;
+    if (visit.turned_away()) {
+        return;
+    }
     assert(comp);
     jobject context = env->GetObjectField(comp, NSComponent::Component_appContext);
     if (NSObject::equals(env, context, NSAppContext::getAppContext(env)) != JNI_FALSE) {
@@ -72,6 +88,8 @@ void JNICALL _safeRun1(JNIEnv* env, jobject /*_this*/, jobject comp, jobject run
 namespace NSVantrelFrame {
 
 // Window opacity is not implemented natively; the frame's class may call this all the same.
-void JNICALL _setOpacity(JNIEnv* /*env*/, jobject /*_this*/, jint /*opacity*/) {}
+void JNICALL _setOpacity(JNIEnv* /*env*/, jobject /*_this*/, jint /*opacity*/) {
+    const Visit visit;
+}
 
 }  // namespace NSVantrelFrame

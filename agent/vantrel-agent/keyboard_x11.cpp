@@ -121,27 +121,36 @@ void end_presses(Binding& binding) {
 struct HotKeyOnDisplay {
     x11::Grabs grabs;
     x11::Agents agents;
+    x11::Taking outcome;
     std::string said;  // the reason for which there is no hot key, as stderr has it; empty while there is none
 };
 
-// Takes the hot key if it is to be had. Returns the reason to give if it is not; empty also where another agent has it,
-// for that one passes our presses on, and we take the key over when it ends.
-std::string take_hot_key(HotKeyOnDisplay& key) {
-    x11::Taking outcome = x11::take(key.grabs);
-    if (outcome == x11::Taking::refused) {
-        // Whoever had it a moment ago may have ended before we began to watch.
-        x11::watch_others(key.agents);
-        outcome = x11::take(key.grabs);
+// Takes the hot key if it is to be had.
+void take_hot_key(HotKeyOnDisplay& key) {
+    x11::set_standing(key.agents, x11::Standing::trying);
+    key.outcome = x11::take(key.grabs);
+    if (key.outcome == x11::Taking::refused) {
+        // Whoever had it a moment ago may have ended before the server began to tell us.
+        (void)x11::look_at_others(key.agents);
+        key.outcome = x11::take(key.grabs);
     }
-    x11::set_refused(key.agents, outcome != x11::Taking::taken);
-    if (outcome == x11::Taking::refused && x11::another_may_have_it(key.agents)) {
-        return "";
-    }
-    return x11::reason(outcome, key.grabs.hot_key);
+    const bool taken = key.outcome == x11::Taking::taken;
+    x11::set_standing(key.agents, taken ? x11::Standing::has_it : x11::Standing::has_not);
 }
 
-// Says what has changed since the last time.
-void report(HotKeyOnDisplay& key, const std::string& reason) {
+// Says on stderr what has changed since the last time. Where another agent has the key there is one: that agent passes
+// our presses on, and we take the key over when it ends.
+void report(HotKeyOnDisplay& key) {
+    std::string reason = x11::reason(key.outcome, key.grabs.hot_key);
+    if (key.outcome == x11::Taking::refused) {
+        const x11::Standing others = x11::look_at_others(key.agents);
+        if (others == x11::Standing::trying) {
+            return;  // it will tell us what comes of it
+        }
+        if (others == x11::Standing::has_it) {
+            reason.clear();
+        }
+    }
     if (reason == key.said) {
         return;
     }
@@ -161,8 +170,13 @@ void serve(HotKeyOnDisplay& key, Binding& binding) {
             binding.presses.release();
             continue;
         }
-        if (x11::is_change_of_another(key.agents, *event)) {
-            report(key, take_hot_key(key));
+        if (x11::ends_another(*event)) {
+            take_hot_key(key);
+            report(key);
+            continue;
+        }
+        if (x11::changes_another(key.agents, *event)) {
+            report(key);
             continue;
         }
         switch (x11::kind_of(*event)) {
@@ -178,7 +192,8 @@ void serve(HotKeyOnDisplay& key, Binding& binding) {
                 repeat.release(reinterpret_cast<const xcb_key_release_event_t&>(*event));
                 break;
             case XCB_MAPPING_NOTIFY:
-                report(key, take_hot_key(key));
+                take_hot_key(key);
+                report(key);
                 break;
             default:
                 break;
@@ -205,24 +220,25 @@ void forget_socket(Binding& binding) {
 void serve_on(xcb_connection_t* connection, const BindingPtr& binding) {
     HotKeyOnDisplay key{{connection, binding->hot_key, x11::root_windows(connection), {}},
                         x11::join_agents(connection, binding->hot_key),
+                        x11::Taking::no_answer,
                         ""};
-    const std::string reason = take_hot_key(key);
+    take_hot_key(key);
     binding->settled.release();
     binding->announced.acquire();
     key.said = binding->said;
-    report(key, reason);
+    report(key);
     if (!let_unbind_end(*binding, connection)) {
         return;
     }
     if (!start_thread(run_presses, kCallbackThread, binding)) {
-        report(key, kNoThread);
+        report_no_hot_key(kNoThread);
     } else {
         binding->attached.acquire();
         if (binding->let_in) {
             serve(key, *binding);
             end_presses(*binding);
         } else {
-            report(key, "the VM refuses its thread");
+            report_no_hot_key("the VM refuses its thread");
         }
     }
     forget_socket(*binding);

@@ -3,12 +3,12 @@
 #include <dlfcn.h>
 #include <unistd.h>
 
-#include <atomic>
 #include <cstddef>
 #include <cstdio>
 #include <cstring>
 #include <string_view>
 
+#include "agent_life.h"
 #include "agent_util.h"
 #include "assertion.h"
 #include "jc/AWTEvent.h"
@@ -60,11 +60,6 @@ const char* supplier_method_of(std::string_view class_name) {
     }
     return NULL;
 }
-
-// Whether a press of the hot key is being worked on, and whether the agent is being unloaded. Each side announces
-// itself before it looks at the other, so that at least one of them sees the other.
-std::atomic<bool> callback_runs = false;
-std::atomic<bool> unloading = false;
 
 // The hot key's own thread must not keep the VM from ending, so it is a daemon.
 bool attach_as_daemon(const char* name) {
@@ -198,12 +193,19 @@ void JNICALL cbVMStart(jvmtiEnv* /*jvmti*/, JNIEnv* /*jni*/) {
 }
 
 void JNICALL cbVMInit(jvmtiEnv* jvmti, JNIEnv* jni, jthread /*thread*/) {
+    // Another thread may end the VM meanwhile; what is filled here is then not taken away.
+    const Visit visit;
     enter_critical_section(jvmti);
+    const int initialisation = agent_life.begin();
     InitCacheJavaObjects(jvmti, jni);
     lift_security_manager(jni);
     puts("Vantrel Initializing.");
-    setHotKeyThread({attach_as_daemon, detach});
-    bindMacHotKey(keyCallback);
+    if (initialisation == 1) {
+        setHotKeyThread({attach_as_daemon, detach});
+        bindMacHotKey(keyCallback);
+    } else if (initialisation == 2) {
+        fprintf(stderr, "vantrel-agent: loaded more than once; one -agentpath is enough (see JAVA_TOOL_OPTIONS).\n");
+    }
     exit_critical_section(jvmti);
 }
 
@@ -256,19 +258,18 @@ void JNICALL Agent_OnUnload(JavaVM* vm) {
     // clang-format off
     assert(jni_env!= NULL);
     // clang-format on
-    unloading = true;
+    const bool has_proxies = agent_life.end();
     unbindMacHotKey();
-    if (!callback_runs) {
+    if (has_proxies && agent_life.is_empty()) {
         DeleteCachedJavaObjects(jni_env);
     }
 }
 
 void keyCallback() {
-    callback_runs = true;
-    if (!unloading) {
+    const Visit visit;
+    if (!visit.turned_away()) {
         show_inspector();
     }
-    callback_runs = false;
 }
 
 void JNICALL cbVMObjectAlloc(jvmtiEnv* /*jvmti*/, JNIEnv* /*jni*/, jthread /*thread*/, jobject /*object*/,

@@ -28,8 +28,12 @@ extern AgentData gb_data;
 // Agent_OnAttach refuses with 1: in a running VM the classes that the agent replaces may already be loaded.
 //
 // Agent_OnUnload, which the VM calls while it shuts down, gives the hot key and the proxies' references back. It
-// attaches the thread it is called on. While a press of the hot key is being worked on, the proxies stay as they are:
-// their user may be held up in the VM for ever.
+// attaches the thread it is called on. Where the VM was never initialised, or the agent has been unloaded already,
+// there are no references to give back; while a thread is inside the agent (agent_life.h) they stay as they are. A VM
+// that is initialised after that begins anew.
+//
+// A library that is named twice is loaded, initialised and unloaded twice. The later initialisation fills the proxies
+// once more, says so on stderr, and binds no second hot key.
 
 // Records this library's path in gb_data. Run by the dynamic loader when it maps the library.
 void on_load();
@@ -49,8 +53,8 @@ void exit_critical_section(jvmtiEnv* jvmti);
 
 void JNICALL cbVMStart(jvmtiEnv* jvmti, JNIEnv* jni);
 
-// Fills the proxies, lifts the security manager where the VM lets it be lifted, and binds the hot key; all of it under
-// gb_data.lock.
+// Begins the agent's life: fills the proxies, lifts the security manager where the VM lets it be lifted, and binds the
+// hot key; all of it under gb_data.lock.
 void JNICALL cbVMInit(jvmtiEnv* jvmti, JNIEnv* jni, jthread thread);
 
 // Replaces the class files of java.awt.Component and java.awt.Container by those that the companion's helper class

@@ -79,7 +79,14 @@ std::string text(const std::string& value) {
     return value;
 }
 std::string text(_jobject* value) {
-    return value != nullptr ? object_of(value)->name : "null";
+    if (value == nullptr) {
+        return "null";
+    }
+    const FakeObject& object = *object_of(value);
+    if (object.deleted && !current->deleted_may_be_used) {
+        ADD_FAILURE() << "use of a deleted reference: " << object.name;
+    }
+    return object.name;
 }
 std::string text(jrawMonitorID value) {
     return value != nullptr ? object_of(value)->name : "null";
@@ -303,7 +310,12 @@ void fill(JNINativeInterface_& jni) {
     jni.GetObjectField = fake_GetObjectField;
     jni.NewObjectV = fake_NewObjectV;
     jni.NewGlobalRef = fake_NewGlobalRef;
-    jni.DeleteGlobalRef = [](JNIEnv*, jobject object) { record("DeleteGlobalRef", object); };
+    jni.DeleteGlobalRef = [](JNIEnv*, jobject object) {
+        record("DeleteGlobalRef", object);
+        if (object != nullptr) {
+            object_of(object)->deleted = true;
+        }
+    };
     jni.IsInstanceOf = [](JNIEnv*, jobject object, jclass clazz) -> jboolean {
         record("IsInstanceOf", object, clazz);
         return current->instances.contains({object, clazz}) ? JNI_TRUE : JNI_FALSE;
@@ -558,6 +570,11 @@ const Table& env_table() {
     return table;
 }
 
+ssize_t record_output(void* /*cookie*/, const char* text, size_t size) {
+    record_call("stdout " + std::string(text, size));
+    return static_cast<ssize_t>(size);
+}
+
 JavaVM fake_java_vm;
 JNIEnv fake_jni;
 jvmtiEnv fake_jvmti;
@@ -579,6 +596,20 @@ FakeVm::~FakeVm() {
     current = nullptr;
 }
 
+void record_call(std::string_view call) {
+    current->calls.emplace_back(call);
+}
+
+RecordedStdout::RecordedStdout(int buffering) : before_(stdout) {
+    stdout = fopencookie(nullptr, "w", {.read = nullptr, .write = record_output, .seek = nullptr, .close = nullptr});
+    setvbuf(stdout, nullptr, buffering, BUFSIZ);
+}
+
+RecordedStdout::~RecordedStdout() {
+    fclose(stdout);
+    stdout = before_;
+}
+
 jclass FakeVm::add_class(std::string_view name) {
     const auto handle = static_cast<jclass>(add_object(name));
     classes.emplace(name, handle);
@@ -586,7 +617,7 @@ jclass FakeVm::add_class(std::string_view name) {
 }
 
 jobject FakeVm::add_object(std::string_view name) {
-    objects.push_back({std::string(name), {}, {}, nullptr});
+    objects.push_back({std::string(name), {}, {}, nullptr, false});
     return reinterpret_cast<jobject>(&objects.back());
 }
 

@@ -9,16 +9,19 @@
 //     EXPECT_THAT(vm.calls, ElementsAre("FindClass com/example/Helper", ...));
 //
 // It is strict. A call of a function that the fake does not have, a class, member or property that the test did not
-// script, and a scripted failure that never came about each fail the test and name themselves.
+// script, a use of a global reference that was deleted, and a scripted failure that never came about each fail the test
+// and name themselves.
 //
 // A call is recorded as the function's name and its arguments, separated by blanks: handles by the name they were
 // scripted with ("null" for a null one), methods and fields as Class.name:descriptor, numbers in decimal. What a
-// function only returns through is not recorded.
+// function only returns through is not recorded. What else the tested code does can be put into the same record, to see
+// when it does so: see record_call and RecordedStdout.
 #ifndef VANTREL_FAKE_VM_H
 #define VANTREL_FAKE_VM_H
 
 #include <jvmti.h>
 
+#include <cstdio>
 #include <deque>
 #include <functional>
 #include <map>
@@ -34,6 +37,7 @@ struct FakeObject {
     std::vector<jbyte> bytes;  // a byte array's elements
     std::map<std::string, jobject, std::less<>> fields;
     jobject referent;  // what a global reference refers to
+    bool deleted;      // a global reference that was given back
 };
 
 // What a jmethodID or jfieldID of the fake VM points to.
@@ -74,6 +78,7 @@ struct FakeVm {
 
     std::set<std::pair<jobject, jclass>> instances;  // what IsInstanceOf says yes to
     jobject local_object = nullptr;                  // what GetLocalObject finds
+    bool deleted_may_be_used = false;                // deleted references, for what is promised of these
 
     // The handles to run the tested code with.
     JavaVM* java_vm;
@@ -98,6 +103,23 @@ struct FakeVm {
     std::map<std::string, jclass, std::less<>> classes;
     std::map<std::string, std::string, std::less<>> properties;
     std::vector<Failure> failures;
+};
+
+// Adds an entry to the record of the FakeVm there is. For stand-ins of what the tested code calls besides the VM.
+void record_call(std::string_view call);
+
+// While there is one, what the program writes to stdout goes to no file but to the record of the FakeVm there is:
+// "stdout TEXT" each time that the stream gives text away.
+class RecordedStdout {
+  public:
+    // buffering   as setvbuf has it: by lines (_IOLBF), or until the stream is flushed (_IOFBF)
+    explicit RecordedStdout(int buffering = _IOLBF);
+    ~RecordedStdout();
+    RecordedStdout(const RecordedStdout&) = delete;
+    RecordedStdout& operator=(const RecordedStdout&) = delete;
+
+  private:
+    FILE* before_;
 };
 
 // Gives a member of a FakeVm its access flags, which are none otherwise.

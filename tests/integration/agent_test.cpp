@@ -130,7 +130,7 @@ TEST_P(Agent, SerialisedComponentsAreReadWithAndWithoutIt) {
 
 TEST_P(Agent, ShowsASwingProgram) {
     const XServer x;
-    Process sample(java({"-cp", kSampleJar, "Sample"}), {.folder = {}, .environment = {x.display()}});
+    Process sample(java({"-jar", kSampleJar}), {.folder = {}, .environment = {x.display()}});
     EXPECT_TRUE(sample.reaches([&] { return x.shows("Vantrel sample"); })) << sample.out() << sample.err();
     const ScratchFolder folder;
     EXPECT_TRUE(sample.reaches([&] { return x.take_picture(folder.path / "screen.png") > 16; })) << "nothing painted";

@@ -18,9 +18,9 @@ constexpr struct {
     const char* name;
     int tests;
 } kUnitTests[] = {
-    {"stacktrace.StackTraceManagerTest", 5},
+    {"hooks.HooksTest", 4},          {"model.AddedAtTest", 4},
+    {"model.EditorTest", 4},         {"stacktrace.StackTraceManagerTest", 5},
     {"util.ClassFileEditorTest", 6},
-    {"hooks.HooksTest", 4},
 };
 
 class Companion : public testing::TestWithParam<int> {};
@@ -31,13 +31,13 @@ INSTANTIATE_TEST_SUITE_P(OnJdk, Companion, testing::ValuesIn(kReleases), testing
 TEST_P(Companion, PassesItsUnitTests) {
     SKIP_WITHOUT_JDK(GetParam());
     const std::string boot_path = (kTestFolder / "companion-tests.jar").string() + ":" + VANTREL_JUNIT_JARS;
-    Arguments arguments = {"-Djava.awt.headless=true", "-Xbootclasspath/a:" + boot_path, "org.junit.runner.JUnitCore"};
+    Arguments options = {"-Djava.awt.headless=true", "-Xbootclasspath/a:" + boot_path, "org.junit.runner.JUnitCore"};
     int count = 0;
     for (const auto& [name, tests] : kUnitTests) {
-        arguments.push_back("com.vantrel." + std::string(name));
+        options.push_back("com.vantrel." + std::string(name));
         count += tests;
     }
-    const Finished tests = run(java_under_agent(GetParam(), arguments));
+    const Finished tests = run(java_under_agent(GetParam(), options));
     EXPECT_EQ(tests.status, 0) << tests.out << tests.err;
     EXPECT_THAT(tests.out, HasSubstr("\nOK (" + std::to_string(count) + " tests)\n"));
 }

@@ -5,6 +5,7 @@
 //     hot-key-probe refuse     the thread is not let into the VM
 //     hot-key-probe block      a press is never done with
 //     hot-key-probe twice      binds once more when it was to end
+//     hot-key-probe hasty      unbinds without asking for the modifier before
 #include <dlfcn.h>
 #include <malloc.h>
 #include <pthread.h>
@@ -122,7 +123,9 @@ int main(int argument_count, char** arguments) {
     if (signal_taken != 0) {
         say("a signal was taken");
     }
-    ask_for_modifier();
+    if (mode != "hasty") {
+        ask_for_modifier();
+    }
     unbind();
     if (mode == "twice") {
         bindMacHotKey(on_press);

@@ -40,7 +40,7 @@ class Inspector : public testing::TestWithParam<int> {
 
     void start(const Arguments& arguments, const fs::path& library = kLibrary) {
         program.emplace(java_under_agent(GetParam(), arguments, library),
-                        ProcessOptions{.folder = folder.path, .environment = {x.display()}});
+                        ProcessOptions{.folder = folder.path, .environment = environment});
     }
     // The program that ends in a given way when it is told to, and the companion that records what is called on it.
     void start_ending(const std::string& way, const Arguments& options = {}) {
@@ -72,6 +72,7 @@ class Inspector : public testing::TestWithParam<int> {
     const ScratchFolder folder;
     const XServer x;
     XKeys keys{x.name()};
+    std::vector<std::string> environment = {x.display()};  // of the program
     std::optional<Process> program;
 };
 INSTANTIATE_TEST_SUITE_P(OnJdk, Inspector, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
@@ -83,7 +84,7 @@ TEST_P(Inspector, TheHotKeyShowsAndHidesItsWindow) {
         if (managed) {
             manager.emplace(x);
         }
-        start({"-cp", kSampleJar, "Sample"});
+        start({"-jar", kSampleJar});
         ASSERT_TRUE(program->reaches([&] { return x.shows("Vantrel sample"); })) << program->err();
         for (int round = 0; round < 2; ++round) {
             EXPECT_FALSE(x.shows(kWindow));
@@ -327,6 +328,45 @@ TEST_P(Inspector, StartsAndEndsTwoHundredTimes) {
     for (const auto& entry : fs::directory_iterator(folder.path)) {
         ADD_FAILURE() << "left behind: " << entry.path().filename();
     }
+}
+
+TEST_P(Inspector, EndsWhileItsNativesRun) {
+    for (int end = 0; end < 25; ++end) {
+        const Finished ended = run(java_under_agent(GetParam(), {"-cp", kPrograms, "EndingInside"}),
+                                   {.folder = folder.path, .environment = {x.display()}});
+        EXPECT_EQ(ended.status, 3) << ended.out << ended.err;
+    }
+}
+
+// An agent in Java that comes first ends the VM before ours is initialised, while it is, or soon after.
+TEST_P(Inspector, EndsBeforeItHasBegun) {
+    for (const char* way : {"at once", "meanwhile", "meanwhile", "meanwhile", "meanwhile"}) {
+        const Arguments command = {*find_jdk(GetParam()) / "bin" / "java",
+                                   "-javaagent:" + kPrograms.string() + "=" + way,
+                                   "-agentpath:" + kLibrary.string(),
+                                   "-cp",
+                                   kPrograms,
+                                   "Ending",
+                                   "exit"};
+        const Finished ended = run(command, {.folder = folder.path, .environment = {x.display()}});
+        EXPECT_EQ(ended.status, 3) << way << "\n" << ended.out << ended.err;
+    }
+}
+
+TEST_P(Inspector, NamedTwiceThereIsOneHotKeyAndOneLineThatSaysSo) {
+    const std::string option = "-agentpath:" + (folder.path / kLibrary.filename()).string();
+    environment.push_back("JAVA_TOOL_OPTIONS=" + option);
+    start_recorded("");
+    press_hot_key();
+    EXPECT_TRUE(says("call 1: "));
+    press_hot_key();
+    EXPECT_TRUE(says("call 2: "));
+    tell_to_end();
+    EXPECT_EQ(program->wait(), 3);
+    EXPECT_THAT(program->out(), Not(HasSubstr("call 3: ")));
+    EXPECT_EQ(program->err(), "Picked up JAVA_TOOL_OPTIONS: " + option + "\n" + kAgentErr +
+                                  "vantrel-agent: loaded more than once; one -agentpath is enough (see "
+                                  "JAVA_TOOL_OPTIONS).\n");
 }
 
 TEST(SecurityManager, DoesNotEndAnOldVm) {

@@ -13,7 +13,7 @@ class XWindows {
     // display   as DISPLAY names it
     explicit XWindows(const std::string& display);
 
-    // Makes a window that is shown and says that it is a process's. It goes with this object.
+    // Makes a window, 50 wide and high at (80,80), that says that it is a process's. It goes with this object.
     xcb_window_t make(pid_t process, const std::string& machine = own_machine());
 
     // The window on the screen that a process says is its own; XCB_NONE while there is none.

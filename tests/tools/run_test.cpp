@@ -39,7 +39,7 @@ fs::path install(const fs::path& prefix) {
 class Run : public testing::TestWithParam<int> {
   protected:
     void SetUp() override { SKIP_WITHOUT_JDK(GetParam()); }
-    [[nodiscard]] fs::path java() const { return *find_jdk(GetParam()) / "bin" / "java"; }
+    static fs::path java() { return *find_jdk(GetParam()) / "bin" / "java"; }
     const ScratchFolder folder;
 };
 INSTANTIATE_TEST_SUITE_P(OnJdk, Run, testing::ValuesIn(kReleases), testing::PrintToStringParamName());

@@ -136,9 +136,13 @@ TEST(Interested, ExclusionWinsAndMissingListsFilterNothing) {
 }
 
 TEST(Messages, GoToTheirStreams) {
-    testing::internal::CaptureStdout();
-    stdout_message("%d %s", 7, "seven");
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "7 seven");
+    FakeVm vm;
+    {
+        const RecordedStdout recorded(_IOFBF);
+        stdout_message("%d %s", 7, "seven");
+        record_call("returned");
+    }
+    EXPECT_THAT(vm.calls, ElementsAre("returned", "stdout 7 seven")) << "not flushed";
     EXPECT_EXIT(fatal_error("%s\n", "the end"), ExitedWithCode(3), "^the end\n$");
 }
 

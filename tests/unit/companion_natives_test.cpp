@@ -1,12 +1,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <vector>
 
+#include "agent_life.h"
 #include "all_proxies.h"
 #include "fake_vm.h"
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 using testing::KilledBySignal;
 
 namespace {
@@ -80,12 +83,27 @@ TEST_F(Highlight, AssertsItsColourAndComposite) {
         KilledBySignal(SIGABRT), "highlight.*Assertion `alphaComposite != NULL' failed");
 }
 
-TEST(CompanionNatives, BeepWritesOneByteAndFlushes) {
+TEST(CompanionNatives, DoNothingOnceTheAgentIsBeingUnloaded) {
     FakeVm vm;
-    testing::internal::CaptureStdout();
-    NSVantrel::beep(vm.jni, nullptr);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "\a");
-    EXPECT_EQ(NSVantrel::getOSVer(vm.jni, nullptr), -1);
+    {
+        const RecordedStdout recorded(_IOFBF);
+        NSVantrel::beep(vm.jni, nullptr);
+        EXPECT_EQ(NSVantrel::getOSVer(vm.jni, nullptr), -1);
+        EXPECT_EQ(NSVantrel::canHighlight(vm.jni, nullptr), JNI_TRUE);
+        EXPECT_THAT(vm.calls, ElementsAre("stdout \a", "isHotKeyModifierHeld")) << "flushed";
+
+        vm.calls.clear();
+        agent_life.begin();
+        agent_life.end();
+        NSVantrel::highlight(vm.jni, nullptr, nullptr, nullptr);
+        NSVantrel::beep(vm.jni, nullptr);
+        EXPECT_EQ(NSVantrel::getOSVer(vm.jni, nullptr), -1);
+        EXPECT_EQ(NSVantrel::canHighlight(vm.jni, nullptr), JNI_FALSE);
+        NSSwingContext::_safeRun1(vm.jni, nullptr, nullptr, nullptr);
+        NSVantrelFrame::_setOpacity(vm.jni, nullptr, 50);
+        std::construct_at(&agent_life);
+    }
+    EXPECT_THAT(vm.calls, IsEmpty());
 }
 
 struct SafeRun : ScriptedCaches {

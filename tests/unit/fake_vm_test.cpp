@@ -66,9 +66,13 @@ TEST(FakeVm, ServesFieldsAndGlobalReferences) {
     set_field(object, "f", value);
     EXPECT_EQ(vm.jni->GetFieldID(owner, "f", "LB;"), field);
     EXPECT_EQ(vm.jni->GetObjectField(object, field), value);
-    jobject global = vm.jni->NewGlobalRef(value);
+    static jobject global;  // EXPECT_NONFATAL_FAILURE sees no locals
+    global = vm.jni->NewGlobalRef(value);
     EXPECT_NE(global, value);
     vm.jni->DeleteGlobalRef(global);
     EXPECT_THAT(vm.calls, ElementsAre("GetFieldID A f LB;", "GetObjectField an object A.f:LB;",
                                       "NewGlobalRef its value", "DeleteGlobalRef global its value"));
+    static JNIEnv* jni;
+    jni = vm.jni;
+    EXPECT_NONFATAL_FAILURE(jni->DeleteGlobalRef(global), "use of a deleted reference: global its value");
 }

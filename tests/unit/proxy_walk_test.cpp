@@ -383,6 +383,7 @@ TEST(Proxies, InitLooksUpTheClassOnceAndEveryFieldEachTime) {
         EXPECT_THAT(vm.calls, ElementsAre(std::string("DeleteGlobalRef global ") + proxy.class_name));
         EXPECT_EQ(*proxy.class_variable, cached) << "the stale value stays";
         vm.calls.clear();
+        vm.deleted_may_be_used = true;
         proxy.Init(vm.jvmti, vm.jni);
         EXPECT_THAT(vm.calls, ElementsAreArray(fields)) << "after Destroy, Init does not look the class up again";
         *proxy.class_variable = nullptr;

@@ -2,11 +2,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <functional>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "agent_life.h"
 #include "all_proxies.h"
 #include "fake_vm.h"
 #include "vantrel-agent.h"
@@ -42,12 +44,9 @@ const Method kMethods[] = {
 // A VM that has everything the proxies look for, and proxies that have not looked yet.
 struct VmLifecycle : testing::Test {
     void SetUp() override {
-        setenv("DISPLAY", "", 1);
         vm.add_property("java.home", "/jdk");
         const jobject result = vm.add_object("result");
-#define PROXY(C, CLASS)  \
-    vm.add_class(CLASS); \
-    NS##C::_c_Class = nullptr;
+#define PROXY(C, CLASS) vm.add_class(CLASS);
 #define PROXY_FIELD(C, CLASS, KIND, NAME, DESCRIPTOR) vm.add_field(vm.classes.at(CLASS), #NAME, DESCRIPTOR);
 #define PROXY_WRAPPER(...)
 #define PROXY_UNWRAPPED(...)
@@ -58,8 +57,9 @@ struct VmLifecycle : testing::Test {
 #undef PROXY_UNWRAPPED
         for (const Method& method : kMethods) {
             vm.add_method(vm.classes.at(method.class_name), method.name, method.descriptor, result);
-            *method.variable = nullptr;
         }
+        empty_the_proxies();
+        std::construct_at(&agent_life);
         gb_data.jvm = vm.java_vm;
         gb_data.jvmti = vm.jvmti;
         vm.jvmti->CreateRawMonitor("agent data", &gb_data.lock);
@@ -67,6 +67,24 @@ struct VmLifecycle : testing::Test {
     }
     void TearDown() override {
         gb_data = before;
+        empty_the_proxies();
+        std::construct_at(&agent_life);
+    }
+
+    // What a new process has: the proxies keep what they were filled with, even after it was given back.
+    static void empty_the_proxies() {
+#define PROXY(C, CLASS) NS##C::_c_Class = nullptr;
+#define PROXY_FIELD(...)
+#define PROXY_WRAPPER(...)
+#define PROXY_UNWRAPPED(...)
+#include "members.inc"
+#undef PROXY
+#undef PROXY_FIELD
+#undef PROXY_WRAPPER
+#undef PROXY_UNWRAPPED
+        for (const Method& method : kMethods) {
+            *method.variable = nullptr;
+        }
     }
 
     FakeMember& method(const std::string& class_name, const std::string& name) {
@@ -79,10 +97,9 @@ struct VmLifecycle : testing::Test {
     }
 
     void initialise() {
-        testing::internal::CaptureStdout();
+        const RecordedStdout recorded;
         testing::internal::CaptureStderr();
         cbVMInit(vm.jvmti, vm.jni, nullptr);
-        out = testing::internal::GetCapturedStdout();
         err = testing::internal::GetCapturedStderr();
     }
 
@@ -107,7 +124,6 @@ struct VmLifecycle : testing::Test {
 
     FakeVm vm;
     const AgentData before = gb_data;
-    std::string out;
     std::string err;
 };
 
@@ -115,12 +131,7 @@ TEST_F(VmLifecycle, InitialisationFillsTheProxiesInOrderUnderTheMonitor) {
     method("java/lang/System", "setSecurityManager").thrown = vm.add_object("a refusal");
     vm.fail("SetFieldModificationWatch", 1, JVMTI_ERROR_MUST_POSSESS_CAPABILITY);
     initialise();
-    EXPECT_EQ(out,
-              "Vantrel Initializing.\n"
-              "Pressing \u2318+F12 to toggle the Vantrel window visible.\n");
-    EXPECT_EQ(err,
-              "vantrel-agent: on this platform the hot key is Control+F12.\n"
-              "vantrel-agent: no hot key: DISPLAY is not set.\n");
+    EXPECT_EQ(err, "");
     EXPECT_EQ(vm.pending, nullptr);
     EXPECT_THAT(
         telling_calls(),
@@ -144,12 +155,22 @@ TEST_F(VmLifecycle, InitialisationFillsTheProxiesInOrderUnderTheMonitor) {
                     "RegisterNatives global com/vantrel/VantrelFrame setOpacity:(I)V", "GetSystemProperty java.home",
                     "SetFieldModificationWatch global java/awt/Component "
                     "java/awt/Component.parent:Ljava/awt/Container;",
-                    set_security_manager, "ExceptionClear", "RawMonitorExit monitor agent data"));
+                    set_security_manager, "ExceptionClear", "stdout Vantrel Initializing.\n", "setHotKeyThread",
+                    "bindMacHotKey keyCallback", "RawMonitorExit monitor agent data"));
+}
 
-    // A second event is tolerated: every class is there already.
-    vm.calls.clear();
+// What a library gets that is named twice, or three times: every class is there already, and so is the hot key.
+TEST_F(VmLifecycle, FurtherInitialisationsAreHarmlessAndToldOnce) {
     initialise();
-    EXPECT_THAT(telling_calls(), Not(Contains(StartsWith("NewGlobalRef java/"))));
+    const std::string line =
+        "vantrel-agent: loaded more than once; one -agentpath is enough (see JAVA_TOOL_OPTIONS).\n";
+    for (const std::string& told : {line, std::string()}) {
+        vm.calls.clear();
+        initialise();
+        EXPECT_EQ(err, told);
+        EXPECT_THAT(telling_calls(), Not(Contains(StartsWith("NewGlobalRef java/"))));
+        EXPECT_THAT(telling_calls(), Not(Contains(StartsWith("bindMacHotKey"))));
+    }
 }
 
 TEST_F(VmLifecycle, TheResultIsWhatTheVmSaysToTheWatch) {
@@ -208,22 +229,19 @@ TEST_F(VmLifecycle, UnloadWithoutAnEnvironmentIsAnAssertion) {
         KilledBySignal(SIGABRT), "vantrel-agent\\.cpp:[0-9]+: .*Agent_OnUnload.*Assertion `jni_env!= NULL' failed");
 }
 
-// Last, for the agent stays unloaded.
-TEST_F(VmLifecycle, UnloadGivesTheProxiesBackInOrder) {
+TEST_F(VmLifecycle, UnloadGivesTheProxiesBackInOrderAndOnce) {
+    const auto unload = [this] {
+        vm.calls.clear();
+        Agent_OnUnload(vm.java_vm);
+    };
+    unload();
+    EXPECT_THAT(vm.calls, ElementsAre("AttachCurrentThread null", "unbindMacHotKey")) << "never initialised";
+
     initialise();
-    vm.calls.clear();
-    method("com/vantrel/Vantrel", "showVantrel").body = [this] { Agent_OnUnload(vm.java_vm); };
-    keyCallback();
-    EXPECT_THAT(vm.calls, Not(Contains(StartsWith("Delete")))) << "the press still uses them";
-
-    vm.calls.clear();
-    keyCallback();
-    EXPECT_THAT(vm.calls, IsEmpty()) << "no press begins after the unload";
-
-    Agent_OnUnload(vm.java_vm);
+    unload();
     EXPECT_THAT(
         vm.calls,
-        ElementsAre("AttachCurrentThread null", "UnregisterNatives global com/vantrel/Vantrel",
+        ElementsAre("AttachCurrentThread null", "unbindMacHotKey", "UnregisterNatives global com/vantrel/Vantrel",
                     "DeleteGlobalRef global com/vantrel/Vantrel", "DeleteGlobalRef global result",
                     "DeleteGlobalRef global result", "DeleteGlobalRef global java/awt/Graphics2D",
                     "DeleteGlobalRef global java/lang/System", "DeleteGlobalRef global javax/swing/SwingUtilities",
@@ -234,6 +252,47 @@ TEST_F(VmLifecycle, UnloadGivesTheProxiesBackInOrder) {
                     "DeleteGlobalRef global java/lang/Object", "DeleteGlobalRef global javax/swing/JComponent",
                     "DeleteGlobalRef global com/vantrel/stacktrace/StackTraceManager",
                     "DeleteGlobalRef global com/vantrel/VantrelFrame"));
+    unload();
+    EXPECT_THAT(vm.calls, ElementsAre("AttachCurrentThread null", "unbindMacHotKey")) << "given back already";
+    vm.calls.clear();
+    keyCallback();
+    EXPECT_THAT(vm.calls, IsEmpty()) << "no press begins after the unload";
+
+    empty_the_proxies();
+    initialise();
+    EXPECT_THAT(vm.calls, Contains("bindMacHotKey keyCallback")) << "a new life";
+    keyCallback();
+    EXPECT_THAT(vm.calls, Contains(show_vantrel));
+}
+
+// Every way in whose work is done in Java, ended at a moment when Java is at work.
+TEST_F(VmLifecycle, UnloadLeavesTheProxiesToWhoIsInside) {
+    const jobject component = vm.add_object("component");
+    set_field(component, "appContext", vm.add_object("its context"));
+    const struct {
+        const char* class_name;
+        const char* method_name;
+        std::function<void()> enter;
+    } cases[] = {
+        {"com/vantrel/Vantrel", "getInstance", [this] { initialise(); }},
+        {"com/vantrel/Vantrel", "showVantrel", keyCallback},
+        {"java/awt/Graphics", "fillRect", [&] { NSVantrel::highlight(vm.jni, nullptr, component, component); }},
+        {"java/lang/Object", "equals", [&] { NSSwingContext::_safeRun1(vm.jni, nullptr, component, component); }},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.method_name);
+        initialise();
+        bool unloaded = false;
+        method(c.class_name, c.method_name).body = [&] {
+            Agent_OnUnload(vm.java_vm);
+            unloaded = true;
+        };
+        vm.calls.clear();
+        c.enter();
+        method(c.class_name, c.method_name).body = {};
+        EXPECT_TRUE(unloaded);
+        EXPECT_THAT(vm.calls, Not(Contains(StartsWith("Delete"))));
+    }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <climits>
 #include <cstring>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "connection.h"
@@ -22,7 +23,7 @@ struct AgentProperty {
     uint32_t pid;
     uint32_t keysym;
     uint32_t modifiers;
-    uint32_t refused;
+    Standing standing;
 };
 constexpr uint32_t kAgentPropertyLength = sizeof(AgentProperty) / sizeof(uint32_t);
 
@@ -32,7 +33,7 @@ struct Agent {
     uint32_t pid;
     std::string machine;
     uint32_t asked;
-    bool refused;
+    Standing standing;
 };
 
 // Requests are sent for all windows before the first answer is waited for: each function below costs one round trip,
@@ -80,23 +81,16 @@ std::string own_machine() {
     return name;
 }
 
-// All agents with our hot key, this one among them.
-std::vector<Agent> all_agents(const Agents& agents) {
-    xcb_connection_t* x = agents.connection;
-    const Owned<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(x, xcb_query_tree(x, agents.root), NULL));
-    if (!tree) {
-        return {};
-    }
-    const xcb_window_t* windows = xcb_query_tree_children(tree.get());
-    const size_t count = tree->children_len;
+// Reads what windows say of themselves, and drops those that are no agents with our hot key.
+void read_agents(const Agents& agents, std::vector<Agent>& windows) {
     std::vector<xcb_get_property_cookie_t> requests;
-    for (size_t i = 0; i < count; ++i) {
-        requests.push_back(
-            ask_for_property(x, windows[i], agents.atoms.agent, XCB_ATOM_CARDINAL, kAgentPropertyLength));
+    for (const Agent& agent : windows) {
+        requests.push_back(ask_for_property(agents.connection, agent.window, agents.atoms.agent, XCB_ATOM_CARDINAL,
+                                            kAgentPropertyLength));
     }
     std::vector<Agent> found;
-    for (size_t i = 0; i < count; ++i) {
-        const std::string value = value_of(x, requests[i]);
+    for (size_t i = 0; i < windows.size(); ++i) {
+        const std::string value = value_of(agents.connection, requests[i]);
         AgentProperty property;
         if (value.size() != sizeof property) {
             continue;
@@ -104,10 +98,25 @@ std::vector<Agent> all_agents(const Agents& agents) {
         memcpy(&property, value.data(), sizeof property);
         if (property.version == kVersion && property.keysym == agents.hot_key.keysym &&
             property.modifiers == agents.hot_key.modifiers) {
-            found.push_back({windows[i], property.pid, "", 0, property.refused != 0});
+            found.push_back({windows[i].window, property.pid, "", 0, property.standing});
         }
     }
-    return found;
+    windows = std::move(found);
+}
+
+// All agents with our hot key, this one among them.
+std::vector<Agent> all_agents(const Agents& agents) {
+    xcb_connection_t* x = agents.connection;
+    const Owned<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(x, xcb_query_tree(x, agents.root), NULL));
+    std::vector<Agent> windows;
+    if (tree) {
+        const xcb_window_t* children = xcb_query_tree_children(tree.get());
+        for (size_t i = 0; i < tree->children_len; ++i) {
+            windows.push_back({children[i], 0, "", 0, Standing::has_not});
+        }
+    }
+    read_agents(agents, windows);
+    return windows;
 }
 
 // Fills in what all_agents leaves out.
@@ -185,7 +194,7 @@ struct Merit {
 
 void announce(const Agents& agents) {
     const AgentProperty property{kVersion, static_cast<uint32_t>(getpid()), agents.hot_key.keysym,
-                                 agents.hot_key.modifiers, agents.refused ? 1U : 0U};
+                                 agents.hot_key.modifiers, agents.standing};
     xcb_change_property(agents.connection, XCB_PROP_MODE_REPLACE, agents.own, agents.atoms.agent, XCB_ATOM_CARDINAL, 32,
                         kAgentPropertyLength, &property);
     xcb_flush(agents.connection);
@@ -215,7 +224,7 @@ Agents join_agents(xcb_connection_t* connection, const HotKey& hot_key) {
         {atom_of(connection, agent), atom_of(connection, asked), atom_of(connection, show), atom_of(connection, pid)},
         root_windows(connection).front(),
         xcb_generate_id(connection),
-        false};
+        Standing::trying};
     const uint32_t no_window_manager = 1;
     xcb_create_window(connection, XCB_COPY_FROM_PARENT, agents.own, agents.root, -1, -1, 1, 1, 0,
                       XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT, &no_window_manager);
@@ -225,28 +234,29 @@ Agents join_agents(xcb_connection_t* connection, const HotKey& hot_key) {
     return agents;
 }
 
-void set_refused(Agents& agents, bool refused) {
-    // Saying the same again would wake the others, and they us.
-    if (agents.refused != refused) {
-        agents.refused = refused;
+void set_standing(Agents& agents, Standing standing) {
+    if (agents.standing != standing) {
+        agents.standing = standing;
         announce(agents);
     }
 }
 
-void watch_others(const Agents& agents) {
-    for (const Agent& agent : all_agents(agents)) {
-        if (agent.window != agents.own) {
-            const uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
-            xcb_change_window_attributes(agents.connection, agent.window, XCB_CW_EVENT_MASK, &events);
-        }
+Standing look_at_others(const Agents& agents) {
+    std::vector<Agent> others = all_agents(agents);
+    std::erase_if(others, [&](const Agent& agent) { return agent.window == agents.own; });
+    for (const Agent& agent : others) {
+        const uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
+        xcb_change_window_attributes(agents.connection, agent.window, XCB_CW_EVENT_MASK, &events);
     }
-    xcb_flush(agents.connection);
-}
-
-bool another_may_have_it(const Agents& agents) {
-    const std::vector<Agent> all = all_agents(agents);
-    return std::any_of(all.begin(), all.end(),
-                       [&](const Agent& agent) { return agent.window != agents.own && !agent.refused; });
+    // What was read before the server began to tell us may have changed since.
+    read_agents(agents, others);
+    const auto one_stands = [&](Standing standing) {
+        return std::any_of(others.begin(), others.end(),
+                           [&](const Agent& agent) { return agent.standing == standing; });
+    };
+    return one_stands(Standing::has_it)   ? Standing::has_it
+           : one_stands(Standing::trying) ? Standing::trying
+                                          : Standing::has_not;
 }
 
 bool take_or_pass_on(const Agents& agents) {
@@ -281,11 +291,13 @@ bool is_passed_on(const Agents& agents, const xcb_generic_event_t& event) {
     return kind_of(event) == XCB_CLIENT_MESSAGE && message.type == agents.atoms.show && message.window == agents.own;
 }
 
-bool is_change_of_another(const Agents& agents, const xcb_generic_event_t& event) {
-    if (kind_of(event) == XCB_PROPERTY_NOTIFY) {
-        return reinterpret_cast<const xcb_property_notify_event_t&>(event).atom == agents.atoms.agent;
-    }
+bool ends_another(const xcb_generic_event_t& event) {
     return kind_of(event) == XCB_DESTROY_NOTIFY;
+}
+
+bool changes_another(const Agents& agents, const xcb_generic_event_t& event) {
+    return kind_of(event) == XCB_PROPERTY_NOTIFY &&
+           reinterpret_cast<const xcb_property_notify_event_t&>(event).atom == agents.atoms.agent;
 }
 
 }  // namespace x11

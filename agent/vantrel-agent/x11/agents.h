@@ -4,7 +4,7 @@
 // Every agent makes a window, never shown, that says whose it is:
 //
 //     _VANTREL_AGENT     five CARDINALs: version of this property, process id, the hot key's keysym and modifiers, and
-//                        whether the agent has been refused the key (1) or not (0)
+//                        the agent's Standing
 //     _VANTREL_ASKED     a CARDINAL: the higher it is, the later this agent was last asked to show its inspector
 //     WM_CLIENT_MACHINE  the machine that the process is on
 //
@@ -16,11 +16,19 @@
 
 #include <xcb/xcb.h>
 
+#include <cstdint>
 #include <string>
 
 #include "hot_key.h"
 
 namespace x11 {
+
+// How an agent stands to the hot key.
+enum class Standing : uint32_t {
+    trying,  // asks for it at this moment
+    has_it,
+    has_not,
+};
 
 // One agent's place among those on its display. Not safe for use from several threads.
 struct Agents {
@@ -37,21 +45,19 @@ struct Agents {
     Atoms atoms;
     xcb_window_t root;  // the first screen's, on which the agents' windows are
     xcb_window_t own;
-    bool refused;
+    Standing standing;
 };
 
-// Makes this process's window.
+// Makes this process's window. The agent is trying.
 Agents join_agents(xcb_connection_t* connection, const HotKey& hot_key);
 
-// Says whether this agent has been refused the key.
-void set_refused(Agents& agents, bool refused);
+// Tells the others how this agent stands.
+void set_standing(Agents& agents, Standing standing);
 
-// Asks the server to tell us when another agent that wants the same key ends or changes its mind: as events
-// XCB_DESTROY_NOTIFY and XCB_PROPERTY_NOTIFY.
-void watch_others(const Agents& agents);
-
-// Whether one of the others may have the key: it wants it, and has not been refused.
-bool another_may_have_it(const Agents& agents);
+// How the others that want the same key stand: has_it if one of them has it, or else trying if one of them is trying.
+// From now on the server tells us when one of those that are there ends or tells us something else, as events that
+// ends_another and changes_another know.
+Standing look_at_others(const Agents& agents);
 
 // Chooses the agent that a press is meant for: the one whose program has the window with the focus; if there is none,
 // the one that was asked last; and if none was asked yet, this one. Remembers it as the one that was asked last, passes
@@ -61,8 +67,9 @@ bool take_or_pass_on(const Agents& agents);
 // Whether an event is a press that another agent has passed on to this one.
 bool is_passed_on(const Agents& agents, const xcb_generic_event_t& event);
 
-// Whether an event says that a watched agent has ended or changed its mind.
-bool is_change_of_another(const Agents& agents, const xcb_generic_event_t& event);
+// Whether an event says that another agent has ended, or stands otherwise now.
+bool ends_another(const xcb_generic_event_t& event);
+bool changes_another(const Agents& agents, const xcb_generic_event_t& event);
 
 }  // namespace x11
 

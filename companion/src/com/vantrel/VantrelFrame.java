@@ -16,7 +16,6 @@ import javax.swing.WindowConstants;
 import com.vantrel.model.Ours;
 import com.vantrel.model.Selection;
 import com.vantrel.view.InspectorPane;
-import com.vantrel.view.Memory;
 import com.vantrel.view.Placement;
 import com.vantrel.view.Sight;
 
@@ -37,7 +36,6 @@ public final class VantrelFrame extends JFrame implements Ours {
 
     private static VantrelFrame instance;
 
-    private transient Memory memory;
     private transient volatile Selection selection;
     private InspectorPane pane;
     /** What somebody has selected while the window was not shown. */
@@ -94,13 +92,12 @@ public final class VantrelFrame extends JFrame implements Ours {
     }
 
     private void fill() {
-        memory = Memory.open();
         selection = new Selection();
-        pane = new InspectorPane(selection, memory, Sight.NONE, chosen -> new JPanel(), this::dispose);
+        pane = new InspectorPane(selection, Sight.NONE, chosen -> new JPanel(), this::dispose);
         setRootPane(createRootPane()); // one of the look and feel that the program has now
         setContentPane(pane);
         setJMenuBar(pane.menus());
-        Placement.place(this, memory);
+        Placement.place(this);
         pane.first().requestFocusInWindow();
         selection.select(toSelect.get());
         toSelect.clear();
@@ -119,13 +116,11 @@ public final class VantrelFrame extends JFrame implements Ours {
     public void dispose() {
         looks.stop();
         if (pane != null) {
-            Placement.remember(this, memory);
+            Placement.remember(this);
             pane.remember();
-            memory.save();
             pane.clear();
             pane = null;
             selection = null;
-            memory = null;
         }
         super.dispose();
         setJMenuBar(null);

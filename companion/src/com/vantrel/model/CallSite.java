@@ -28,6 +28,8 @@ public final class CallSite {
         String name = line.getMethodName();
         if (name.startsWith("lambda$") && name.lastIndexOf('$') > "lambda$".length()) {
             name = name.substring("lambda$".length(), name.lastIndexOf('$'));
+            // A compiler cannot use the names that the VM has for these.
+            name = name.equals("new") ? "<init>" : name.equals("static") ? "<clinit>" : name;
         }
         return line.getClassName().substring(packageName(line).length()).replaceFirst("^\\.", "") + "." + name;
     }

@@ -59,7 +59,7 @@ final class Catalog {
 
     /** What the toolkit works out anew each time, by asking much else. */
     private static final Set<String> COMPUTED = new HashSet<>(
-            Arrays.asList("minimumSize", "preferredSize", "maximumSize", "alignmentX", "alignmentY"));
+            Arrays.asList("minimumSize", "preferredSize", "maximumSize"));
 
     private static final Set<String> NEEDS_LAYOUT = new HashSet<>(
             Arrays.asList("minimumSize", "preferredSize", "maximumSize", "alignmentX", "alignmentY", "constraints"));
@@ -89,6 +89,11 @@ final class Catalog {
         return catalog.inOrder();
     }
 
+    /** Whether a group is one that most components have, and not what one class adds. */
+    static boolean isCommon(String group) {
+        return GROUPS.containsKey(group);
+    }
+
     /** Whether a property takes effect only when the component's window is laid out again. */
     static boolean needsLayout(Property property) {
         return NEEDS_LAYOUT.contains(property.name());
@@ -108,8 +113,11 @@ final class Catalog {
                 all.addAll(properties.values());
             }
         }
-        for (Map<String, Property> properties : found.values()) {
-            all.addAll(properties.values());
+        for (Class<?> at = type; at != Object.class; at = at.getSuperclass()) {
+            Map<String, Property> properties = found.remove(Code.shortName(at));
+            if (properties != null) {
+                all.addAll(properties.values());
+            }
         }
         return all;
     }
@@ -171,7 +179,7 @@ final class Catalog {
                 return group.getKey();
             }
         }
-        return "Of " + Code.shortName(getter.method.getDeclaringClass());
+        return Code.shortName(getter.method.getDeclaringClass());
     }
 
     private void askProgram(Property property, Class<?> programs) {

@@ -4,6 +4,9 @@ import java.awt.Component;
 import java.lang.reflect.Method;
 import java.lang.reflect.Modifier;
 import java.lang.reflect.Proxy;
+import java.util.Arrays;
+import java.util.HashSet;
+import java.util.Set;
 import java.util.regex.Matcher;
 import java.util.regex.Pattern;
 
@@ -18,6 +21,10 @@ public final class Code {
     /** What the VM calls the class of a lambda or method reference: the name of the class that it stands in first. */
     private static final Pattern LAMBDA = Pattern.compile("(.+?)\\$\\$Lambda.*");
     private static final Pattern NESTED = Pattern.compile("\\$(?=[^0-9$])");
+
+    /** Getters that the toolkit computes nothing with, but names, tooltips and popups. */
+    private static final Set<String> ASIDE = new HashSet<>(Arrays.asList("getName", "getToolTipText",
+            "getToolTipLocation", "getPopupLocation", "getAccessibleContext", "getUIClassID", "isFocusable"));
 
     private static final ClassLoader PLATFORM = platformLoader();
 
@@ -88,7 +95,7 @@ public final class Code {
         for (Class<?> at = type; at != toolkit; at = at.getSuperclass()) {
             try {
                 for (Method method : at.getDeclaredMethods()) {
-                    if (isGetter(method) && has(toolkit, method)) {
+                    if (isGetter(method) && !ASIDE.contains(method.getName()) && has(toolkit, method)) {
                         return at;
                     }
                 }

@@ -135,7 +135,7 @@ final class Constraints {
         return weight == (long) weight ? Long.toString((long) weight) : Double.toString(weight);
     }
 
-    private static String relative(int number) {
+    static String relative(int number) {
         return number == GridBagConstraints.RELATIVE ? "RELATIVE" : Integer.toString(number);
     }
 

@@ -3,10 +3,12 @@ package com.vantrel.model;
 import java.awt.Component;
 import java.lang.reflect.Field;
 
+import com.vantrel.hooks.DesktopModule;
+
 /**
  * A field of the toolkit's, for what a program's class answers in its own way when it is asked by method. Reading it
  * runs nothing. Whether it can be read is the VM's business: its module may not be open to us, or the field not be
- * there; who asks says what holds then.
+ * there; who asks says what holds then. For any thread.
  */
 final class Fields {
     static final Fields NAME = new Fields(Component.class, "name");
@@ -29,8 +31,8 @@ final class Fields {
 
     private final Class<?> owner;
     private final String name;
-    private Field field;
-    private int tries;
+    private volatile Field field;
+    private boolean tried;
 
     private Fields(Class<?> owner, String name) {
         this.owner = owner;
@@ -38,7 +40,7 @@ final class Fields {
     }
 
     /** The value in an object; a fallback where the field cannot be read. */
-    synchronized Object of(Object object, Object fallback) {
+    Object of(Object object, Object fallback) {
         if (field == null && !open()) {
             return fallback;
         }
@@ -53,16 +55,16 @@ final class Fields {
         return field != null || open();
     }
 
-    /** The toolkit's packages may be opened to us only after somebody has asked, so that this tries again. */
     private synchronized boolean open() {
-        if (field == null && tries < 3) {
-            tries++;
+        if (field == null && !tried) {
+            tried = true;
             try {
+                DesktopModule.open(owner.getPackage().getName());
                 Field found = owner.getDeclaredField(name);
                 found.setAccessible(true);
                 field = found;
             } catch (NoSuchFieldException | RuntimeException e) {
-                // Not this time; newer VMs throw a RuntimeException of their own for what is not open.
+                // Newer VMs throw a RuntimeException of their own for what is not open.
             }
         }
         return field != null;

@@ -42,17 +42,20 @@ public final class Format {
 
     /** One of a few values, each with its name in the same place. */
     static Format chosen(List<?> values, List<String> names) {
-        return new Format(
-                value -> values.contains(value) ? names.get(values.indexOf(value))
-                        : value instanceof Number ? value.toString() : Values.object(value),
-                (text, old) -> {
-                    int at = names.indexOf(text);
-                    if (at < 0) {
-                        throw new IllegalArgumentException();
-                    }
-                    return values.get(at);
-                },
-                "one of " + String.join(", ", names), names);
+        return chosen(values, names, value -> values.contains(value) ? names.get(values.indexOf(value))
+                : value instanceof Number ? value.toString() : Values.object(value));
+    }
+
+    /** As above, where there are values beside those to choose from that can be written, too. */
+    static Format chosen(List<?> values, List<String> names, Writer writer) {
+        Parser parser = (text, old) -> {
+            int at = names.indexOf(text);
+            if (at < 0) {
+                throw new IllegalArgumentException();
+            }
+            return values.get(at);
+        };
+        return new Format(writer, parser, "one of " + String.join(", ", names), names);
     }
 
     static Format flag() {

@@ -55,10 +55,11 @@ final class Formats {
         both(long.class, Long.class, number(Long::valueOf, "a whole number that a long can hold"));
         both(float.class, Float.class, number(text -> finite(Float.valueOf(text)), "a number"));
         both(double.class, Double.class, number(text -> finite(Double.valueOf(text)), "a number"));
-        both(char.class, Character.class, Format.typed("a single character", String::valueOf, (text, old) -> {
-            require(text.length() == 1);
-            return text.charAt(0);
-        }));
+        both(char.class, Character.class, Format.typed("a single character, or nothing for none",
+                value -> (char) value == 0 ? "" : value.toString(), (text, old) -> {
+                    require(text.length() <= 1);
+                    return text.isEmpty() ? '\0' : text.charAt(0);
+                }));
         BY_TYPE.put(String.class, Format.typed("a text", value -> (String) value, (text, old) -> text));
         BY_TYPE.put(Color.class, Format.typed("a colour: type #rrggbb, #rrggbbaa, or red, green, blue from 0 to 255",
                 value -> write((Color) value), (text, old) -> color(text)));
@@ -86,8 +87,9 @@ final class Formats {
         BY_TYPE.put(Border.class, Borders.FORMAT);
         BY_TYPE.put(Cursor.class, cursors());
         BY_TYPE.put(ComponentOrientation.class, Format.chosen(
-                Arrays.asList(ComponentOrientation.LEFT_TO_RIGHT, ComponentOrientation.RIGHT_TO_LEFT),
-                Arrays.asList("left to right", "right to left")));
+                Arrays.asList(ComponentOrientation.LEFT_TO_RIGHT, ComponentOrientation.RIGHT_TO_LEFT,
+                        ComponentOrientation.UNKNOWN),
+                Arrays.asList("left to right", "right to left", "unknown")));
     }
 
     private static void both(Class<?> primitive, Class<?> boxed, Format format) {
@@ -111,7 +113,7 @@ final class Formats {
             cursors.add(Cursor.getPredefinedCursor(type));
             names.add(Cursor.getPredefinedCursor(type).getName().replace(" Cursor", ""));
         }
-        return Format.chosen(cursors, names);
+        return Format.chosen(cursors, names, value -> ((Cursor) value).getName().replace(" Cursor", ""));
     }
 
     static String write(Color color) {

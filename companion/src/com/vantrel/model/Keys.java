@@ -13,14 +13,15 @@ import java.util.HashSet;
 import java.util.List;
 import java.util.Set;
 
+import javax.swing.AbstractButton;
 import javax.swing.Action;
 import javax.swing.ActionMap;
 import javax.swing.ComponentInputMap;
 import javax.swing.InputMap;
 import javax.swing.JComponent;
 import javax.swing.JInternalFrame;
+import javax.swing.JLabel;
 import javax.swing.JMenuBar;
-import javax.swing.JMenuItem;
 import javax.swing.JPopupMenu;
 import javax.swing.KeyStroke;
 import javax.swing.plaf.UIResource;
@@ -137,7 +138,7 @@ public final class Keys {
             Binding binding = Binding.of(place, stroke);
             boolean programs = binding.isPrograms();
             (programs ? own : toolkits).add(programs ? binding.row(place.title())
-                    : binding.row(place.title() + ", the toolkit's").folded());
+                    : binding.row(place.title() + " \u00b7 the toolkit's").folded());
         }
         for (List<Row> part : Arrays.asList(own, toolkits)) {
             part.sort((one, other) -> one.name().compareTo(other.name()));
@@ -171,7 +172,10 @@ public final class Keys {
 
         /** Whether the program has bound it: in a map of its own, with an action of its own, or to a menu item. */
         boolean isPrograms() {
-            if (place.component instanceof JMenuItem || action != null && !Code.isMachinery(action.getClass())) {
+            // Accelerators and mnemonics are the program's; the look and feel has made bindings of them.
+            boolean shortcut = place.condition == JComponent.WHEN_IN_FOCUSED_WINDOW
+                    && (place.component instanceof AbstractButton || place.component instanceof JLabel);
+            if (shortcut || action != null && !Code.isMachinery(action.getClass())) {
                 return true;
             }
             for (InputMap map = place.map; map != null; map = map.getParent()) {
@@ -214,8 +218,17 @@ public final class Keys {
             return component.isShowing();
         }
 
+        /** The toolkit's actions are nested in the classes that people know. */
+        private static String actor(Class<?> type) {
+            Class<?> outermost = type;
+            while (Code.isToolkit(type) && outermost.getEnclosingClass() != null) {
+                outermost = outermost.getEnclosingClass();
+            }
+            return Code.shortName(outermost);
+        }
+
         Row row(String group) {
-            String acts = action == null ? "no action" : Code.shortName(action.getClass());
+            String acts = action == null ? "no action" : actor(action.getClass());
             Row row = Row.of(group, text(stroke), Values.text(name)).note(acts)
                     .type(action == null ? "" : action.getClass().getName()).programs(isPrograms());
             return action == null ? row.kind(Row.Kind.DIM) : row;

@@ -69,8 +69,8 @@ public final class LayoutFacts {
         } catch (RuntimeException e) {
             reason = Values.error(e);
         }
-        rows.add(Row.of(SIZE, wide ? "width" : "height", is + ", " + difference + (reason == null ? "" : ": " + reason))
-                .kind(is == wants ? Row.Kind.DIM : Row.Kind.PLAIN));
+        rows.add(Row.of(SIZE, wide ? "its width" : "its height",
+                is == wants || reason == null ? difference : difference + ": " + reason).kind(is == wants ? Row.Kind.DIM : Row.Kind.PLAIN));
     }
 
     private static void addParent(List<Row> rows, Reading reading, Component component, Container parent) {

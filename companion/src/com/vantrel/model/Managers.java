@@ -153,7 +153,8 @@ final class Managers {
             Format format = Constraints.format(child);
             if (format != null) {
                 Object told = Constraints.of(child);
-                return told == null ? "" : format.write(told);
+                return told instanceof GridBagConstraints ? cell((GridBagConstraints) told)
+                        : told == null ? "" : format.write(told);
             }
             if (layout instanceof SpringLayout && Code.getterOverrider(layout.getClass()) == null) {
                 SpringLayout.Constraints springs = ((SpringLayout) layout).getConstraints(child);
@@ -164,6 +165,13 @@ final class Managers {
         } catch (Throwable thrown) {
             return Values.error(thrown);
         }
+    }
+
+    private static String cell(GridBagConstraints at) {
+        String where = "column " + Constraints.relative(at.gridx) + ", row " + Constraints.relative(at.gridy);
+        boolean one = at.gridwidth == 1 && at.gridheight == 1;
+        return one ? where : where + ", " + Constraints.relative(at.gridwidth) + " \u00d7 "
+                + Constraints.relative(at.gridheight) + " cells";
     }
 
     private static String scrollPart(JScrollPane pane, Component child) {
@@ -183,7 +191,7 @@ final class Managers {
         Container parent = child.getParent();
         LayoutManager layout = parent == null ? null : parent.getLayout();
         if (layout == null) {
-            return parent == null ? null : "the program sets its bounds, for its parent has no layout manager";
+            return parent == null ? null : "the program sets its bounds";
         }
         String name = Code.shortName(layout.getClass());
         if (layout instanceof BorderLayout) {
@@ -193,27 +201,25 @@ final class Managers {
             int fill = ((GridBagLayout) layout).getConstraints(child).fill;
             boolean filled = fill == GridBagConstraints.BOTH
                     || fill == (wide ? GridBagConstraints.HORIZONTAL : GridBagConstraints.VERTICAL);
-            return filled ? "it fills its cell of the GridBagLayout" : "GridBagLayout gives it no more than it prefers, "
-                    + "and its minimum where that does not fit";
+            return filled ? "it fills its grid cell" : "its grid cell has no room";
         }
         if (layout instanceof GridLayout) {
-            return "in a GridLayout all cells are alike";
+            return "all cells of the grid are alike";
         }
         if (layout instanceof CardLayout) {
-            return "in a CardLayout a card has all of the parent";
+            return "a card has all of its parent";
         }
         if (layout instanceof FlowLayout) {
             return "FlowLayout gives what is preferred";
         }
         if (layout instanceof BoxLayout) {
             boolean along = axis((BoxLayout) layout, parent) == wide;
-            return along ? "BoxLayout stretches and shrinks along its axis, from minimum to maximum"
-                    : "across its axis BoxLayout gives the parent's size, up to the maximum";
+            return along ? "BoxLayout shares out what is there" : "as its parent, up to the maximum";
         }
         if (layout instanceof ViewportLayout && parent instanceof JViewport) {
             boolean follows = child instanceof Scrollable && (wide ? ((Scrollable) child).getScrollableTracksViewportWidth()
                     : ((Scrollable) child).getScrollableTracksViewportHeight());
-            return follows ? "it follows the viewport" : "a viewport gives what is preferred, and at least its own size";
+            return follows ? "it follows the viewport" : "at least as its viewport";
         }
         return name + " decides";
     }
@@ -221,12 +227,12 @@ final class Managers {
     private static String border(BorderLayout layout, Component child, boolean wide) {
         Object region = layout.getConstraints(child);
         if (region == null) {
-            return "it has no region of the BorderLayout, and is not laid out";
+            return "it has no region, and is not laid out";
         }
         boolean stretched = wide ? Arrays.asList("North", "South", "First", "Last").contains(region)
                 : Arrays.asList("West", "East", "Before", "After").contains(region);
-        return region.equals(BorderLayout.CENTER) ? "the CENTER of a BorderLayout gets what is left"
-                : stretched ? "BorderLayout stretches this side from end to end"
+        return region.equals(BorderLayout.CENTER) ? "the CENTER gets what is left"
+                : stretched ? "this side goes from end to end"
                 : "BorderLayout gives this side what it prefers";
     }
 }

@@ -2,7 +2,6 @@ package com.vantrel.model;
 
 import java.awt.Color;
 import java.awt.Component;
-import java.util.Locale;
 import java.util.regex.Pattern;
 
 /** A condition on a property of a component, or on one of its value's, as it was typed: {@code font.size>11}. */
@@ -10,6 +9,7 @@ final class PropertyTest {
     private final String[] path;
     private final String operator;
     private final String wanted;
+    /** Null where the wanted text has no wildcard. */
     private final Pattern pattern;
     private final Double number;
     private final Color color;
@@ -20,7 +20,7 @@ final class PropertyTest {
         this.operator = operator;
         this.wanted = wanted;
         this.calls = calls;
-        pattern = Pattern.compile(Pattern.quote(wanted).replace("*", "\\E.*\\Q"),
+        pattern = wanted.indexOf('*') < 0 ? null : Pattern.compile(Pattern.quote(wanted).replace("*", "\\E.*\\Q"),
                 Pattern.CASE_INSENSITIVE | Pattern.UNICODE_CASE | Pattern.DOTALL);
         number = number(wanted);
         color = color(wanted);
@@ -69,8 +69,8 @@ final class PropertyTest {
         if (value instanceof Color && color != null) {
             return color.getRGB() == ((Color) value).getRGB();
         }
-        return pattern.matcher(Values.text(value)).matches()
-                || value != null && Code.shortName(value.getClass()).toLowerCase(Locale.ROOT)
-                        .equals(wanted.toLowerCase(Locale.ROOT));
+        String text = Values.text(value);
+        return (pattern == null ? text.equalsIgnoreCase(wanted) : pattern.matcher(text).matches())
+                || value != null && ClassFacts.of(value.getClass()).name().equalsIgnoreCase(wanted);
     }
 }

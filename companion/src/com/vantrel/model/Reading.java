@@ -76,7 +76,7 @@ public final class Reading {
         boolean client = false;
         for (Slot slot : slots) {
             // The client properties are not the class's, and stand before what the class adds.
-            if (!client && slot.property.group().startsWith("Of ")) {
+            if (!client && !Catalog.isCommon(slot.property.group())) {
                 addClientProperties(rows);
                 client = true;
             }
@@ -97,7 +97,7 @@ public final class Reading {
     /** The line of a property of the groups that all components have; null if there is none. */
     public Row row(String name) {
         for (Slot slot : slots) {
-            if (slot.property.name().equals(name) && !slot.property.group().startsWith("Of ")) {
+            if (slot.property.name().equals(name) && Catalog.isCommon(slot.property.group())) {
                 return slot.row;
             }
         }
@@ -150,6 +150,34 @@ public final class Reading {
             }
         }
         askedForCell = false;
+    }
+
+    /**
+     * The value of a line as it is to be edited: all of it, where the line may have less.
+     *
+     * @throws IllegalStateException if it cannot be read any more
+     */
+    public String textToEdit(Row row) {
+        return row.property().format().write(valueOf(row));
+    }
+
+    /**
+     * Makes a value for a line of a text that the user has typed.
+     *
+     * @throws IllegalArgumentException whose message says what is wrong and what to type
+     * @throws IllegalStateException    if the line's value cannot be read any more
+     */
+    public Object parse(Row row, String text) {
+        return row.property().format().parse(text, valueOf(row));
+    }
+
+    private Object valueOf(Row row) {
+        try {
+            Component component = target.component();
+            return component == null ? null : row.property().read(component);
+        } catch (Throwable thrown) {
+            throw new IllegalStateException(Values.error(thrown), thrown);
+        }
     }
 
     /** The lines that wait to be asked for, one by one, so that the program can go on between them. */
@@ -228,7 +256,9 @@ public final class Reading {
 
     private Row row(Slot slot, Component component, Object value) {
         Property property = slot.property;
-        Row row = Row.of(property.group(), property.name(), Values.text(value));
+        String text = value != null && property.format() != null ? Values.cut(property.format().write(value))
+                : Values.text(value);
+        Row row = Row.of(property.group(), property.name(), text);
         row.type(value == null ? property.type().getName() : value.getClass().getName());
         boolean whole = !(value instanceof String) || ((String) value).length() <= Values.LONGEST;
         if (whole && !target.isCell()) {
@@ -243,9 +273,6 @@ public final class Reading {
         }
         row.programs(isPrograms(value));
         row.note(note(slot, component, value));
-        if (row.isEditable()) {
-            row.explanation("Enter or F2 edits it: " + property.format().expects() + ".");
-        }
         return row;
     }
 

@@ -15,6 +15,7 @@ public final class TreeSearch {
     private final ComponentTree tree;
     private Calls calls = new Calls();
     private Query query = Query.parse("", calls);
+    /** What is to be looked at; null where that is yet to be seen. */
     private List<TreeNode> open = Collections.emptyList();
     private int next;
     private List<TreeNode> finds = new ArrayList<>();
@@ -36,7 +37,7 @@ public final class TreeSearch {
 
     /** Searches again for the same: the program has changed. */
     public void startOver() {
-        open = query.isEmpty() ? Collections.emptyList() : tree.all();
+        open = query.isEmpty() ? Collections.emptyList() : null;
         next = 0;
         finds = new ArrayList<>();
     }
@@ -46,12 +47,18 @@ public final class TreeSearch {
     }
 
     public boolean isWorking() {
-        return next < open.size();
+        return open == null || next < open.size();
     }
 
     /** Goes on for a while, in nanoseconds. Returns whether the rows are others now. */
     public boolean work(long duration) {
         long end = System.nanoTime() + duration;
+        if (open == null) {
+            open = tree.all();
+        }
+        if (open.isEmpty() && isOn()) {
+            return finish();
+        }
         while (isWorking()) {
             int until = Math.min(open.size(), next + AT_ONCE);
             for (; next < until; next++) {
@@ -61,17 +68,21 @@ public final class TreeSearch {
                 }
             }
             if (!isWorking()) {
-                open = Collections.emptyList();
-                next = 0;
-                found = finds.size();
-                tree.showOnly(finds);
-                return true;
+                return finish();
             }
             if (System.nanoTime() - end > 0) {
                 return false;
             }
         }
         return false;
+    }
+
+    private boolean finish() {
+        open = Collections.emptyList();
+        next = 0;
+        found = finds.size();
+        tree.showOnly(finds);
+        return true;
     }
 
     /** How many components the last search found. */
@@ -81,7 +92,7 @@ public final class TreeSearch {
 
     /** How much of the search is done, in percent. */
     public int percent() {
-        return open.isEmpty() ? 100 : (int) (100L * next / open.size());
+        return open == null ? 0 : open.isEmpty() ? 100 : (int) (100L * next / open.size());
     }
 
     public Query query() {

@@ -2,6 +2,7 @@ package com.vantrel.model;
 
 import java.awt.Color;
 import java.awt.Component;
+import java.awt.Cursor;
 import java.awt.Dimension;
 import java.awt.Font;
 import java.awt.Insets;
@@ -77,7 +78,7 @@ final class Values {
         if (value instanceof Dimension) {
             return Formats.write((Dimension) value);
         }
-        if (value instanceof Rectangle) {
+        if (type == Rectangle.class) { // a caret is one, too
             return Formats.write((Rectangle) value);
         }
         if (value instanceof Border) {
@@ -96,11 +97,14 @@ final class Values {
             int size = value instanceof Map ? ((Map<?, ?>) value).size() : ((Collection<?>) value).size();
             return Code.shortName(type) + ", " + count(size, "element");
         }
+        if (value instanceof Cursor) {
+            return Formats.of(Cursor.class).write(value);
+        }
         Format format = Formats.of(type);
         if (format != null) {
             return format.write(value);
         }
-        return SELF_TOLD.contains(type) ? cut(value.toString()) : object(value);
+        return SELF_TOLD.contains(type) ? cut(value.toString()) : Code.shortName(type);
     }
 
     /** A number and what it counts. */

@@ -18,7 +18,6 @@ import javax.swing.Action;
 import javax.swing.BorderFactory;
 import javax.swing.JButton;
 import javax.swing.JComponent;
-import javax.swing.JLabel;
 import javax.swing.JPanel;
 import javax.swing.JPopupMenu;
 import javax.swing.JScrollPane;
@@ -45,7 +44,7 @@ public final class AddedAtPanel extends JPanel {
     private final transient Selection selection;
     private final StackRows rows = new StackRows();
     private final StackList list = new StackList(rows);
-    private final JLabel message = new JLabel(" ");
+    private final PlainLabel message = new PlainLabel(" ", Look::dim, 1);
     private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> refresh());
     private transient AddedAt shown = AddedAt.of(null);
 
@@ -257,6 +256,6 @@ public final class AddedAtPanel extends JPanel {
     private void tell(Editor.Outcome outcome) {
         message.setText(outcome.line());
         message.setToolTipText(outcome.line());
-        message.setForeground(outcome.isFailure() ? Look.error() : Look.dim());
+        message.setColor(outcome.isFailure() ? Look::error : Look::dim);
     }
 }

@@ -20,6 +20,7 @@ final class EditorSettings extends JPanel {
     private static final long serialVersionUID = 1L;
 
     private static final int COLUMNS = 24;
+    private static final float HINT_SIZE = 0.9f;
 
     private final transient Consumer<Editor.Outcome> told;
     private int row;
@@ -31,7 +32,7 @@ final class EditorSettings extends JPanel {
         setBorder(Look.padding());
         add("Editor command", Editor.COMMAND, "Such as: idea --line %line %file",
                 "Quotes keep words together; no shell is used");
-        add("Source folders", Editor.SOURCES, "Beside the folder that the program runs in",
+        add("Source folders", Editor.SOURCES, "The folder that the program runs in is searched, too",
                 "Separated as in a class path");
     }
 
@@ -46,18 +47,9 @@ final class EditorSettings extends JPanel {
                 remember(setting, field);
             }
         });
-        JLabel label = new JLabel(title);
+        JLabel label = new PlainLabel(title, Look::foreground, 1);
         label.setLabelFor(field);
-        JLabel help = new JLabel(hint) {
-            private static final long serialVersionUID = 1L;
-
-            @Override
-            public void updateUI() {
-                super.updateUI();
-                setForeground(Look.dim());
-                setFont(Look.font().deriveFont(Look.font().getSize2D() * 0.9f));
-            }
-        };
+        JLabel help = new PlainLabel(hint, Look::dim, HINT_SIZE);
         add(label, at(0, row, 0));
         add(field, at(1, row, 1));
         add(help, at(1, row + 1, 1));

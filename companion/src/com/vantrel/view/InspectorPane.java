@@ -18,6 +18,7 @@ import javax.swing.JPopupMenu;
 import javax.swing.KeyStroke;
 
 import com.vantrel.model.Selection;
+import com.vantrel.model.Settings;
 import com.vantrel.model.TreeNode;
 
 /** All that is in the inspector's window. Made when the window is shown, and dropped when it is closed. */
@@ -28,7 +29,6 @@ public final class InspectorPane extends JPanel {
     private static final int TREE_WIDTH = 420;
 
     private final transient Selection selection;
-    private final transient Memory memory;
     private final transient Sight sight;
     private final TreePane tree;
     private final transient Commands commands;
@@ -42,11 +42,10 @@ public final class InspectorPane extends JPanel {
      * @param details makes the part of the window that tells all about the selected component, out of the selection
      * @param close   hides the window
      */
-    public InspectorPane(Selection selection, Memory memory, Sight sight, Function<Selection, JComponent> details,
+    public InspectorPane(Selection selection, Sight sight, Function<Selection, JComponent> details,
             Runnable close) {
         super(new BorderLayout());
         this.selection = selection;
-        this.memory = memory;
         this.sight = sight;
         tree = new TreePane(selection);
         status = new StatusLine(selection);
@@ -54,7 +53,7 @@ public final class InspectorPane extends JPanel {
         tools = new ToolBar(commands, tree.searchBar(), null, null);
         this.details = new DetailsPane(selection, details.apply(selection));
         split = new Split(tree, this.details);
-        split.setDividerLocation(memory.number(SPLIT, TREE_WIDTH));
+        split.setDividerLocation(Settings.get(SPLIT, TREE_WIDTH));
         split.setResizeWeight(0.3);
         menus = Menus.bar(commands, tree.tree()::showsMachinery, closing(close), null, null);
         add(tools, BorderLayout.PAGE_START);
@@ -66,7 +65,7 @@ public final class InspectorPane extends JPanel {
         tree.onLook(this::update);
         tree.view().onHover(node -> sight.outline(node == null ? null : node.component()));
         rowMenu(tree.view(), Menus.ofRow(commands));
-        tree.tree().showMachinery(memory.flag(MACHINERY, false));
+        tree.tree().showMachinery(Boolean.parseBoolean(Settings.get(MACHINERY, "")));
         update();
     }
 
@@ -131,8 +130,8 @@ public final class InspectorPane extends JPanel {
 
     /** Remembers what is to be remembered of the window's parts. */
     public void remember() {
-        memory.put(SPLIT, split.getDividerLocation());
-        memory.put(MACHINERY, tree.tree().showsMachinery());
+        Settings.set(SPLIT, String.valueOf(split.getDividerLocation()));
+        Settings.set(MACHINERY, String.valueOf(tree.tree().showsMachinery()));
     }
 
     /** Forgets everything else: the window is being closed. */

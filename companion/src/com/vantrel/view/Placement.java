@@ -11,13 +11,11 @@ import java.awt.Toolkit;
 import java.awt.Window;
 
 import com.vantrel.model.Ours;
+import com.vantrel.model.Settings;
 
 /** Where the inspector's window goes on the screen: where it was last, or else beside the program. */
 public final class Placement {
-    private static final String X = "window.x";
-    private static final String Y = "window.y";
-    private static final String WIDTH = "window.width";
-    private static final String HEIGHT = "window.height";
+    private static final String BOUNDS = "window.bounds";
     private static final Dimension SIZE = new Dimension(1000, 650);
     /** So much of a window must be on a screen for somebody to take hold of it. */
     private static final Dimension GRIP = new Dimension(120, 40);
@@ -26,9 +24,8 @@ public final class Placement {
     }
 
     /** Places a window where it was last, if there is still a screen, or beside the program's. */
-    public static void place(Frame frame, Memory memory) {
-        Rectangle last = new Rectangle(memory.number(X, 0), memory.number(Y, 0), memory.number(WIDTH, 0),
-                memory.number(HEIGHT, 0));
+    public static void place(Frame frame) {
+        Rectangle last = parse(Settings.get(BOUNDS, ""));
         for (GraphicsDevice device : GraphicsEnvironment.getLocalGraphicsEnvironment().getScreenDevices()) {
             Rectangle seen = usable(device.getDefaultConfiguration()).intersection(last);
             if (seen.width >= GRIP.width && seen.height >= GRIP.height) {
@@ -39,14 +36,25 @@ public final class Placement {
         frame.setBounds(beside(programWindow()));
     }
 
+    private static Rectangle parse(String text) {
+        Rectangle bounds = new Rectangle();
+        String[] parts = text.split(" ");
+        if (parts.length == 4) {
+            try {
+                bounds.setBounds(Integer.parseInt(parts[0]), Integer.parseInt(parts[1]), Integer.parseInt(parts[2]),
+                        Integer.parseInt(parts[3]));
+            } catch (NumberFormatException e) {
+                bounds.setBounds(0, 0, 0, 0); // somebody has been at the file
+            }
+        }
+        return bounds;
+    }
+
     /** Remembers where a window is, unless it is minimised or as large as the screen. */
-    public static void remember(Frame frame, Memory memory) {
+    public static void remember(Frame frame) {
         if (frame.getExtendedState() == Frame.NORMAL) {
             Rectangle now = frame.getBounds();
-            memory.put(X, now.x);
-            memory.put(Y, now.y);
-            memory.put(WIDTH, now.width);
-            memory.put(HEIGHT, now.height);
+            Settings.set(BOUNDS, now.x + " " + now.y + " " + now.width + " " + now.height);
         }
     }
 

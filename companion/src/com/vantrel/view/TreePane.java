@@ -44,7 +44,7 @@ final class TreePane extends JPanel {
     private final StatePanel state = new StatePanel();
     private final CardLayout cards = new CardLayout();
     private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> look());
-    private final Timer pieces = new Timer(0, event -> goOnSearching());
+    private final Timer pieces = new Timer(1, event -> goOnSearching());
     private long searchStarted;
     private long searchTook;
     private boolean goToFirst;
@@ -74,6 +74,7 @@ final class TreePane extends JPanel {
         bar.onKey("shift ENTER", () -> step(-1));
         bar.onKey("ESCAPE", this::endSearch);
         bar.onKey("DOWN", view::requestFocusInWindow);
+        pieces.setRepeats(false);
         looks.setInitialDelay(0);
         looks.setCoalesce(true);
     }
@@ -168,7 +169,7 @@ final class TreePane extends JPanel {
         searchStarted = System.nanoTime();
         goToFirst = true;
         if (search.isOn()) {
-            goOnSearching();
+            pieces.start(); // and not at once: there may be more keys waiting
         } else {
             pieces.stop();
             showSelected();

@@ -49,6 +49,7 @@ public class AddedAtTest {
             {"toolkit*1 7 7", add, "a.B.c:7", "a.B.c:7"},
             {"toolkit*1 7 2more*2 8", add, "a.B.c:7", "a.B.c:7", "a.B.c:7", "a.B.c:8"},
             {"1 2 1more*2", "a.B.c:1", "a.B.c:2", "a.B.c:1", "a.B.c:2"},
+            {"1 2 1more*2 1", "a.B.c:1", "a.B.c:2", "a.B.c:1", "a.B.c:2", "a.B.c:1"},
             {"7 toolkit*2 2more*6 9", "a.B.c:7", add, add, "a.B.c:7", add, add, "a.B.c:7", add, add, "a.B.c:9"},
             // Other calls of the toolkit between are another round.
             {"7 toolkit*2 7 toolkit*1", "a.B.c:7", add, add, "a.B.c:7", add},
@@ -87,6 +88,8 @@ public class AddedAtTest {
         AddedAt toolkits = addedAt("java.awt.Container.add:1");
         assertNull(toolkits.where());
         assertEquals("added by the toolkit, by no line of the program", toolkits.line());
+
+        assertEquals("Form.<init>(File.java:7)", addedAt("a.Form.lambda$new$12:7").line());
 
         String[][] cases = { // the line, class, method, file, number
             {"at Main.main(Main.java:3)", "Main", "main", "Main.java", "3"},

@@ -1,0 +1,155 @@
+package com.vantrel.view;
+
+import java.awt.BorderLayout;
+import java.awt.Component;
+import java.awt.event.HierarchyEvent;
+import java.awt.event.InputEvent;
+import java.awt.event.KeyEvent;
+import java.util.Collections;
+
+import javax.swing.JButton;
+import javax.swing.JComponent;
+import javax.swing.JPanel;
+import javax.swing.JTabbedPane;
+import javax.swing.KeyStroke;
+import javax.swing.Timer;
+
+import com.vantrel.model.Edits;
+import com.vantrel.model.Listeners;
+import com.vantrel.model.Reading;
+import com.vantrel.model.Selection;
+import com.vantrel.model.Target;
+
+/**
+ * All that there is to know of the selected component, on the right of the window: a header, and a tab each for its
+ * properties, layout, where it was added, listeners and keys. Reads while it shows, and only what is selected and in
+ * front; drops all of it when the selection is cleared. Belongs to the event thread.
+ */
+public final class Details extends JPanel {
+    private static final long serialVersionUID = 1L;
+
+    private static final int MILLIS_BETWEEN_READINGS = 200;
+    /** Listeners and keys change seldom, and take longer to find. */
+    private static final int READINGS_BETWEEN_SEARCHES = 5;
+
+    private final transient Selection selection;
+    private final transient Edits edits;
+    private final Header header;
+    private final JTabbedPane tabs = new JTabbedPane();
+    private final RowsPanel properties = new RowsPanel("vantrel.properties", "Filter properties");
+    private final LayoutPanel layout;
+    private final RowsPanel listeners = new RowsPanel("vantrel.listeners", "Filter listeners");
+    private final KeysPanel keys;
+    private final JButton readAll = new JButton("Read all");
+    private final Timer readings = new Timer(MILLIS_BETWEEN_READINGS, event -> read());
+    private transient Reading reading;
+    /** Whether what is shown is the selection's from before, so that what differs has changed. */
+    private boolean shown;
+    private int count;
+
+    /**
+     * @param selection what is shown, and written to by a click on a sibling
+     * @param edits     what is changed here goes through it
+     * @param addedAt   the panel that says where the component was added; openWhere opens the line
+     */
+    public Details(Selection selection, Edits edits, JComponent addedAt, Runnable openWhere) {
+        super(new BorderLayout());
+        this.selection = selection;
+        this.edits = edits;
+        header = new Header(openWhere);
+        layout = new LayoutPanel(selection, () -> reading, edits, this::showReading);
+        keys = new KeysPanel(selection);
+        PropertyRows editing = new PropertyRows(properties, () -> reading, edits, this::showReading);
+        readAll.setName("vantrel.properties.readAll");
+        readAll.setToolTipText(Tips.of("Reads what only runs the program's own code, one after the other. "
+                + "Nothing of that is read unasked."));
+        readAll.addActionListener(event -> editing.askAll());
+        properties.addTool(readAll);
+        tabs.setName("vantrel.details");
+        tabs.addTab("Properties", properties);
+        tabs.addTab("Layout", layout);
+        tabs.addTab("Added at", addedAt);
+        tabs.addTab("Listeners", listeners);
+        tabs.addTab("Keys", keys);
+        tabs.addChangeListener(event -> showInFront(false));
+        add(header, BorderLayout.NORTH);
+        add(tabs, BorderLayout.CENTER);
+        bindUndo();
+        selection.onChange(this::selectionChanged);
+        edits.onChange(this::read);
+        edits.onComplaint(text -> properties.table().complain(0, text));
+        addHierarchyListener(event -> {
+            if ((event.getChangeFlags() & HierarchyEvent.SHOWING_CHANGED) != 0) {
+                showingChanged();
+            }
+        });
+        selectionChanged();
+    }
+
+    private void bindUndo() {
+        int shortcut = Tips.shortcutMask();
+        int condition = WHEN_ANCESTOR_OF_FOCUSED_COMPONENT;
+        RowsPanel.bind(this, condition, KeyStroke.getKeyStroke(KeyEvent.VK_Z, shortcut), edits::undo);
+        RowsPanel.bind(this, condition, KeyStroke.getKeyStroke(KeyEvent.VK_Y, shortcut), edits::redo);
+        RowsPanel.bind(this, condition,
+                KeyStroke.getKeyStroke(KeyEvent.VK_Z, shortcut | InputEvent.SHIFT_DOWN_MASK), edits::redo);
+    }
+
+    private void showingChanged() {
+        if (isShowing()) {
+            read();
+            readings.start();
+        } else {
+            readings.stop();
+        }
+    }
+
+    private void selectionChanged() {
+        Target target = selection.target();
+        reading = target == null ? null : new Reading(target);
+        shown = false;
+        count = 0;
+        keys.forget();
+        listeners.show(Collections.emptyList(), false);
+        readAll.setEnabled(false);
+        if (isShowing() || reading == null) {
+            read();
+        }
+    }
+
+    private void read() {
+        boolean there = reading != null && reading.refresh();
+        if (reading != null && !there && selection.target() == null) {
+            // It has been collected: what was read of it is still worth looking at, but nothing can be done with it.
+            header.show(reading);
+            return;
+        }
+        edits.forgetGone();
+        showReading();
+    }
+
+    private void showReading() {
+        header.show(reading);
+        readAll.setEnabled(reading != null && !reading.unasked().isEmpty());
+        showInFront(shown);
+        shown = reading != null;
+    }
+
+    /** Shows in the tab in front what has been read; the others will when they come to the front. */
+    private void showInFront(boolean flash) {
+        Component front = tabs.getSelectedComponent();
+        if (front == properties || reading == null) {
+            properties.show(reading == null ? Collections.emptyList() : reading.rows(), flash);
+        }
+        if (front == layout || reading == null) {
+            layout.show(reading, flash);
+        }
+        if (front == listeners && (count++ % READINGS_BETWEEN_SEARCHES == 0 || !flash)) {
+            Component component = selection.component();
+            listeners.show(component == null ? Collections.emptyList() : Listeners.of(component), flash);
+        }
+        if (front == keys && (count++ % READINGS_BETWEEN_SEARCHES == 0 || !flash)) {
+            keys.refresh(flash);
+        }
+    }
+}

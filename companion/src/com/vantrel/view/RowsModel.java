@@ -1,0 +1,229 @@
+package com.vantrel.view;
+
+import java.util.ArrayList;
+import java.util.Collections;
+import java.util.HashMap;
+import java.util.LinkedHashMap;
+import java.util.List;
+import java.util.Locale;
+import java.util.Map;
+
+import javax.swing.table.AbstractTableModel;
+
+import com.vantrel.model.Row;
+
+/**
+ * Rows in groups, as lines of a table: a line for each group that is not empty, and below it those rows that the filter
+ * lets through, unless it is folded. Rows that are set again and say something else are remembered for a moment, so
+ * that they can flash. Belongs to the event thread.
+ */
+final class RowsModel extends AbstractTableModel {
+    private static final long serialVersionUID = 1L;
+
+    static final int NAME = 0;
+    static final int VALUE = 1;
+    static final int NOTE = 2;
+
+    private static final long FLASH_NANOS = 1_200_000_000L;
+
+    /** A group's title, or a row. */
+    private static final class Line {
+        final String group;
+        final Row row;
+        final int count;
+
+        Line(String group, Row row, int count) {
+            this.group = group;
+            this.row = row;
+            this.count = count;
+        }
+
+        boolean isAbout(Line other) {
+            return row == null ? other.row == null && group.equals(other.group)
+                    : other.row != null && row.isAbout(other.row);
+        }
+
+        boolean isSameAs(Line other) {
+            return row == null ? count == other.count : row.isSameAs(other.row);
+        }
+
+        String key() {
+            return row == null ? group : group + '\n' + row.name();
+        }
+    }
+
+    private transient List<Row> rows = Collections.emptyList();
+    private transient List<Line> lines = Collections.emptyList();
+    private String filter = "";
+    /** By group, whether the user has opened or folded it; others are as their rows want it. */
+    private final Map<String, Boolean> open = new HashMap<>();
+    private final Map<String, Long> changedAt = new HashMap<>();
+
+    /**
+     * Shows rows. What stays where it is keeps its line, so that nothing moves that has not changed.
+     *
+     * @param flash whether rows that say something else than before are to flash
+     * @return whether there are other lines than before
+     */
+    boolean show(List<Row> now, boolean flash) {
+        rows = now;
+        List<Line> before = lines;
+        lines = lines();
+        if (!flash) {
+            changedAt.clear();
+        }
+        boolean moved = before.size() != lines.size();
+        for (int i = 0; i < lines.size() && !moved; i++) {
+            moved = !lines.get(i).isAbout(before.get(i));
+        }
+        if (moved) {
+            fireTableDataChanged();
+            return true;
+        }
+        for (int i = 0; i < lines.size(); i++) {
+            Line line = lines.get(i);
+            if (!line.isSameAs(before.get(i))) {
+                if (flash && line.row != null && !line.row.saysSame(before.get(i).row)
+                        && before.get(i).row.kind() != Row.Kind.ASK) {
+                    changedAt.put(line.key(), System.nanoTime());
+                }
+                fireTableRowsUpdated(i, i);
+            }
+        }
+        return false;
+    }
+
+    /** Shows only rows that have each of the words of a text somewhere; all of them for an empty one. */
+    void filter(String text) {
+        filter = text.trim().toLowerCase(Locale.ROOT);
+        lines = lines();
+        fireTableDataChanged();
+    }
+
+    boolean isFiltered() {
+        return !filter.isEmpty();
+    }
+
+    private List<Line> lines() {
+        Map<String, List<Row>> groups = new LinkedHashMap<>();
+        for (Row row : rows) {
+            if (passes(row)) {
+                groups.computeIfAbsent(row.group(), key -> new ArrayList<>()).add(row);
+            }
+        }
+        List<Line> made = new ArrayList<>();
+        for (Map.Entry<String, List<Row>> group : groups.entrySet()) {
+            made.add(new Line(group.getKey(), null, group.getValue().size()));
+            if (isOpen(group.getKey())) {
+                for (Row row : group.getValue()) {
+                    made.add(new Line(group.getKey(), row, 0));
+                }
+            }
+        }
+        return made;
+    }
+
+    private boolean passes(Row row) {
+        if (filter.isEmpty()) {
+            return true;
+        }
+        String text = (row.group() + ' ' + row.name() + ' ' + row.value() + ' ' + row.note()).toLowerCase(Locale.ROOT);
+        for (String word : filter.split("\\s+")) {
+            if (!text.contains(word)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    /** Whether a group's rows are shown. What a filter has found always is. */
+    boolean isOpen(String group) {
+        if (isFiltered()) {
+            return true;
+        }
+        Boolean users = open.get(group);
+        if (users != null) {
+            return users;
+        }
+        for (Row row : rows) {
+            if (row.group().equals(group) && row.isFolded()) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    void setOpen(String group, boolean is) {
+        open.put(group, is);
+        lines = lines();
+        fireTableDataChanged();
+    }
+
+    /** The row of a line; null for a group's title. */
+    Row row(int line) {
+        return line < 0 || line >= lines.size() ? null : lines.get(line).row;
+    }
+
+    /** The group that a line belongs to, or is the title of. */
+    String group(int line) {
+        return lines.get(line).group;
+    }
+
+    int countIn(int line) {
+        return lines.get(line).count;
+    }
+
+    /** What tells a line from all others, whatever it says; null if there is no such line. */
+    String key(int line) {
+        return line < 0 || line >= lines.size() ? null : lines.get(line).key();
+    }
+
+    /** The line of a key, or the title of the group that it is in while that is folded; -1 if there is none. */
+    int line(String key) {
+        for (int i = 0; key != null && i < lines.size(); i++) {
+            if (lines.get(i).key().equals(key)) {
+                return i;
+            }
+        }
+        return key != null && key.indexOf('\n') >= 0 ? line(key.substring(0, key.indexOf('\n'))) : -1;
+    }
+
+    /** How strongly a line flashes: from 1, when it has just changed, to 0. */
+    double flash(int line) {
+        Long at = changedAt.get(key(line));
+        return at == null ? 0 : Math.max(0, 1 - (double) (System.nanoTime() - at) / FLASH_NANOS);
+    }
+
+    /** Whether a line flashes, or has until just now and is to be painted once more. */
+    boolean isFlashing() {
+        boolean any = !changedAt.isEmpty();
+        changedAt.values().removeIf(at -> System.nanoTime() - at > FLASH_NANOS);
+        return any;
+    }
+
+    @Override
+    public int getRowCount() {
+        return lines.size();
+    }
+
+    @Override
+    public int getColumnCount() {
+        return 3;
+    }
+
+    @Override
+    public Object getValueAt(int line, int column) {
+        Row row = row(line);
+        if (row == null) {
+            return column == NAME ? group(line) : "";
+        }
+        return column == NAME ? row.name() : column == VALUE ? row.value() : row.note();
+    }
+
+    /** What can be edited has an editor, which sets it itself: what is set is not always what is shown then. */
+    @Override
+    public boolean isCellEditable(int line, int column) {
+        Row row = row(line);
+        return column == VALUE && row != null && row.isEditable() && row.check() == null;
+    }
+}

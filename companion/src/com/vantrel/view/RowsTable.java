@@ -1,0 +1,393 @@
+package com.vantrel.view;
+
+import java.awt.Color;
+import java.awt.Dimension;
+import java.awt.FontMetrics;
+import java.awt.Rectangle;
+import java.awt.Toolkit;
+import java.awt.datatransfer.StringSelection;
+import java.awt.event.ActionEvent;
+import java.awt.event.InputEvent;
+import java.awt.event.KeyEvent;
+import java.awt.event.MouseAdapter;
+import java.awt.event.MouseEvent;
+import java.util.List;
+import java.util.function.Predicate;
+
+import javax.swing.AbstractAction;
+import javax.swing.Action;
+import javax.swing.BorderFactory;
+import javax.swing.JLabel;
+import javax.swing.JPopupMenu;
+import javax.swing.JTable;
+import javax.swing.JViewport;
+import javax.swing.KeyStroke;
+import javax.swing.ListSelectionModel;
+import javax.swing.SwingUtilities;
+import javax.swing.Timer;
+import javax.swing.event.ChangeEvent;
+import javax.swing.table.TableColumn;
+
+import com.vantrel.model.Row;
+
+/**
+ * Rows in groups, to be walked, folded, copied and, where somebody says how, edited with the keyboard and the mouse.
+ * Selection and place stay while values change. Belongs to the event thread.
+ */
+final class RowsTable extends JTable {
+    private static final long serialVersionUID = 1L;
+
+    private static final int MILLIS_BETWEEN_FADES = 60;
+    private static final int MILLIS_OF_COMPLAINT = 6000;
+    /** At most this share of the width goes to names, and this to notes where values have no use for it themselves. */
+    private static final double MOST_FOR_NAMES = 0.4;
+    private static final double NOTES_SHARE = 0.29;
+
+    private final RowsModel rows;
+    private final RowPainter painter;
+    private final Timer fades = new Timer(MILLIS_BETWEEN_FADES, event -> fade());
+    private final JLabel complaint = new JLabel();
+    private final Timer complaintEnds = new Timer(MILLIS_OF_COMPLAINT, event -> complain(-1, null));
+    /** What Enter or a double click does to a row before anything else; answers whether it did. */
+    private transient Predicate<Row> activator = row -> false;
+    private String wantedKey;
+
+    RowsTable(String name, RowsModel model) {
+        super(model);
+        rows = model;
+        painter = new RowPainter(model);
+        setName(name);
+        setTableHeader(null);
+        setShowGrid(false);
+        setIntercellSpacing(new Dimension(0, 0));
+        setFillsViewportHeight(true);
+        setSelectionMode(ListSelectionModel.SINGLE_SELECTION);
+        setAutoResizeMode(AUTO_RESIZE_OFF);
+        setDefaultRenderer(Object.class, painter);
+        setSurrendersFocusOnKeystroke(true);
+        // Editing begins when it is asked for, ends when the focus goes elsewhere, and takes nothing half typed.
+        putClientProperty("JTable.autoStartsEdit", Boolean.FALSE);
+        putClientProperty("terminateEditOnFocusLost", Boolean.TRUE);
+        complaintEnds.setRepeats(false);
+        look();
+        bindKeys();
+        addMouseListener(new MouseAdapter() {
+            @Override
+            public void mousePressed(MouseEvent event) {
+                pressed(event);
+            }
+        });
+        setComponentPopupMenu(menu());
+    }
+
+    /** Takes colours and sizes from the look and feel, at first and whenever it changes. */
+    private void look() {
+        Color paper = Look.paper();
+        setBackground(paper);
+        setFont(Look.font());
+        FontMetrics metrics = getFontMetrics(Look.font());
+        setRowHeight(metrics.getHeight() + Look.GAP);
+        complaint.setOpaque(true);
+        complaint.setFont(Look.font());
+        complaint.setForeground(Color.WHITE);
+        complaint.setBackground(new Color(0xB3261E));
+        complaint.setBorder(BorderFactory.createEmptyBorder(2, RowPainter.PADDING, 2, RowPainter.PADDING));
+    }
+
+    @Override
+    public void updateUI() {
+        super.updateUI();
+        if (rows != null) { // it is called by the superclass's constructor, too
+            look();
+        }
+    }
+
+    /** Says what is done to a row by Enter or a double click, if anything; rows that can be edited are edited else. */
+    void onActivate(Predicate<Row> what) {
+        activator = what;
+    }
+
+    /** Shows rows, in the place of those that stand there. */
+    void show(List<Row> now, boolean flash) {
+        String key = selectedKey();
+        if (isEditing() && flash) {
+            // What is being typed stands above the rows, whose order must not change below it.
+            Row edited = rows.row(getEditingRow());
+            boolean there = edited != null && now.stream().anyMatch(row -> row.isAbout(edited));
+            if (!there) {
+                removeEditor();
+            }
+        } else if (isEditing()) {
+            removeEditor();
+        }
+        int at = getEditingRow();
+        if (rows.show(now, flash)) {
+            if (isEditing() && rows.line(key) != at) {
+                removeEditor();
+            }
+            select(key, false);
+            fitColumns();
+        }
+        if (rows.isFlashing() && !fades.isRunning()) {
+            fades.start();
+        }
+    }
+
+    void filter(String text) {
+        String key = selectedKey();
+        removeEditor();
+        rows.filter(text);
+        select(key, true);
+        fitColumns();
+    }
+
+    private String selectedKey() {
+        String key = rows.key(getSelectedRow());
+        return key == null ? wantedKey : key;
+    }
+
+    /** Selects what was selected, or would be if it were there: the next component may have it again. */
+    private void select(String key, boolean scroll) {
+        wantedKey = key;
+        int line = rows.line(key);
+        if (line >= 0) {
+            setRowSelectionInterval(line, line);
+            if (scroll) {
+                scrollRectToVisible(getCellRect(line, 0, true));
+            }
+        }
+    }
+
+    /** The selected row; null if none or a group's title is. */
+    Row selectedRow() {
+        return rows.row(getSelectedRow());
+    }
+
+    private void fade() {
+        if (!rows.isFlashing()) {
+            fades.stop();
+        }
+        Rectangle visible = getVisibleRect();
+        TableColumn value = getColumnModel().getColumn(RowsModel.VALUE);
+        repaint(getColumnModel().getColumn(RowsModel.NAME).getWidth(), visible.y, value.getWidth(), visible.height);
+    }
+
+    @Override
+    public void removeNotify() {
+        fades.stop();
+        complaintEnds.stop();
+        super.removeNotify();
+    }
+
+    @Override
+    public boolean getScrollableTracksViewportWidth() {
+        return true;
+    }
+
+    @Override
+    public void doLayout() {
+        fitColumns();
+        super.doLayout();
+    }
+
+    /** Gives names and notes what they need, up to their share, and values the rest; they may go on where no note is. */
+    private void fitColumns() {
+        int width = getParent() instanceof JViewport ? getParent().getWidth() : getWidth();
+        int name = 0;
+        int value = 0;
+        int note = 0;
+        for (int line = 0; line < rows.getRowCount(); line++) {
+            Row row = rows.row(line);
+            if (row != null) {
+                name = Math.max(name, painter.wanted(row, RowsModel.NAME));
+                if (!row.note().isEmpty()) {
+                    value = Math.max(value, painter.wanted(row, RowsModel.VALUE));
+                    note = Math.max(note, painter.wanted(row, RowsModel.NOTE));
+                }
+            }
+        }
+        name = Math.min(name + RowPainter.PADDING, (int) (width * MOST_FOR_NAMES));
+        int left = Math.max((int) (width * NOTES_SHARE), width - name - value);
+        note = Math.min(note, left);
+        int[] widths = {name, Math.max(0, width - name - note), note};
+        for (int column = 0; column < widths.length; column++) {
+            TableColumn at = getColumnModel().getColumn(column);
+            if (at.getWidth() != widths[column]) {
+                at.setMinWidth(0);
+                at.setPreferredWidth(widths[column]);
+                at.setWidth(widths[column]);
+            }
+        }
+    }
+
+    @Override
+    public String getToolTipText(MouseEvent event) {
+        int line = rowAtPoint(event.getPoint());
+        int column = columnAtPoint(event.getPoint());
+        Row row = rows.row(line);
+        if (row == null || column < 0) {
+            return null;
+        }
+        if (painter.isCut(row, column)) {
+            boolean note = column == RowsModel.NOTE && !row.note().isEmpty();
+            return Tips.of(column == RowsModel.NAME ? row.name() : note ? row.note() : row.value());
+        }
+        return row.explanation().isEmpty() ? null : Tips.of(row.explanation());
+    }
+
+    private void bindKeys() {
+        bind(KeyStroke.getKeyStroke(KeyEvent.VK_ENTER, 0), action("Edit", this::activate));
+        bind(KeyStroke.getKeyStroke(KeyEvent.VK_F2, 0), action("Edit", this::activate));
+        bind(KeyStroke.getKeyStroke(KeyEvent.VK_SPACE, 0), action("Edit", this::activate));
+        bind(KeyStroke.getKeyStroke(KeyEvent.VK_LEFT, 0), action("Fold", () -> fold(false)));
+        bind(KeyStroke.getKeyStroke(KeyEvent.VK_RIGHT, 0), action("Unfold", () -> fold(true)));
+        bind(KeyStroke.getKeyStroke(KeyEvent.VK_HOME, 0), action("First", () -> go(0)));
+        bind(KeyStroke.getKeyStroke(KeyEvent.VK_END, 0), action("Last", () -> go(getRowCount() - 1)));
+        // Out of the table, and not from cell to cell: a row is walked as one.
+        bind(KeyStroke.getKeyStroke(KeyEvent.VK_TAB, 0), action("Next", this::transferFocus));
+        bind(KeyStroke.getKeyStroke(KeyEvent.VK_TAB, InputEvent.SHIFT_DOWN_MASK),
+                action("Previous", this::transferFocusBackward));
+    }
+
+    private JPopupMenu menu() {
+        int shortcut = Tips.shortcutMask();
+        JPopupMenu menu = new JPopupMenu();
+        menu.add(bind(KeyStroke.getKeyStroke(KeyEvent.VK_C, shortcut),
+                action("Copy value", () -> copy(selectedRow() == null ? "" : selectedRow().value()))));
+        menu.add(bind(KeyStroke.getKeyStroke(KeyEvent.VK_C, shortcut | InputEvent.SHIFT_DOWN_MASK),
+                action("Copy line", () -> copy(selectedRow() == null ? "" : selectedRow().toString()))));
+        menu.add(action("Copy all lines", () -> copy(allText())));
+        return menu;
+    }
+
+    private Action bind(KeyStroke key, Action action) {
+        Object name = "vantrel " + key;
+        getInputMap(WHEN_ANCESTOR_OF_FOCUSED_COMPONENT).put(key, name);
+        getActionMap().put(name, action);
+        action.putValue(Action.ACCELERATOR_KEY, key);
+        return action;
+    }
+
+    private static Action action(String name, Runnable task) {
+        return new AbstractAction(name) {
+            private static final long serialVersionUID = 1L;
+
+            @Override
+            public void actionPerformed(ActionEvent event) {
+                task.run();
+            }
+        };
+    }
+
+    private static void copy(String text) {
+        if (!text.isEmpty()) {
+            Toolkit.getDefaultToolkit().getSystemClipboard().setContents(new StringSelection(text), null);
+        }
+    }
+
+    private String allText() {
+        StringBuilder text = new StringBuilder();
+        for (int line = 0; line < rows.getRowCount(); line++) {
+            Row row = rows.row(line);
+            text.append(row == null ? rows.group(line) : "    " + row).append('\n');
+        }
+        return text.toString();
+    }
+
+    private void go(int line) {
+        if (line >= 0 && line < getRowCount()) {
+            changeSelection(line, 0, false, false);
+        }
+    }
+
+    private void fold(boolean open) {
+        int line = getSelectedRow();
+        if (line >= 0) {
+            String group = rows.group(line);
+            if (rows.isOpen(group) != open) {
+                rows.setOpen(group, open);
+                select(group, true);
+                fitColumns();
+            } else if (!open && rows.row(line) != null) {
+                select(group, true);
+            }
+        }
+    }
+
+    private void pressed(MouseEvent event) {
+        int line = rowAtPoint(event.getPoint());
+        if (line < 0) {
+            return;
+        }
+        go(line);
+        Row row = rows.row(line);
+        boolean onValue = columnAtPoint(event.getPoint()) == RowsModel.VALUE;
+        if (!SwingUtilities.isLeftMouseButton(event)) {
+            return;
+        }
+        if (row == null) {
+            fold(!rows.isOpen(rows.group(line)));
+        } else if (onValue && (row.kind() == Row.Kind.ASK || row.check() != null && isOnCheck(event.getX()))
+                || event.getClickCount() == 2) {
+            activate();
+        }
+    }
+
+    private boolean isOnCheck(int x) {
+        int left = getColumnModel().getColumn(RowsModel.NAME).getWidth();
+        return x < left + 3 * RowPainter.PADDING + RowPainter.PADDING;
+    }
+
+    private void activate() {
+        int line = getSelectedRow();
+        Row row = rows.row(line);
+        if (row == null) {
+            if (line >= 0) {
+                fold(!rows.isOpen(rows.group(line)));
+            }
+        } else if (!activator.test(row) && editCellAt(line, RowsModel.VALUE)) {
+            getEditorComponent().requestFocusInWindow();
+        }
+    }
+
+    @Override
+    public void editingStopped(ChangeEvent event) {
+        complain(-1, null);
+        super.editingStopped(event);
+        requestFocusInWindow();
+    }
+
+    @Override
+    public void editingCanceled(ChangeEvent event) {
+        complain(-1, null);
+        super.editingCanceled(event);
+        requestFocusInWindow();
+    }
+
+    /** Says what is wrong right below a line, for a moment; null says nothing any more. */
+    void complain(int line, String text) {
+        complaintEnds.stop();
+        remove(complaint);
+        repaint();
+        if (text == null || line < 0 || line >= getRowCount()) {
+            return;
+        }
+        Rectangle cell = getCellRect(line, RowsModel.VALUE, true);
+        int width = getWidth() - 2 * Look.GAP;
+        complaint.setText("<html><body width='" + (width - 4 * Look.GAP) + "'>" + Tips.escaped(text));
+        int height = complaint.getPreferredSize().height;
+        boolean below = cell.y + cell.height + height <= getVisibleRect().y + getVisibleRect().height;
+        complaint.setBounds(Look.GAP, below ? cell.y + cell.height : cell.y - height, width, height);
+        add(complaint, 0);
+        complaintEnds.restart();
+    }
+
+    /** Says what is wrong with a row's value, where it is now. */
+    void complain(Row about, String text) {
+        for (int line = 0; line < rows.getRowCount(); line++) {
+            if (rows.row(line) != null && rows.row(line).isAbout(about)) {
+                complain(line, text);
+            }
+        }
+    }
+}
