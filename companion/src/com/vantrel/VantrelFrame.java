@@ -17,7 +17,6 @@ import com.vantrel.model.Ours;
 import com.vantrel.model.Selection;
 import com.vantrel.view.InspectorPane;
 import com.vantrel.view.Placement;
-import com.vantrel.view.Sight;
 
 /**
  * The inspector's window. A window that exists, shown or not, keeps the event thread and with it the VM alive, so this
@@ -37,6 +36,7 @@ public final class VantrelFrame extends JFrame implements Ours {
     private static VantrelFrame instance;
 
     private transient volatile Selection selection;
+    private transient PickSight sight;
     private InspectorPane pane;
     /** What somebody has selected while the window was not shown. */
     private transient WeakReference<Component> toSelect = new WeakReference<>(null);
@@ -75,6 +75,7 @@ public final class VantrelFrame extends JFrame implements Ours {
             dispose();
         } else if (pane == null) {
             fill();
+            sight.start();
             super.setVisible(true);
             pane.start();
             looks.start();
@@ -93,7 +94,8 @@ public final class VantrelFrame extends JFrame implements Ours {
 
     private void fill() {
         selection = new Selection();
-        pane = new InspectorPane(selection, Sight.NONE, chosen -> new JPanel(), this::dispose);
+        sight = new PickSight(this, selection);
+        pane = new InspectorPane(selection, sight, chosen -> new JPanel(), this::dispose);
         setRootPane(createRootPane()); // one of the look and feel that the program has now
         setContentPane(pane);
         setJMenuBar(pane.menus());
@@ -119,6 +121,8 @@ public final class VantrelFrame extends JFrame implements Ours {
             Placement.remember(this);
             pane.remember();
             pane.clear();
+            sight.stop();
+            sight = null;
             pane = null;
             selection = null;
         }

@@ -23,6 +23,10 @@ public interface Sight {
         @Override
         public void outline(Component component) {
         }
+
+        @Override
+        public void onChange(Runnable listener) {
+        }
     };
 
     boolean canPick();
@@ -35,4 +39,7 @@ public interface Sight {
 
     /** Draws a box around a component of the program, until another one is outlined; null for none. */
     void outline(Component component);
+
+    /** Has a task run whenever {@link #isPicking} changes. */
+    void onChange(Runnable listener);
 }
