@@ -63,6 +63,7 @@ public final class InspectorPane extends JPanel {
         commands.bind(this);
         selection.onChange(this::update);
         edits.onChange(this::update);
+        sight.onChange(this::update);
         tree.onLook(this::update);
         tree.view().onHover(node -> sight.outline(node == null ? null : node.component()));
         rowMenu(tree.view(), Menus.ofRow(commands));
