@@ -19,6 +19,7 @@ constexpr struct {
     int tests;
 } kUnitTests[] = {
     {"hooks.HooksTest", 4},          {"model.AddedAtTest", 4},
+    {"model.ComponentTreeTest", 5},
     {"model.EditorTest", 4},         {"stacktrace.StackTraceManagerTest", 5},
     {"util.ClassFileEditorTest", 6},
 };
