@@ -85,7 +85,7 @@ final class FlatButton extends JToggleButton {
         return getPreferredSize();
     }
 
-    static AbstractButton of(Action action, Icon icon) {
+    static FlatButton of(Action action, Icon icon) {
         return new FlatButton(action, icon, false);
     }
 }

@@ -51,6 +51,7 @@ public final class InspectorPane extends JPanel {
         commands = new Commands(selection, edits, tree, sight, status, this::update);
         tools = new ToolBar(commands, tree.searchBar());
         AddedAtPanel addedAt = new AddedAtPanel(selection);
+        addedAt.onOutcome(outcome -> status.say(outcome.line(), outcome.isFailure()));
         details = new DetailsPane(selection, new Details(selection, edits, addedAt, addedAt::openWhere));
         split = new Split(tree, details);
         split.setResizeWeight(TREE_SHARE);
@@ -62,6 +63,7 @@ public final class InspectorPane extends JPanel {
         commands.bind(this);
         selection.onChange(this::update);
         edits.onChange(this::update);
+        sight.onChange(this::update);
         tree.onLook(this::update);
         tree.view().onHover(node -> sight.outline(node == null ? null : node.component()));
         rowMenu(tree.view(), Menus.ofRow(commands));
@@ -148,7 +150,6 @@ public final class InspectorPane extends JPanel {
     private void update() {
         Component component = selection.component();
         boolean gone = component != null && tree.isReady() && tree.tree().nodeOf(component) == null;
-        status.tellGone(gone);
         details.update(gone, selection.hasLost());
         commands.update();
         tools.update(sight.isPicking(), tree.tree().showsMachinery());
