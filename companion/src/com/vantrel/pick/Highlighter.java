@@ -25,6 +25,7 @@ public final class Highlighter {
 
     private final Window owner;
     private final Tint tint;
+    private final Repaint repaint = new Repaint();
     private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> follow());
     /** Top, bottom, left, right; null until they are needed. */
     private Mark[] sides;
@@ -65,7 +66,8 @@ public final class Highlighter {
         target = null;
         shownAt = null;
         tint.remove();
-        if (sides != null) {
+        if (sides != null && label.isVisible()) {
+            repaint.uncovered(label.getBounds());
             for (Mark side : sides) {
                 side.setVisible(false);
             }
@@ -100,6 +102,9 @@ public final class Highlighter {
         if (!box.equals(shownAt)) {
             shownAt = box;
             place(box);
+            if (label.isVisible()) {
+                repaint.uncovered(label.getBounds());
+            }
             label.show(type(component), name(component), whole.width + " × " + whole.height, box, screenOf(window));
             tint.put(component, cellOf(component, part), window, part);
         }

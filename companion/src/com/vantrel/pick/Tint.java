@@ -5,12 +5,10 @@ import java.awt.Graphics;
 import java.awt.Graphics2D;
 import java.awt.Rectangle;
 import java.awt.Window;
+import java.awt.event.PaintEvent;
 import java.lang.ref.WeakReference;
 import java.util.function.BiConsumer;
 
-import javax.swing.JRootPane;
-import javax.swing.RepaintManager;
-import javax.swing.RootPaneContainer;
 import javax.swing.Timer;
 
 /**
@@ -74,15 +72,12 @@ final class Tint {
     }
 
     private void repaint(Window last, Component target) {
-        JRootPane root = last instanceof RootPaneContainer ? ((RootPaneContainer) last).getRootPane() : null;
-        if (root != null) {
-            root.repaint(inWindow.x - root.getX(), inWindow.y - root.getY(), inWindow.width, inWindow.height);
-            RepaintManager.currentManager(root).paintDirtyRegions();
-        } else {
-            last.repaint(inWindow.x, inWindow.y, inWindow.width, inWindow.height);
-        }
+        Repaint.now(last, inWindow);
         if (target != null && !target.isLightweight()) {
-            target.repaint(); // what lies in a window of its own is not painted with what is around it
+            // What lies in a window of its own is not painted with what is around it, nor, by repaint(), what the
+            // toolkit itself paints of it.
+            target.getToolkit().getSystemEventQueue().postEvent(
+                    new PaintEvent(target, PaintEvent.PAINT, new Rectangle(target.getSize())));
         }
     }
 }
