@@ -1,7 +1,12 @@
 package com.vantrel.pick;
 
+import java.awt.Component;
+import java.awt.Container;
+import java.awt.EventQueue;
 import java.awt.Rectangle;
+import java.awt.Toolkit;
 import java.awt.Window;
+import java.awt.event.PaintEvent;
 
 import javax.swing.JRootPane;
 import javax.swing.RepaintManager;
@@ -22,15 +27,33 @@ final class Repaint {
         later.setRepeats(false);
     }
 
-    /** Paints a part of a window, at once where Swing can. */
+    /** Paints a part of a window: at once what is Swing's, and soon what the toolkit paints itself. */
     static void now(Window window, Rectangle inWindow) {
         JRootPane root = window instanceof RootPaneContainer ? ((RootPaneContainer) window).getRootPane() : null;
         if (root == null) {
             window.repaint(inWindow.x, inWindow.y, inWindow.width, inWindow.height);
-            return;
+        } else {
+            root.repaint(inWindow.x - root.getX(), inWindow.y - root.getY(), inWindow.width, inWindow.height);
+            RepaintManager.currentManager(root).paintDirtyRegions();
         }
-        root.repaint(inWindow.x - root.getX(), inWindow.y - root.getY(), inWindow.width, inWindow.height);
-        RepaintManager.currentManager(root).paintDirtyRegions();
+        paintHeavy(window, inWindow);
+    }
+
+    /** Heavy components are not painted with what is around them, nor do they repaint() what is the toolkit's of them. */
+    private static void paintHeavy(Component parent, Rectangle area) {
+        for (Component child : parent instanceof Container ? Facts.children(parent) : new Component[0]) {
+            Rectangle bounds = Facts.bounds(child);
+            Rectangle part = area.intersection(bounds);
+            if (part.isEmpty() || child instanceof Window || !child.isShowing()) {
+                continue;
+            }
+            part.translate(-bounds.x, -bounds.y);
+            if (!child.isLightweight()) {
+                EventQueue queue = Toolkit.getDefaultToolkit().getSystemEventQueue();
+                queue.postEvent(new PaintEvent(child, PaintEvent.PAINT, part));
+            }
+            paintHeavy(child, part);
+        }
     }
 
     /**

@@ -5,7 +5,6 @@ import java.awt.Graphics;
 import java.awt.Graphics2D;
 import java.awt.Rectangle;
 import java.awt.Window;
-import java.awt.event.PaintEvent;
 import java.lang.ref.WeakReference;
 import java.util.function.BiConsumer;
 
@@ -52,7 +51,7 @@ final class Tint {
         later.stop();
         Window last = window.get();
         if (painted && last != null && last.isShowing()) {
-            repaint(last, component.get());
+            Repaint.now(last, inWindow);
         }
         painted = false;
         component.clear();
@@ -68,16 +67,6 @@ final class Tint {
             }
             painter.accept(target, (Graphics2D) graphics);
             graphics.dispose();
-        }
-    }
-
-    private void repaint(Window last, Component target) {
-        Repaint.now(last, inWindow);
-        if (target != null && !target.isLightweight()) {
-            // What lies in a window of its own is not painted with what is around it, nor, by repaint(), what the
-            // toolkit itself paints of it.
-            target.getToolkit().getSystemEventQueue().postEvent(
-                    new PaintEvent(target, PaintEvent.PAINT, new Rectangle(target.getSize())));
         }
     }
 }
