@@ -6,9 +6,23 @@ import java.awt.GraphicsEnvironment;
 
 import javax.swing.SwingUtilities;
 
+import com.vantrel.hooks.Hooks;
+import com.vantrel.pick.HotKey;
+
 /** The inspector. The agent takes hold of it while the VM starts: making it opens nothing and starts no toolkit. */
 public final class Vantrel {
     private static final Vantrel INSTANCE = new Vantrel();
+
+    private static final HotKey HOT_KEY = new HotKey(new Runnable() {
+        @Override
+        public void run() {
+            toggle(null);
+        }
+    }, System.getenv("VANTREL_HOT_KEY"));
+
+    static {
+        Hooks.add(HOT_KEY);
+    }
 
     private Vantrel() {
     }
@@ -23,7 +37,13 @@ public final class Vantrel {
      *
      * @param component the component to select; null for none
      */
-    public static void showVantrel(final Component component) {
+    public static void showVantrel(Component component) {
+        if (component != null || HOT_KEY.isNewCall()) {
+            toggle(component);
+        }
+    }
+
+    private static void toggle(final Component component) {
         if (GraphicsEnvironment.isHeadless()) {
             System.err.println("Vantrel has no window here: this Java VM is headless (java.awt.headless).");
             return;

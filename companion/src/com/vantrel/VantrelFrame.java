@@ -18,7 +18,6 @@ import com.vantrel.model.Ours;
 import com.vantrel.model.Selection;
 import com.vantrel.view.InspectorPane;
 import com.vantrel.view.Placement;
-import com.vantrel.view.Sight;
 
 /**
  * The inspector's window. A window that exists, shown or not, keeps the event thread and with it the VM alive, so this
@@ -38,6 +37,7 @@ public final class VantrelFrame extends JFrame implements Ours {
     private static VantrelFrame instance;
 
     private transient volatile Selection selection;
+    private transient PickSight sight;
     private InspectorPane pane;
     /** What somebody has selected while the window was not shown. */
     private transient WeakReference<Component> toSelect = new WeakReference<>(null);
@@ -76,6 +76,7 @@ public final class VantrelFrame extends JFrame implements Ours {
             dispose();
         } else if (pane == null) {
             fill();
+            sight.start();
             super.setVisible(true);
             pane.first().requestFocusInWindow();
             pane.start();
@@ -95,8 +96,9 @@ public final class VantrelFrame extends JFrame implements Ours {
 
     private void fill() {
         selection = new Selection();
+        sight = new PickSight(this, selection);
         Edits edits = new Edits(SwingContext::safeRun1, task -> SwingContext.safeRun1(this, task));
-        pane = new InspectorPane(selection, edits, Sight.NONE, this::dispose);
+        pane = new InspectorPane(selection, edits, sight, this::dispose);
         setRootPane(createRootPane()); // one of the look and feel that the program has now
         setContentPane(pane);
         setJMenuBar(pane.menus());
@@ -121,6 +123,8 @@ public final class VantrelFrame extends JFrame implements Ours {
             Placement.remember(this);
             pane.remember();
             pane.clear();
+            sight.stop();
+            sight = null;
             pane = null;
             selection = null;
         }

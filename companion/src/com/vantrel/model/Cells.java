@@ -14,7 +14,7 @@ import javax.swing.tree.TreePath;
  * Cells of tables, trees and lists: the component that paints one, prepared as its owner prepares it. It is the
  * renderer's, shared by all cells, and in no window: to be read at once, not changed, and not held. For the event thread.
  */
-final class Cells {
+public final class Cells {
     private Cells() {
     }
 
@@ -66,7 +66,7 @@ final class Cells {
     }
 
     /** Where in its owner a cell is; null if there is no such cell any more. */
-    static Rectangle bounds(Target target) {
+    public static Rectangle bounds(Target target) {
         Component owner = target.component();
         int row = target.row();
         if (owner instanceof JTable) {

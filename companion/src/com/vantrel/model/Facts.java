@@ -59,7 +59,7 @@ public final class Facts {
     }
 
     /** The components in a container, in its order, and behind them the windows that it owns. */
-    static Component[] children(Component component) {
+    public static Component[] children(Component component) {
         Component[] inside = component instanceof Container ? inside((Container) component) : NONE;
         if (!(component instanceof Window) || !toolkits(component, "getOwnedWindows")) {
             return inside;

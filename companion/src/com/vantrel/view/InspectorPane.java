@@ -63,6 +63,7 @@ public final class InspectorPane extends JPanel {
         commands.bind(this);
         selection.onChange(this::update);
         edits.onChange(this::update);
+        sight.onChange(this::update);
         tree.onLook(this::update);
         tree.view().onHover(node -> sight.outline(node == null ? null : node.component()));
         rowMenu(tree.view(), Menus.ofRow(commands));
@@ -149,7 +150,6 @@ public final class InspectorPane extends JPanel {
     private void update() {
         Component component = selection.component();
         boolean gone = component != null && tree.isReady() && tree.tree().nodeOf(component) == null;
-        status.tellGone(gone);
         details.update(gone, selection.hasLost());
         commands.update();
         tools.update(sight.isPicking(), tree.tree().showsMachinery());

@@ -4,27 +4,6 @@ import java.awt.Component;
 
 /** What the inspector's window has done in the program's windows: showing where a component is, and picking one. */
 public interface Sight {
-    /** Where neither can be done. */
-    Sight NONE = new Sight() {
-        @Override
-        public boolean canPick() {
-            return false;
-        }
-
-        @Override
-        public boolean isPicking() {
-            return false;
-        }
-
-        @Override
-        public void pick(boolean on) {
-        }
-
-        @Override
-        public void outline(Component component) {
-        }
-    };
-
     boolean canPick();
 
     /** Whether the next click in the program selects a component. */
@@ -35,4 +14,7 @@ public interface Sight {
 
     /** Draws a box around a component of the program, until another one is outlined; null for none. */
     void outline(Component component);
+
+    /** Has a task run whenever {@link #isPicking} changes. */
+    void onChange(Runnable listener);
 }

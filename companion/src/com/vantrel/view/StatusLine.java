@@ -23,7 +23,6 @@ final class StatusLine extends JComponent {
     private final Breadcrumb crumbs;
     private final JLabel system = new JLabel();
     private final Timer endOfMessage;
-    private boolean isGone;
 
     StatusLine(Selection selection) {
         this.selection = selection;
@@ -70,20 +69,10 @@ final class StatusLine extends JComponent {
         endOfMessage.restart();
     }
 
-    /** Tells whether the selected component is in a window at all. */
-    void tellGone(boolean gone) {
-        if (gone != isGone) {
-            isGone = gone;
-            tell("", false);
-        }
-    }
-
     private void tell(String message, boolean fault) {
         Component component = selection.component();
         if (!message.isEmpty()) {
             crumbs.show(null, message, fault);
-        } else if (isGone && component != null) {
-            crumbs.show(component, "In no window any more:", true);
         } else {
             crumbs.show(component, component == null ? "Nothing is selected." : "", false);
         }

@@ -1,0 +1,88 @@
+package com.vantrel.pick;
+
+import java.awt.Component;
+import java.awt.Graphics;
+import java.awt.Graphics2D;
+import java.awt.Rectangle;
+import java.awt.Window;
+import java.lang.ref.WeakReference;
+import java.util.function.BiConsumer;
+
+import javax.swing.JRootPane;
+import javax.swing.RepaintManager;
+import javax.swing.RootPaneContainer;
+import javax.swing.Timer;
+
+/**
+ * The colour over a component, painted on the component's own graphics and undone by having the program repaint what
+ * lies there. It is gone with the component's next repaint, and not put back: the box stays.
+ */
+final class Tint {
+    /** Leaves time for what the program still has to paint, which would otherwise be painted over it. */
+    private static final int MILLIS_TO_SETTLE = 40;
+
+    private final BiConsumer<Component, Graphics2D> painter;
+    private final Timer later = new Timer(MILLIS_TO_SETTLE, event -> paint());
+    private WeakReference<Component> component = new WeakReference<>(null);
+    private Rectangle cell;
+    private WeakReference<Window> window = new WeakReference<>(null);
+    private Rectangle inWindow;
+    private boolean painted;
+
+    /** @param painter paints over the whole of a component */
+    Tint(BiConsumer<Component, Graphics2D> painter) {
+        this.painter = painter;
+        later.setRepeats(false);
+    }
+
+    /**
+     * Puts the tint over a component, or a part of it, and takes it off what had it.
+     *
+     * @param part  in the component; null for all of it
+     * @param place its visible part, in its window
+     */
+    void put(Component target, Rectangle part, Window targetsWindow, Rectangle place) {
+        remove();
+        component = new WeakReference<>(target);
+        cell = part;
+        window = new WeakReference<>(targetsWindow);
+        inWindow = place;
+        later.restart();
+    }
+
+    void remove() {
+        later.stop();
+        Window last = window.get();
+        if (painted && last != null && last.isShowing()) {
+            repaint(last, component.get());
+        }
+        painted = false;
+        component.clear();
+    }
+
+    private void paint() {
+        Component target = component.get();
+        Graphics graphics = target == null || !target.isShowing() ? null : target.getGraphics();
+        if (graphics instanceof Graphics2D) {
+            painted = true;
+            if (cell != null) {
+                graphics.clipRect(cell.x, cell.y, cell.width, cell.height);
+            }
+            painter.accept(target, (Graphics2D) graphics);
+            graphics.dispose();
+        }
+    }
+
+    private void repaint(Window last, Component target) {
+        JRootPane root = last instanceof RootPaneContainer ? ((RootPaneContainer) last).getRootPane() : null;
+        if (root != null) {
+            root.repaint(inWindow.x - root.getX(), inWindow.y - root.getY(), inWindow.width, inWindow.height);
+            RepaintManager.currentManager(root).paintDirtyRegions();
+        } else {
+            last.repaint(inWindow.x, inWindow.y, inWindow.width, inWindow.height);
+        }
+        if (target != null && !target.isLightweight()) {
+            target.repaint(); // what lies in a window of its own is not painted with what is around it
+        }
+    }
+}
