@@ -33,10 +33,12 @@ public final class Tour {
     /** @param arguments the folder for the pictures, which is there; then what the program takes */
     public static void main(String[] arguments) throws Exception {
         orchard.Main.main(java.util.Arrays.copyOfRange(arguments, 1, arguments.length));
+        Tour tour = new Tour(new File(arguments[0]));
         try {
-            new Tour(new File(arguments[0])).go();
+            tour.go();
         } catch (IllegalStateException e) {
             System.err.println("tour: " + e.getMessage());
+            tour.take("failed");
             System.exit(1);
         }
     }
