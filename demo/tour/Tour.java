@@ -81,7 +81,10 @@ public final class Tour {
     private void see() throws Exception {
         hand.click(Stage.tab("vantrel.details", "Added at"));
         Stage.waitFor("where the button was added", () -> Stage.find("vantrel.addedAt.list") != null);
+        hand.pointAt(Stage.where("order.save"));
+        hand.down(KeyEvent.VK_CONTROL);
         take("see");
+        hand.up(KeyEvent.VK_CONTROL);
     }
 
     private void change() throws Exception {
