@@ -1,6 +1,6 @@
 #include "agent_life.h"
 
-AgentLife agent_life;
+constinit AgentLife agent_life;
 
 int AgentLife::begin() {
     over_ = false;

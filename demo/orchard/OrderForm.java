@@ -48,9 +48,11 @@ final class OrderForm extends JPanel {
 
     private void row(String title, String name, JComponent field) {
         field.setName("order." + name);
-        JLabel label = new JLabel(title);
-        label.setLabelFor(field);
-        add(label, at(0, 0));
+        if (!title.isEmpty()) {
+            JLabel label = new JLabel(title);
+            label.setLabelFor(field);
+            add(label, at(0, 0));
+        }
         add(field instanceof JTextArea ? scroll((JTextArea) field) : field, at(1, 0));
         rows++;
     }

@@ -146,6 +146,7 @@ TEST_P(Inspector, ProgramsOnOneDisplayShareTheHotKey) {
             return windows.focused() == window;
         }));
         std::vector<long> before;
+        before.reserve(programs.size());
         for (const auto& other : programs) {
             before.push_back(calls_of(*other));
         }
@@ -167,7 +168,7 @@ TEST_P(Inspector, ProgramsOnOneDisplayShareTheHotKey) {
     programs[0]->process->signal(SIGKILL);
     programs.erase(programs.begin());
     press_goes_to(*programs[1]);
-    std::ofstream(programs[0]->folder.path / "end");
+    const std::ofstream end(programs[0]->folder.path / "end");
     EXPECT_EQ(programs[0]->process->wait(), 0);
     programs.erase(programs.begin());
     press_goes_to(*programs[0]);

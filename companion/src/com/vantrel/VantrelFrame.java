@@ -13,6 +13,7 @@ import javax.swing.JPanel;
 import javax.swing.Timer;
 import javax.swing.WindowConstants;
 
+import com.vantrel.model.Edits;
 import com.vantrel.model.Ours;
 import com.vantrel.model.Selection;
 import com.vantrel.view.InspectorPane;
@@ -77,6 +78,7 @@ public final class VantrelFrame extends JFrame implements Ours {
             fill();
             sight.start();
             super.setVisible(true);
+            pane.first().requestFocusInWindow();
             pane.start();
             looks.start();
         }
@@ -95,12 +97,12 @@ public final class VantrelFrame extends JFrame implements Ours {
     private void fill() {
         selection = new Selection();
         sight = new PickSight(this, selection);
-        pane = new InspectorPane(selection, sight, chosen -> new JPanel(), this::dispose);
+        Edits edits = new Edits(SwingContext::safeRun1, task -> SwingContext.safeRun1(this, task));
+        pane = new InspectorPane(selection, edits, sight, this::dispose);
         setRootPane(createRootPane()); // one of the look and feel that the program has now
         setContentPane(pane);
         setJMenuBar(pane.menus());
         Placement.place(this);
-        pane.first().requestFocusInWindow();
         selection.select(toSelect.get());
         toSelect.clear();
     }

@@ -2,21 +2,28 @@ package scenario;
 
 import java.awt.Component;
 import java.awt.Container;
+import java.awt.Frame;
 import java.awt.KeyboardFocusManager;
 import java.awt.Point;
 import java.awt.Rectangle;
+import java.awt.Toolkit;
 import java.awt.Window;
+import java.awt.datatransfer.Clipboard;
+import java.awt.datatransfer.DataFlavor;
 import java.lang.ref.WeakReference;
 import java.lang.reflect.InvocationTargetException;
+import java.util.Arrays;
 import java.util.HashMap;
 import java.util.Map;
 import java.util.TreeMap;
 import java.util.concurrent.Callable;
 import java.util.concurrent.FutureTask;
+import java.util.stream.Collectors;
 
 import javax.swing.JComponent;
 import javax.swing.JLabel;
 import javax.swing.JList;
+import javax.swing.JTabbedPane;
 import javax.swing.JTable;
 import javax.swing.JTree;
 import javax.swing.SwingUtilities;
@@ -99,16 +106,44 @@ final class Commands {
         // inspector NAME: what a component of the inspector's shows
         commands.put("inspector", words -> Inspector.describe(words[0]));
         commands.put("inspector-where", words -> onScreen(Inspector.find(words[0]), null));
+        commands.put("minimise-inspector", words -> {
+            ((Frame) Inspector.find("vantrel")).setExtendedState(Frame.ICONIFIED);
+            return "";
+        });
+        commands.put("place-inspector", words -> { // X Y WIDTH HEIGHT
+            int[] numbers = numbers(words[0] + " " + words[1] + " " + words[2]);
+            Inspector.find("vantrel").setBounds(numbers[0], numbers[1], numbers[2], numbers[3]);
+            return "";
+        });
+        commands.put("threads", words -> Thread.getAllStackTraces().keySet().stream().map(Thread::getName) // PREFIX
+                .filter(name -> name.startsWith(words[0])).sorted().collect(Collectors.joining("\n")));
         // inspector-row NAME TEXT: where the first row is, of a list or table, that contains the text
         commands.put("inspector-row", words -> {
             Component view = Inspector.find(words[0]);
             return onScreen(view, Inspector.row(view, words.length == 3 ? words[1] + " " + words[2] : words[1]));
+        });
+        // inspector-tab TITLE: where the tab of the details is
+        commands.put("inspector-tab", words -> {
+            JTabbedPane tabs = (JTabbedPane) Inspector.find("vantrel.details");
+            return onScreen(tabs, tabs.getBoundsAt(tabs.indexOfTab(String.join(" ", words))));
         });
         // selected: the name of the component that the inspector has selected
         commands.put("selected", words -> {
             Class<?> vantrel = Class.forName("com.vantrel.Vantrel");
             Component component = (Component) vantrel.getMethod("getSelectedComponent").invoke(null);
             return component == null ? "none" : things.nameOf(component);
+        });
+        // select NAME: has the inspector select a component, as a debugger might
+        commands.put("select", words -> {
+            Object vantrel = Class.forName("com.vantrel.Vantrel").getMethod("getInstance").invoke(null);
+            vantrel.getClass().getMethod("selectOnComponentTree", Component.class).invoke(vantrel, things.get(words[0]));
+            return "";
+        });
+        // clipboard: the text on it
+        commands.put("clipboard", words -> {
+            Clipboard clipboard = Toolkit.getDefaultToolkit().getSystemClipboard();
+            boolean text = clipboard.isDataFlavorAvailable(DataFlavor.stringFlavor);
+            return text ? (String) clipboard.getData(DataFlavor.stringFlavor) : "";
         });
         // watch: begins to measure how long the event thread is held; held: the longest time since, in milliseconds
         commands.put("watch", words -> watch.start());
@@ -125,6 +160,11 @@ final class Commands {
         commands.put("set", words -> { // NAME PROPERTY true|false
             String setter = "set" + Character.toUpperCase(words[1].charAt(0)) + words[1].substring(1);
             call(things.get(words[0]), setter, boolean.class, Boolean.valueOf(words[2]));
+            return "";
+        });
+        commands.put("place", words -> { // NAME X Y WIDTH HEIGHT: until its parent lays it out again
+            int[] numbers = numbers(words[1] + " " + words[2]);
+            things.get(words[0]).setBounds(numbers[0], numbers[1], numbers[2], numbers[3]);
             return "";
         });
         commands.put("add", words -> { // PARENT NAME: a label
@@ -162,6 +202,10 @@ final class Commands {
         } catch (InvocationTargetException e) {
             throw new IllegalStateException(e.getCause());
         }
+    }
+
+    private static int[] numbers(String text) {
+        return Arrays.stream(text.split(" ")).mapToInt(Integer::parseInt).toArray();
     }
 
     private static String laidOut(Container parent) {

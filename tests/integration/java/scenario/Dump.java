@@ -21,10 +21,14 @@ final class Dump {
     }
 
     private static void add(StringBuilder text, Component component, int depth) {
-        if (component instanceof Window window && !window.isDisplayable()) {
-            return;
+        boolean kept = component.getClass().getName().startsWith("javax.swing.Popup$") && !component.isVisible();
+        if (component instanceof Window window && !window.isDisplayable() || kept) {
+            return; // disposed, or kept by Swing for the next popup
         }
         String name = component instanceof Odd ? null : component.getName();
+        if (name != null && name.matches("[a-z]+\\d+")) {
+            name = null; // made up by the AWT when it was asked
+        }
         text.append("  ".repeat(depth)).append(simpleName(component)).append(name == null ? "" : " " + name)
                 .append('\n');
         if (component instanceof Container container) {
@@ -39,12 +43,8 @@ final class Dump {
         }
     }
 
-    /** A class's simple name; that of the named class that an anonymous one extends. */
+    /** A class without its package and the classes around it. */
     private static String simpleName(Component component) {
-        Class<?> type = component.getClass();
-        while (type.isAnonymousClass()) {
-            type = type.getSuperclass();
-        }
-        return type.getSimpleName();
+        return component.getClass().getName().replaceFirst("^.*[.$](?=[^0-9$])", "");
     }
 }

@@ -1,10 +1,11 @@
 package scenario;
 
-import java.util.Iterator;
-import java.util.Map;
+import java.awt.Color;
 
+import javax.swing.Icon;
 import javax.swing.UIDefaults;
 import javax.swing.UIManager;
+import javax.swing.border.Border;
 import javax.swing.plaf.ColorUIResource;
 import javax.swing.plaf.metal.DefaultMetalTheme;
 import javax.swing.plaf.metal.MetalLookAndFeel;
@@ -15,8 +16,8 @@ final class Themes {
     }
 
     /**
-     * "dark" is Metal in dark colours. "bare" knows how to paint, but has no colours, fonts or icons: not even a text
-     * field with a text can be made under it. Any other name is a class's.
+     * "dark" is Metal in dark colours. "bare" knows how to paint, but has no colours, borders or icons; without fonts, a
+     * text field or menu of the JDK fails by itself. Any other name is a class's.
      */
     static void use(String name) throws Exception {
         switch (name) {
@@ -77,9 +78,10 @@ final class Themes {
         @Override
         public UIDefaults getDefaults() {
             UIDefaults all = super.getDefaults();
-            for (Iterator<Map.Entry<Object, Object>> entries = all.entrySet().iterator(); entries.hasNext();) {
-                if (!String.valueOf(entries.next().getKey()).endsWith("UI")) {
-                    entries.remove();
+            for (Object key : all.keySet().toArray()) {
+                Object value = all.get(key);
+                if (value instanceof Color || value instanceof Border || value instanceof Icon) {
+                    all.remove(key);
                 }
             }
             return all;

@@ -25,8 +25,8 @@ public final class Boxes {
 
         private Box(Component component) {
             this.component = new WeakReference<>(component);
-            bounds = component.getBounds();
-            visible = component.isVisible();
+            bounds = Facts.bounds(component);
+            visible = Facts.isVisible(component);
         }
 
         /** Null once it has been collected. */
@@ -60,11 +60,11 @@ public final class Boxes {
         border = border(component);
         Object line = reading.plainValue("baseline");
         baseline = line instanceof Integer ? (Integer) line : -1;
-        Container in = component.getParent();
-        parent = in == null ? null : in.getSize();
+        Container in = Facts.parent(component);
+        parent = in == null ? null : Facts.bounds(in).getSize();
         if (in != null) {
             for (Component child : Children.of(in)) {
-                if (children.size() < MOST_NEIGHBOURS && Code.overrider(child.getClass(), "getBounds") == null) {
+                if (children.size() < MOST_NEIGHBOURS) {
                     children.add(new Box(child));
                 }
             }
@@ -74,7 +74,7 @@ public final class Boxes {
     /** The boxes of what has been read; null if there is nothing, or it does not tell its bounds. */
     public static Boxes of(Reading reading) {
         Component component = reading.target().component();
-        Object bounds = reading.plainValue("bounds");
+        Object bounds = reading.target().isCell() ? Cells.bounds(reading.target()) : reading.plainValue("bounds");
         if (component == null || !(bounds instanceof Rectangle)) {
             return null;
         }

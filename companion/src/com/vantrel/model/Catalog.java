@@ -194,7 +194,7 @@ final class Catalog {
     }
 
     private void addIdentity() {
-        add(IDENTITY, "class", Class.class, on -> type);
+        add(IDENTITY, "class", Class.class, Component::getClass);
         Class<?> toolkit = Code.toolkitClass(type);
         if (toolkit != type) {
             add(IDENTITY, "extends", Class.class, on -> toolkit);

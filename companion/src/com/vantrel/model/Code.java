@@ -150,18 +150,9 @@ public final class Code {
         return name.substring(name.lastIndexOf('.', end - 1) + 1, end);
     }
 
-    /** A component in a few words, class and name, and no call into the program: its name only if that is not one. */
+    /** A component in a few words, class and name, and no call into the program. */
     public static String describe(Component component) {
-        String name = name(component);
+        String name = Facts.name(component);
         return shortName(component.getClass()) + (name == null ? "" : " \"" + name + "\"");
-    }
-
-    /** The name of a component; null where it has none, or where the program has the say over it. */
-    public static String name(Component component) {
-        try {
-            return overrider(component.getClass(), "getName") == null ? component.getName() : null;
-        } catch (RuntimeException e) {
-            return null;
-        }
     }
 }

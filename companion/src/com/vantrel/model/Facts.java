@@ -77,7 +77,8 @@ public final class Facts {
         return all.toArray(NONE);
     }
 
-    private static Component[] inside(Container container) {
+    /** The components in a container, in its order. */
+    static Component[] inside(Container container) {
         if (toolkits(container, "getComponents")) {
             return container.getComponents();
         }

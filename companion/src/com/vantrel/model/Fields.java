@@ -3,8 +3,6 @@ package com.vantrel.model;
 import java.awt.Component;
 import java.lang.reflect.Field;
 
-import com.vantrel.hooks.DesktopModule;
-
 /**
  * A field of the toolkit's, for what a program's class answers in its own way when it is asked by method. Reading it
  * runs nothing. Whether it can be read is the VM's business: its module may not be open to us, or the field not be
@@ -58,14 +56,7 @@ final class Fields {
     private synchronized boolean open() {
         if (field == null && !tried) {
             tried = true;
-            try {
-                DesktopModule.open(owner.getPackage().getName());
-                Field found = owner.getDeclaredField(name);
-                found.setAccessible(true);
-                field = found;
-            } catch (NoSuchFieldException | RuntimeException e) {
-                // Newer VMs throw a RuntimeException of their own for what is not open.
-            }
+            field = Members.field(owner, name);
         }
         return field != null;
     }

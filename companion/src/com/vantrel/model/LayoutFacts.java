@@ -40,7 +40,7 @@ public final class LayoutFacts {
         }
         addReason(rows, reading, component, true);
         addReason(rows, reading, component, false);
-        Container parent = component.getParent();
+        Container parent = Facts.parent(component);
         if (parent != null) {
             addParent(rows, reading, component, parent);
         }
@@ -74,7 +74,7 @@ public final class LayoutFacts {
     }
 
     private static void addParent(List<Row> rows, Reading reading, Component component, Container parent) {
-        rows.add(Row.of(PARENT, "parent", Code.describe(parent)).note(Formats.write(parent.getSize()))
+        rows.add(Row.of(PARENT, "parent", Code.describe(parent)).note(Formats.write(Facts.bounds(parent).getSize()))
                 .programs(!Code.isMachinery(parent.getClass())));
         Row constraints = reading.row("constraints");
         if (constraints != null) {
@@ -93,11 +93,10 @@ public final class LayoutFacts {
         for (Component child : Children.of(parent)) {
             if (index < MOST_SIBLINGS) {
                 boolean self = child == component;
-                boolean askable = Code.overrider(child.getClass(), "getBounds") == null;
                 rows.add(Row.of(SIBLINGS, index + "  " + Code.describe(child),
-                        askable ? Formats.write(child.getBounds()) : "")
+                        Formats.write(Facts.bounds(child)))
                         .note(self ? "this one" : Managers.place(child)).programs(self)
-                        .kind(child.isVisible() ? Row.Kind.PLAIN : Row.Kind.DIM));
+                        .kind(Facts.isVisible(child) ? Row.Kind.PLAIN : Row.Kind.DIM));
             }
             index++;
         }

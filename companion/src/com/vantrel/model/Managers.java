@@ -91,7 +91,7 @@ final class Managers {
             CardLayout cards = (CardLayout) layout;
             gaps(rows, group, cards.getHgap(), cards.getVgap());
             for (Component child : Children.of(of)) {
-                if (child.isVisible()) {
+                if (Facts.isVisible(child)) {
                     rows.add(Row.of(group, "card on top", Code.describe(child)));
                 }
             }

@@ -6,8 +6,14 @@ import java.lang.reflect.InvocationTargetException;
 import java.lang.reflect.Method;
 import java.lang.reflect.Modifier;
 
+import com.vantrel.hooks.DesktopModule;
+
 /** Members of classes that are called or read by reflection. For any thread; who calls decides on which. */
 final class Members {
+    static {
+        DesktopModule.open("java.awt", "javax.accessibility", "javax.swing");
+    }
+
     private Members() {
     }
 

@@ -7,15 +7,11 @@ import java.awt.Insets;
 import java.awt.Rectangle;
 import java.lang.ref.WeakReference;
 import java.util.ArrayList;
-import java.util.Collections;
 import java.util.HashMap;
-import java.util.HashSet;
 import java.util.LinkedHashMap;
 import java.util.List;
 import java.util.Map;
 import java.util.Objects;
-import java.util.Set;
-import java.util.WeakHashMap;
 
 import javax.swing.JComponent;
 
@@ -28,18 +24,13 @@ public final class Reading {
     /** What reading may take each time before the rest waits for the next time; half of what anybody feels. */
     private static final long MOST_NANOS = 40_000_000;
 
-    /** A getter that takes longer is not asked again unasked, for the JDK's own take a thousandth of it. */
-    private static final long SLOW_NANOS = 50_000_000;
-
-    /** By class, the properties that took long, or the renderer. Outlives the selection, so that each is met once. */
-    private static final Map<Class<?>, Set<String>> SLOW = new WeakHashMap<>();
+    /** Identifies a cell's renderer among the properties that may be slow. */
     private static final String RENDERER = "renderer";
 
     /** One property, and the line that was made of it last. */
     private static final class Slot {
         final Property property;
         Row row;
-        boolean slow;
         /** Whether it has neither been read nor been found to be one that is not read unasked. */
         boolean untouched = true;
         /** What the note was made for: finding where a value comes from takes longer than reading it. */
@@ -49,7 +40,7 @@ public final class Reading {
 
         Slot(Property property) {
             this.property = property;
-            row = Row.of(property.group(), property.name(), "\u2026").kind(Row.Kind.DIM);
+            row = Row.of(property.group(), property.name(), "\u2026").kind(Row.Kind.WAITING);
         }
     }
 
@@ -127,11 +118,12 @@ public final class Reading {
         for (int done = 0; done < slots.size() && System.nanoTime() < end; done++) {
             next = (next + 1) % slots.size();
             Slot slot = slots.get(next);
-            if (slot.property.askedBecause() == null && !slot.slow) {
+            boolean slow = Patience.isLost(shape, slot.property.name());
+            if (slot.property.askedBecause() == null && !slow) {
                 read(slot, component, false);
             } else if (slot.untouched) {
                 slot.untouched = false;
-                slot.row = unread(slot);
+                slot.row = unread(slot.property, slow);
             }
         }
         if (component instanceof JComponent) {
@@ -180,6 +172,21 @@ public final class Reading {
         }
     }
 
+    /** Whether all has been read that is read unasked; if not, the next reading goes on. */
+    public boolean isComplete() {
+        for (Slot slot : slots) {
+            if (slot.untouched) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    /** Where in its owner the cell is; null for a component, or if there is no such cell any more. */
+    public Rectangle cellBounds() {
+        return target.isCell() ? Cells.bounds(target) : null;
+    }
+
     /** The lines that wait to be asked for, one by one, so that the program can go on between them. */
     public List<Row> unasked() {
         List<Row> unasked = new ArrayList<>();
@@ -197,14 +204,12 @@ public final class Reading {
         if (!target.isCell() || owner == null) {
             return owner;
         }
-        if (!askedForCell && slow(owner.getClass()).contains(RENDERER)) {
+        if (!askedForCell && Patience.isLost(owner.getClass(), RENDERER)) {
             return null;
         }
         long start = System.nanoTime();
         Component prepared = Cells.prepare(target);
-        if (System.nanoTime() - start > SLOW_NANOS) {
-            markSlow(owner.getClass(), RENDERER);
-        }
+        Patience.took(owner.getClass(), RENDERER, System.nanoTime() - start);
         return prepared;
     }
 
@@ -212,21 +217,9 @@ public final class Reading {
         shape = component.getClass();
         slots.clear();
         next = -1;
-        Set<String> slow = slow(shape);
         for (Property property : Catalog.of(component)) {
-            Slot slot = new Slot(property);
-            slot.slow = slow.contains(property.name());
-            slots.add(slot);
+            slots.add(new Slot(property));
         }
-    }
-
-    private static Set<String> slow(Class<?> type) {
-        Set<String> slow = SLOW.get(type);
-        return slow == null ? Collections.<String>emptySet() : slow;
-    }
-
-    private static void markSlow(Class<?> type, String name) {
-        SLOW.computeIfAbsent(type, key -> new HashSet<>()).add(name);
     }
 
     private void read(Slot slot, Component component, boolean asked) {
@@ -242,13 +235,10 @@ public final class Reading {
                     .type(property.type().getName()).property(property);
         }
         long nanos = System.nanoTime() - start;
-        if (nanos > SLOW_NANOS) {
-            slot.slow = true;
-            markSlow(component.getClass(), property.name());
-        }
-        if (asked || slot.slow) {
-            String took = nanos > SLOW_NANOS ? "took " + nanos / 1_000_000 + " ms" : "read once";
-            row.note(took).explanation("It is read only when you ask: Enter reads it again.");
+        boolean slow = Patience.took(component.getClass(), property.name(), nanos);
+        if (slow || asked && property.askedBecause() != null) {
+            row.note(slow ? "took " + nanos / 1_000_000 + " ms" : "read once")
+                    .explanation("It is read only when you ask: Enter reads it again.");
         }
         slot.row = row;
         slot.untouched = false;
@@ -313,11 +303,10 @@ public final class Reading {
         }
     }
 
-    private Row unread(Slot slot) {
-        Property property = slot.property;
-        String why = slot.slow ? "It took long when it was read last." : property.askedBecause();
+    private static Row unread(Property property, boolean slow) {
+        String why = slow ? "It took long when it was read last." : property.askedBecause();
         return Row.of(property.group(), property.name(), "read").kind(Row.Kind.ASK).type(property.type().getName())
-                .property(property).note(slot.slow ? "slow" : "on demand").explanation(why + " Enter reads it.");
+                .property(property).note(slow ? "slow" : "on demand").explanation(why + " Enter reads it.");
     }
 
     private void keepPlain(String name, Object value) {

@@ -16,7 +16,9 @@ public final class Row {
         /** What was thrown when the value was asked for. */
         ERROR,
         /** Not asked for yet: asking runs code of the program. */
-        ASK
+        ASK,
+        /** Not read yet, but about to be. */
+        WAITING
     }
 
     private final String group;
@@ -160,7 +162,7 @@ public final class Row {
     }
 
     public boolean isEditable() {
-        return property != null && property.isEditable() && kind != Kind.ASK && kind != Kind.ERROR;
+        return property != null && property.isEditable() && (kind == Kind.PLAIN || kind == Kind.DIM);
     }
 
     /** Whether two lines stand for the same thing, whatever its value. */

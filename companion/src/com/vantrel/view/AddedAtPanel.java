@@ -2,26 +2,21 @@ package com.vantrel.view;
 
 import java.awt.BorderLayout;
 import java.awt.FlowLayout;
-import java.awt.Toolkit;
-import java.awt.datatransfer.StringSelection;
-import java.awt.event.ActionEvent;
+import java.awt.event.ComponentAdapter;
+import java.awt.event.ComponentEvent;
 import java.awt.event.HierarchyEvent;
-import java.awt.event.InputEvent;
-import java.awt.event.KeyEvent;
 import java.awt.event.MouseAdapter;
 import java.awt.event.MouseEvent;
 import java.util.ArrayList;
+import java.util.Collections;
 import java.util.List;
+import java.util.function.Consumer;
 
-import javax.swing.AbstractAction;
 import javax.swing.Action;
 import javax.swing.BorderFactory;
-import javax.swing.JButton;
-import javax.swing.JComponent;
 import javax.swing.JPanel;
 import javax.swing.JPopupMenu;
 import javax.swing.JScrollPane;
-import javax.swing.JToggleButton;
 import javax.swing.KeyStroke;
 import javax.swing.SwingUtilities;
 import javax.swing.Timer;
@@ -41,6 +36,8 @@ public final class AddedAtPanel extends JPanel {
     /** A component can be added anew while it is selected. */
     private static final int MILLIS_BETWEEN_LOOKS = 500;
 
+    private static final List<StackTraceElement> NONE = Collections.emptyList();
+
     private final transient Selection selection;
     private final StackRows rows = new StackRows();
     private final StackList list = new StackList(rows);
@@ -48,10 +45,13 @@ public final class AddedAtPanel extends JPanel {
     private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> refresh());
     private transient AddedAt shown = AddedAt.of(null);
 
-    private final Action open = action("Open in editor", KeyStroke.getKeyStroke(KeyEvent.VK_ENTER, 0),
-            this::openSelected);
-    private final Action copy = action("Copy line", shortcut(KeyEvent.VK_C, 0), this::copySelected);
-    private final Action copyAll = action("Copy stack", shortcut(KeyEvent.VK_C, InputEvent.SHIFT_DOWN_MASK),
+    private transient Consumer<Editor.Outcome> elsewhere = outcome -> { };
+
+    private final Command open = new Command("Open in Editor", "ENTER", "Opens the line in your editor",
+            this::hasTrace, this::openSelected);
+    private final Command copy = new Command("Copy Line", "ctrl C", "Copies the line, so that it can become a link",
+            this::hasTrace, this::copySelected);
+    private final Command copyAll = new Command("Copy Stack", null, "Copies all lines", this::hasTrace,
             () -> copy(shown.text(), "copied the stack"));
 
     public AddedAtPanel(Selection selection) {
@@ -89,31 +89,47 @@ public final class AddedAtPanel extends JPanel {
         open(shown.where());
     }
 
+    /** Has what became of an attempt told to somebody else, too, while this panel does not show. */
+    public void onOutcome(Consumer<Editor.Outcome> listener) {
+        elsewhere = listener;
+    }
+
     private JPanel tools(EditorSettings settings) {
         JPanel tools = new JPanel(new FlowLayout(FlowLayout.LEADING, Look.GAP, Look.GAP));
-        for (Action action : new Action[] {open, copy, copyAll}) {
-            tools.add(new JButton(action));
+        for (Command command : new Command[] {open, copy, copyAll}) {
+            tools.add(FlatButton.of(command, null).named());
         }
-        JToggleButton toggle = new JToggleButton("Editor\u2026");
-        toggle.setName("vantrel.addedAt.settings");
-        toggle.setToolTipText("Which editor opens lines, and where the sources are");
-        toggle.addActionListener(event -> {
-            settings.setVisible(toggle.isSelected());
-            revalidate();
+        Command toggle = new Command("Editor\u2026", "ctrl E", "Which editor opens lines, and where the sources are",
+                () -> true, () -> {
+                    settings.setVisible(!settings.isVisible());
+                    revalidate();
+                });
+        FlatButton button = new FlatButton(toggle.in(this), null, true).named();
+        button.setName("vantrel.addedAt.settings");
+        settings.addComponentListener(new ComponentAdapter() {
+            @Override
+            public void componentShown(ComponentEvent event) {
+                button.setSelected(true);
+            }
+
+            @Override
+            public void componentHidden(ComponentEvent event) {
+                button.setSelected(false);
+            }
         });
-        tools.add(toggle);
+        tools.add(button);
         return tools;
     }
 
     private void prepareList() {
         JPopupMenu menu = new JPopupMenu();
-        for (Action action : new Action[] {open, copy, copyAll}) {
-            bind((KeyStroke) action.getValue(Action.ACCELERATOR_KEY), action);
-            menu.add(action);
+        for (Command command : new Command[] {open, copy, copyAll}) {
+            bind(command);
+            menu.add(command);
         }
         list.setComponentPopupMenu(menu);
-        bind(KeyStroke.getKeyStroke(KeyEvent.VK_RIGHT, 0), action("Open fold", null, () -> setOpen(true)));
-        bind(KeyStroke.getKeyStroke(KeyEvent.VK_LEFT, 0), action("Close fold", null, () -> setOpen(false)));
+        bind(new Command("Open Fold", "RIGHT", "", this::hasTrace, () -> setOpen(true)));
+        bind(new Command("Close Fold", "LEFT", "", this::hasTrace, () -> setOpen(false)));
         list.addMouseListener(new MouseAdapter() {
             @Override
             public void mousePressed(MouseEvent event) {
@@ -123,38 +139,22 @@ public final class AddedAtPanel extends JPanel {
                 }
                 if (SwingUtilities.isRightMouseButton(event) && !list.isSelectedIndex(row)) {
                     list.setSelectedIndex(row); // what the menu is about
-                } else if (SwingUtilities.isLeftMouseButton(event) && event.getClickCount() == 2) {
+                } else if (SwingUtilities.isLeftMouseButton(event) && event.getClickCount() % 2 == 0) {
+                    // A quick click somewhere else before counts, too, so that a double click may end with a four.
                     openSelected();
                 }
             }
         });
     }
 
-    private void bind(KeyStroke key, Action action) {
-        list.getInputMap(JComponent.WHEN_FOCUSED).put(key, action.getValue(Action.NAME));
-        list.getActionMap().put(action.getValue(Action.NAME), action);
+    /** Takes a command's key in the list, before the list's own use of it. */
+    private void bind(Command command) {
+        list.getInputMap().put((KeyStroke) command.getValue(Action.ACCELERATOR_KEY), command);
+        list.getActionMap().put(command, command);
     }
 
-    private static Action action(String name, KeyStroke key, Runnable task) {
-        Action action = new AbstractAction(name) {
-            private static final long serialVersionUID = 1L;
-
-            @Override
-            public void actionPerformed(ActionEvent event) {
-                task.run();
-            }
-        };
-        action.putValue(Action.ACCELERATOR_KEY, key);
-        if (key != null) {
-            String keys = KeyEvent.getKeyModifiersText(key.getModifiers());
-            action.putValue(Action.SHORT_DESCRIPTION,
-                    name + " (" + keys + (keys.isEmpty() ? "" : "+") + KeyEvent.getKeyText(key.getKeyCode()) + ")");
-        }
-        return action;
-    }
-
-    private static KeyStroke shortcut(int key, int modifiers) {
-        return KeyStroke.getKeyStroke(key, Toolkit.getDefaultToolkit().getMenuShortcutKeyMask() | modifiers);
+    private boolean hasTrace() {
+        return rows.getSize() > 0;
     }
 
     private void showingChanged() {
@@ -189,9 +189,9 @@ public final class AddedAtPanel extends JPanel {
             list.setSelectedIndex(where);
             list.ensureIndexIsVisible(where);
         }
-        copyAll.setEnabled(rows.getSize() > 0);
-        copy.setEnabled(rows.getSize() > 0);
-        open.setEnabled(rows.getSize() > 0);
+        for (Command command : new Command[] {open, copy, copyAll}) {
+            command.update();
+        }
     }
 
     private void setOpen(boolean isOpen) {
@@ -233,29 +233,28 @@ public final class AddedAtPanel extends JPanel {
     private void copySelected() {
         List<String> lines = new ArrayList<>();
         for (StackRows.Row row : list.getSelectedValuesList()) {
-            if (row.line() != null) {
-                lines.add(CallSite.link(row.line()));
+            for (StackTraceElement line : rows.isOpen(row) && row.line() == null ? NONE : row.lines()) {
+                lines.add(CallSite.link(line));
             }
         }
-        StackTraceElement where = shown.where();
-        if (lines.isEmpty() && where != null) {
-            lines.add(CallSite.link(where));
+        if (lines.size() == 1) {
+            copy(lines.get(0), "copied " + lines.get(0));
+        } else if (!lines.isEmpty()) {
+            copy("\t" + String.join("\n\t", lines), "copied " + lines.size() + " lines");
         }
-        copy(String.join("\n", lines), lines.size() == 1 ? "copied " + lines.get(0) : "copied the lines");
     }
 
     private void copy(String text, String done) {
-        try {
-            Toolkit.getDefaultToolkit().getSystemClipboard().setContents(new StringSelection(text), null);
-            tell(new Editor.Outcome(done, false));
-        } catch (IllegalStateException e) {
-            tell(new Editor.Outcome("the clipboard is in use by another program; try again", true));
-        }
+        boolean works = Clip.copy(text);
+        tell(new Editor.Outcome(works ? done : "the clipboard is busy: another program holds it; try again", !works));
     }
 
     private void tell(Editor.Outcome outcome) {
         message.setText(outcome.line());
-        message.setToolTipText(outcome.line());
+        message.setToolTipText(Tips.of(outcome.line()));
         message.setColor(outcome.isFailure() ? Look::error : Look::dim);
+        if (!isShowing()) {
+            elsewhere.accept(outcome);
+        }
     }
 }

@@ -54,8 +54,7 @@ final class BoxDrawing extends JComponent {
         if (boxes == null) {
             return;
         }
-        Graphics2D g = (Graphics2D) graphics.create();
-        RowPainter.smoothText(g);
+        Graphics2D g = Look.smooth(graphics);
         g.setFont(Look.font());
         FontMetrics metrics = g.getFontMetrics();
         int step = metrics.getHeight() + 4;

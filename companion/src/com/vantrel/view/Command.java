@@ -1,6 +1,8 @@
 package com.vantrel.view;
 
 import java.awt.event.ActionEvent;
+import java.awt.event.InputEvent;
+import java.awt.event.KeyEvent;
 import java.util.function.BooleanSupplier;
 
 import javax.swing.AbstractAction;
@@ -17,7 +19,7 @@ final class Command extends AbstractAction {
 
     /**
      * @param name     as menus have it
-     * @param key      as {@link KeyStroke#getKeyStroke(String)} takes it; null for none
+     * @param key      as {@link KeyStroke#getKeyStroke(String)} takes it, "ctrl" for the platform's own key; or null
      * @param purpose  what it does, in a sentence without its full stop, for the tooltip
      * @param possible whether there is anything to do now
      */
@@ -25,14 +27,26 @@ final class Command extends AbstractAction {
         super(name);
         this.task = task;
         this.possible = possible;
-        KeyStroke stroke = key == null ? null : KeyStroke.getKeyStroke(key);
+        KeyStroke stroke = key == null ? null : keyStroke(key);
         putValue(ACCELERATOR_KEY, stroke);
+        describe(purpose);
+    }
+
+    /** Says anew what it does, in a sentence without its full stop. */
+    void describe(String purpose) {
+        KeyStroke stroke = (KeyStroke) getValue(ACCELERATOR_KEY);
         putValue(SHORT_DESCRIPTION, stroke == null ? purpose : purpose + " (" + keyText(stroke) + ")");
     }
 
+    /** A key as KeyStroke takes it, with the platform's own key for shortcuts in the place of "ctrl". */
+    static KeyStroke keyStroke(String key) {
+        boolean meta = Tips.shortcutMask() == InputEvent.META_DOWN_MASK;
+        return KeyStroke.getKeyStroke(meta ? key.replace("ctrl", "meta") : key);
+    }
+
     static String keyText(KeyStroke stroke) {
-        String modifiers = java.awt.event.InputEvent.getModifiersExText(stroke.getModifiers());
-        return (modifiers.isEmpty() ? "" : modifiers + "+") + java.awt.event.KeyEvent.getKeyText(stroke.getKeyCode());
+        String modifiers = InputEvent.getModifiersExText(stroke.getModifiers());
+        return (modifiers.isEmpty() ? "" : modifiers + "+") + KeyEvent.getKeyText(stroke.getKeyCode());
     }
 
     /** Takes its key anywhere in the window. */

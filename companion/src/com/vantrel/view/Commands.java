@@ -7,6 +7,7 @@ import java.util.List;
 import javax.swing.JComponent;
 
 import com.vantrel.model.Description;
+import com.vantrel.model.Edits;
 import com.vantrel.model.Facts;
 import com.vantrel.model.Selection;
 
@@ -24,13 +25,17 @@ final class Commands {
     final Command machinery;
     final Command expandAll;
     final Command collapseAll;
+    final Command undo;
+    final Command redo;
 
     private final Selection selection;
     private final TreePane tree;
+    private final Edits edits;
 
-    Commands(Selection selection, TreePane tree, Sight sight, StatusLine status, Runnable machineryChanged) {
+    Commands(Selection selection, Edits edits, TreePane tree, Sight sight, StatusLine status, Runnable machineryChanged) {
         this.selection = selection;
         this.tree = tree;
+        this.edits = edits;
         pick = new Command("Pick", "F8", "Selects what you click in the program next", sight::canPick,
                 () -> sight.pick(!sight.isPicking()));
         find = new Command("Find", "ctrl F", "Searches for components", () -> true, () -> {
@@ -61,6 +66,8 @@ final class Commands {
                 () -> tree.setAllExpanded(true));
         collapseAll = new Command("Collapse All", "ctrl shift W", "Collapses everything", () -> true,
                 () -> tree.setAllExpanded(false));
+        undo = new Command("Undo", "ctrl Z", "", edits::canUndo, edits::undo);
+        redo = new Command("Redo", "ctrl Y", "", edits::canRedo, edits::redo);
     }
 
     private boolean hasSelected() {
@@ -79,7 +86,7 @@ final class Commands {
 
     private List<Command> all() {
         return Arrays.asList(pick, find, back, forward, parent, outline, copyPath, copyClass, copyDescription, machinery,
-                expandAll, collapseAll);
+                expandAll, collapseAll, undo, redo);
     }
 
     /** Takes the commands' keys anywhere in the window. */
@@ -91,6 +98,8 @@ final class Commands {
 
     /** Looks again at what can be done now. */
     void update() {
+        undo.describe(("Undoes " + edits.whatToUndo()).trim());
+        redo.describe(("Does again " + edits.whatToRedo()).trim());
         for (Command command : all()) {
             command.update();
         }

@@ -3,15 +3,13 @@ package com.vantrel.view;
 import java.awt.BorderLayout;
 import java.awt.Component;
 import java.awt.event.HierarchyEvent;
-import java.awt.event.InputEvent;
-import java.awt.event.KeyEvent;
 import java.util.Collections;
 
 import javax.swing.JButton;
 import javax.swing.JComponent;
 import javax.swing.JPanel;
 import javax.swing.JTabbedPane;
-import javax.swing.KeyStroke;
+import javax.swing.SwingUtilities;
 import javax.swing.Timer;
 
 import com.vantrel.model.Edits;
@@ -74,7 +72,6 @@ public final class Details extends JPanel {
         tabs.addChangeListener(event -> showInFront(false));
         add(header, BorderLayout.NORTH);
         add(tabs, BorderLayout.CENTER);
-        bindUndo();
         selection.onChange(this::selectionChanged);
         edits.onChange(this::read);
         edits.onComplaint(text -> properties.table().complain(0, text));
@@ -84,15 +81,6 @@ public final class Details extends JPanel {
             }
         });
         selectionChanged();
-    }
-
-    private void bindUndo() {
-        int shortcut = Tips.shortcutMask();
-        int condition = WHEN_ANCESTOR_OF_FOCUSED_COMPONENT;
-        RowsPanel.bind(this, condition, KeyStroke.getKeyStroke(KeyEvent.VK_Z, shortcut), edits::undo);
-        RowsPanel.bind(this, condition, KeyStroke.getKeyStroke(KeyEvent.VK_Y, shortcut), edits::redo);
-        RowsPanel.bind(this, condition,
-                KeyStroke.getKeyStroke(KeyEvent.VK_Z, shortcut | InputEvent.SHIFT_DOWN_MASK), edits::redo);
     }
 
     private void showingChanged() {
@@ -126,6 +114,16 @@ public final class Details extends JPanel {
         }
         edits.forgetGone();
         showReading();
+        // The first time more is to be read than the event thread should be held for at once.
+        if (reading != null && !reading.isComplete()) {
+            SwingUtilities.invokeLater(this::readOn);
+        }
+    }
+
+    private void readOn() {
+        if (reading != null && isShowing() && !reading.isComplete()) {
+            read();
+        }
     }
 
     private void showReading() {

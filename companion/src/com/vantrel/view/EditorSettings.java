@@ -44,7 +44,9 @@ final class EditorSettings extends JPanel {
         field.addFocusListener(new FocusAdapter() {
             @Override
             public void focusLost(FocusEvent event) {
-                remember(setting, field);
+                if (!field.getText().trim().equals(Settings.get(setting, ""))) {
+                    remember(setting, field);
+                }
             }
         });
         JLabel label = new PlainLabel(title, Look::foreground, 1);
@@ -63,9 +65,6 @@ final class EditorSettings extends JPanel {
 
     private void remember(String setting, JTextField field) {
         String value = field.getText().trim();
-        if (value.equals(Settings.get(setting, ""))) {
-            return;
-        }
         boolean isRemembered = Settings.set(setting, value);
         told.accept(new Editor.Outcome(isRemembered ? "remembered" : "holds until the program ends; the settings file "
                 + "cannot be written", !isRemembered));

@@ -4,6 +4,7 @@ import java.awt.Color;
 import java.awt.Dimension;
 import java.awt.Graphics;
 import java.awt.Graphics2D;
+import java.awt.Rectangle;
 
 import javax.swing.AbstractButton;
 import javax.swing.Action;
@@ -47,7 +48,16 @@ final class FlatButton extends JToggleButton {
 
     @Override
     public void updateUI() {
-        setUI(new BasicButtonUI());
+        setUI(new BasicButtonUI() {
+            @Override
+            protected void paintText(Graphics graphics, AbstractButton button, Rectangle at, String text) {
+                Graphics2D g = Look.smooth(graphics);
+                Color color = button.getForeground();
+                g.setColor(button.isEnabled() ? color : Look.mix(color, Look.background(), 0.65));
+                g.drawString(text, at.x, at.y + g.getFontMetrics().getAscent());
+                g.dispose();
+            }
+        });
         setBorder(BorderFactory.createEmptyBorder(4, 5, 4, 5));
         setFont(Look.font());
         setForeground(Look.foreground());
@@ -75,7 +85,7 @@ final class FlatButton extends JToggleButton {
         return getPreferredSize();
     }
 
-    static AbstractButton of(Action action, Icon icon) {
+    static FlatButton of(Action action, Icon icon) {
         return new FlatButton(action, icon, false);
     }
 }

@@ -18,6 +18,7 @@ import javax.swing.JTable;
 import com.vantrel.model.AddedAt;
 import com.vantrel.model.CallSite;
 import com.vantrel.model.Code;
+import com.vantrel.model.Facts;
 import com.vantrel.model.Reading;
 import com.vantrel.model.Row;
 import com.vantrel.model.Target;
@@ -76,10 +77,8 @@ final class Header extends JPanel {
     void show(Reading reading) {
         Component component = reading == null ? null : reading.target().component();
         if (component == null) {
-            set(what, reading == null ? "Nothing is selected" : "This component is gone");
-            set(state, reading == null ? "Pick a component in the program, or select one in the tree."
-                    : "The program has dropped it, and nothing is left of it.");
-            what.setForeground(Look.dim());
+            set(what, "");
+            set(state, "");
             showLine(null, "");
             return;
         }
@@ -107,13 +106,9 @@ final class Header extends JPanel {
 
     private static List<String> states(Reading reading, Component component) {
         List<String> states = new ArrayList<>();
-        Row bounds = reading.row("bounds");
-        Object at = reading.plainValue("bounds");
-        if (at instanceof Rectangle) {
-            Rectangle box = (Rectangle) at;
+        Rectangle box = reading.target().isCell() ? reading.cellBounds() : Facts.bounds(component);
+        if (box != null) {
             states.add(box.width + " \u00d7 " + box.height + " at " + box.x + ", " + box.y);
-        } else if (bounds != null && bounds.kind() == Row.Kind.ERROR) {
-            states.add(bounds.value());
         }
         if (reading.target().isCell()) {
             states.add("the renderer's component, read-only");

@@ -7,16 +7,14 @@ import java.awt.Rectangle;
 import java.awt.event.ActionEvent;
 import java.awt.event.MouseAdapter;
 import java.awt.event.MouseEvent;
-import java.util.function.Function;
 
 import javax.swing.AbstractAction;
 import javax.swing.Action;
-import javax.swing.JComponent;
 import javax.swing.JMenuBar;
 import javax.swing.JPanel;
 import javax.swing.JPopupMenu;
-import javax.swing.KeyStroke;
 
+import com.vantrel.model.Edits;
 import com.vantrel.model.Selection;
 import com.vantrel.model.Settings;
 import com.vantrel.model.TreeNode;
@@ -26,9 +24,10 @@ public final class InspectorPane extends JPanel {
     private static final long serialVersionUID = 1L;
     private static final String SPLIT = "window.split";
     private static final String MACHINERY = "tree.machinery";
-    private static final int TREE_WIDTH = 420;
+    private static final double TREE_SHARE = 0.4;
 
     private final transient Selection selection;
+    private final transient Edits edits;
     private final transient Sight sight;
     private final TreePane tree;
     private final transient Commands commands;
@@ -39,29 +38,31 @@ public final class InspectorPane extends JPanel {
     private final JMenuBar menus;
 
     /**
-     * @param details makes the part of the window that tells all about the selected component, out of the selection
-     * @param close   hides the window
+     * @param edits what is changed in the program goes through it
+     * @param close hides the window
      */
-    public InspectorPane(Selection selection, Sight sight, Function<Selection, JComponent> details,
-            Runnable close) {
+    public InspectorPane(Selection selection, Edits edits, Sight sight, Runnable close) {
         super(new BorderLayout());
         this.selection = selection;
+        this.edits = edits;
         this.sight = sight;
         tree = new TreePane(selection);
         status = new StatusLine(selection);
-        commands = new Commands(selection, tree, sight, status, this::update);
-        tools = new ToolBar(commands, tree.searchBar(), null, null);
-        this.details = new DetailsPane(selection, details.apply(selection));
-        split = new Split(tree, this.details);
-        split.setDividerLocation(Settings.get(SPLIT, TREE_WIDTH));
-        split.setResizeWeight(0.3);
-        menus = Menus.bar(commands, tree.tree()::showsMachinery, closing(close), null, null);
+        commands = new Commands(selection, edits, tree, sight, status, this::update);
+        tools = new ToolBar(commands, tree.searchBar());
+        AddedAtPanel addedAt = new AddedAtPanel(selection);
+        addedAt.onOutcome(outcome -> status.say(outcome.line(), outcome.isFailure()));
+        details = new DetailsPane(selection, new Details(selection, edits, addedAt, addedAt::openWhere));
+        split = new Split(tree, details);
+        split.setResizeWeight(TREE_SHARE);
+        menus = Menus.bar(commands, tree.tree()::showsMachinery, closing(close));
         add(tools, BorderLayout.PAGE_START);
         add(split);
         add(status, BorderLayout.PAGE_END);
 
         commands.bind(this);
         selection.onChange(this::update);
+        edits.onChange(this::update);
         sight.onChange(this::update);
         tree.onLook(this::update);
         tree.view().onHover(node -> sight.outline(node == null ? null : node.component()));
@@ -79,7 +80,7 @@ public final class InspectorPane extends JPanel {
                 close.run();
             }
         };
-        action.putValue(Action.ACCELERATOR_KEY, KeyStroke.getKeyStroke("ctrl W"));
+        action.putValue(Action.ACCELERATOR_KEY, Command.keyStroke("ctrl W"));
         return action;
     }
 
@@ -124,8 +125,10 @@ public final class InspectorPane extends JPanel {
         return tree.view();
     }
 
-    /** Begins to look at the program. */
+    /** Begins to look at the program: the window has its size now. */
     public void start() {
+        validate();
+        split.setDividerLocation(Settings.get(SPLIT, (int) (TREE_SHARE * getWidth())));
         tree.start();
     }
 
@@ -140,13 +143,13 @@ public final class InspectorPane extends JPanel {
         sight.outline(null);
         sight.pick(false);
         selection.clear();
+        edits.clear();
         tree.clear();
     }
 
     private void update() {
         Component component = selection.component();
         boolean gone = component != null && tree.isReady() && tree.tree().nodeOf(component) == null;
-        status.tellGone(gone);
         details.update(gone, selection.hasLost());
         commands.update();
         tools.update(sight.isPicking(), tree.tree().showsMachinery());

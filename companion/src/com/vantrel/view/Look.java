@@ -150,7 +150,8 @@ public final class Look {
         if (metrics.stringWidth(text) <= room) {
             return text;
         }
-        int end = text.length();
+        // No letter is narrower than a pixel: of a text of a thousand letters those that cannot fit are not measured.
+        int end = Math.min(text.length(), Math.max(0, room));
         while (end > 0 && metrics.stringWidth(text.substring(0, end) + "\u2026") > room) {
             end--;
         }

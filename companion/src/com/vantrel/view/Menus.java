@@ -14,14 +14,11 @@ final class Menus {
     private Menus() {
     }
 
-    /**
-     * @param close hides the window
-     * @param undo  and redo: null where nothing can be edited
-     */
-    static JMenuBar bar(Commands commands, BooleanSupplier showsMachinery, Action close, Action undo, Action redo) {
+    /** @param close hides the window */
+    static JMenuBar bar(Commands commands, BooleanSupplier showsMachinery, Action close) {
         JMenuBar bar = new JMenuBar();
         JMenu inspector = menu("Inspector", 'I', commands.pick, commands.find, null, close);
-        JMenu edit = menu("Edit", 'E', undo, redo, null, commands.copyPath, commands.copyClass,
+        JMenu edit = menu("Edit", 'E', commands.undo, commands.redo, null, commands.copyPath, commands.copyClass,
                 commands.copyDescription);
         JMenu view = menu("View", 'V');
         JCheckBoxMenuItem machinery = new JCheckBoxMenuItem(commands.machinery);
@@ -45,7 +42,7 @@ final class Menus {
         for (Action action : actions) {
             if (action != null) {
                 add(menu, action);
-            } else if (menu.getItemCount() > 0) {
+            } else {
                 menu.addSeparator();
             }
         }

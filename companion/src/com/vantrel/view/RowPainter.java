@@ -7,9 +7,6 @@ import java.awt.FontMetrics;
 import java.awt.Graphics;
 import java.awt.Graphics2D;
 import java.awt.KeyboardFocusManager;
-import java.awt.RenderingHints;
-import java.awt.Toolkit;
-import java.util.Map;
 
 import javax.swing.JComponent;
 import javax.swing.JTable;
@@ -92,8 +89,7 @@ final class RowPainter extends JComponent implements TableCellRenderer {
 
     @Override
     protected void paintComponent(Graphics graphics) {
-        Graphics2D g = (Graphics2D) graphics.create();
-        smoothText(g);
+        Graphics2D g = Look.smooth(graphics);
         Row row = model.row(line);
         if (row == null) {
             paintTitle(g);
@@ -103,21 +99,9 @@ final class RowPainter extends JComponent implements TableCellRenderer {
         g.dispose();
     }
 
-    /** Text as the desktop has it. */
-    static void smoothText(Graphics2D g) {
-        Object hints = Toolkit.getDefaultToolkit().getDesktopProperty("awt.font.desktophints");
-        if (hints instanceof Map) {
-            g.addRenderingHints((Map<?, ?>) hints);
-        } else {
-            g.setRenderingHint(RenderingHints.KEY_TEXT_ANTIALIASING, RenderingHints.VALUE_TEXT_ANTIALIAS_ON);
-        }
-        g.setRenderingHint(RenderingHints.KEY_ANTIALIASING, RenderingHints.VALUE_ANTIALIAS_ON);
-        g.setRenderingHint(RenderingHints.KEY_STROKE_CONTROL, RenderingHints.VALUE_STROKE_PURE);
-    }
-
     /** A title goes over all columns: each paints its part of it. */
     private void paintTitle(Graphics2D g) {
-        Color back = selected ? tableBackground : Look.mix(Look.paper(), Look.foreground(), 0.06);
+        Color back = selected ? tableBackground : Look.mix(Look.paper(), Look.ink(), 0.06);
         g.setColor(back);
         g.fillRect(0, 0, getWidth(), getHeight());
         g.translate(-offset, 0);
@@ -128,7 +112,7 @@ final class RowPainter extends JComponent implements TableCellRenderer {
         int[] y = open ? new int[] {middle - 2, middle - 2, middle + 3} : new int[] {middle - 4, middle, middle + 4};
         g.fillPolygon(x, y, 3);
         g.setFont(Look.bold());
-        g.setColor(textOn(back, Look.foreground()));
+        g.setColor(textOn(back, Look.ink()));
         String title = model.group(line);
         int base = baseline(g.getFontMetrics());
         g.drawString(title, PADDING + FOLD, base);
@@ -148,7 +132,7 @@ final class RowPainter extends JComponent implements TableCellRenderer {
         g.fillRect(0, 0, getWidth(), getHeight());
         int x = PADDING;
         if (column == RowsModel.NAME) {
-            paintText(g, row.name(), x + FOLD, getWidth(), textOn(back, Look.foreground()));
+            paintText(g, row.name(), x + FOLD, getWidth(), textOn(back, Look.ink()));
         } else if (column == RowsModel.NOTE) {
             if (row.note().isEmpty()) {
                 // What a long value has no room for goes on here.
@@ -187,11 +171,12 @@ final class RowPainter extends JComponent implements TableCellRenderer {
         case ERROR:
             return Look.error();
         case DIM:
+        case WAITING:
             return Look.dim();
         case ASK:
             return Look.own();
         default:
-            return row.isPrograms() ? Look.own() : Look.foreground();
+            return row.isPrograms() ? Look.own() : Look.ink();
         }
     }
 
@@ -210,21 +195,7 @@ final class RowPainter extends JComponent implements TableCellRenderer {
         g.setFont(Look.font());
         g.setColor(color);
         FontMetrics metrics = g.getFontMetrics();
-        g.drawString(fitting(oneLine(text), metrics, width - x - 2), x, baseline(metrics));
-    }
-
-    /** As much of a text as fits, with three dots for the rest. */
-    static String fitting(String text, FontMetrics metrics, int width) {
-        if (metrics.stringWidth(text) <= width) {
-            return text;
-        }
-        int end = text.length();
-        // A text may be long and a cell is short: what cannot fit is not measured.
-        end = Math.min(end, Math.max(0, width));
-        while (end > 0 && metrics.stringWidth(text.substring(0, end) + "\u2026") > width) {
-            end--;
-        }
-        return end == 0 ? "" : text.substring(0, end) + "\u2026";
+        g.drawString(Look.fitting(oneLine(text), metrics, width - x - 2), x, baseline(metrics));
     }
 
     private int baseline(FontMetrics metrics) {
@@ -237,13 +208,13 @@ final class RowPainter extends JComponent implements TableCellRenderer {
         g.fillRect(x, y, MARK, MARK);
         g.setColor(color);
         g.fillRect(x, y, MARK, MARK);
-        g.setColor(Look.mix(Look.foreground(), Look.paper(), 0.5));
+        g.setColor(Look.mix(Look.ink(), Look.paper(), 0.5));
         g.drawRect(x, y, MARK, MARK);
     }
 
     private void paintCheck(Graphics2D g, int x, boolean ticked, boolean editable, Color back) {
         int y = (getHeight() - MARK) / 2;
-        g.setColor(textOn(back, editable ? Look.foreground() : Look.dim()));
+        g.setColor(textOn(back, editable ? Look.ink() : Look.dim()));
         g.drawRect(x, y, MARK, MARK);
         if (ticked) {
             g.setStroke(new BasicStroke(1.8f));

@@ -84,7 +84,8 @@ final class RowsModel extends AbstractTableModel {
             Line line = lines.get(i);
             if (!line.isSameAs(before.get(i))) {
                 if (flash && line.row != null && !line.row.saysSame(before.get(i).row)
-                        && before.get(i).row.kind() != Row.Kind.ASK) {
+                        && before.get(i).row.kind() != Row.Kind.ASK
+                        && before.get(i).row.kind() != Row.Kind.WAITING) {
                     changedAt.put(line.key(), System.nanoTime());
                 }
                 fireTableRowsUpdated(i, i);

@@ -8,6 +8,7 @@ import java.awt.Graphics;
 import java.awt.Graphics2D;
 import java.awt.event.ActionEvent;
 import java.awt.event.InputEvent;
+import java.awt.event.KeyAdapter;
 import java.awt.event.KeyEvent;
 import java.util.List;
 
@@ -50,8 +51,7 @@ final class RowsPanel extends JPanel {
         table = new RowsTable(name, model);
         filter = new PromptField(prompt);
         filter.setName(name + ".filter");
-        filter.setToolTipText(Tips.of(prompt + " (" + (Tips.shortcutMask() == InputEvent.META_DOWN_MASK
-                ? "\u2318F" : "Ctrl+F") + "); words that a row has anywhere, in any order"));
+        filter.setToolTipText("Words that a row has anywhere, in any order. Typing in the table comes here, too.");
         strip.setName(name + ".strip");
         JScrollPane scroll = new JScrollPane(table, ScrollPaneConstants.VERTICAL_SCROLLBAR_ALWAYS,
                 ScrollPaneConstants.HORIZONTAL_SCROLLBAR_NEVER);
@@ -158,11 +158,18 @@ final class RowsPanel extends JPanel {
         });
         bind(filter, WHEN_FOCUSED, KeyStroke.getKeyStroke(KeyEvent.VK_DOWN, 0), this::enterTable);
         bind(filter, WHEN_FOCUSED, KeyStroke.getKeyStroke(KeyEvent.VK_ENTER, 0), this::enterTable);
-        bind(this, WHEN_ANCESTOR_OF_FOCUSED_COMPONENT,
-                KeyStroke.getKeyStroke(KeyEvent.VK_F, Tips.shortcutMask()), () -> {
+        table.addKeyListener(new KeyAdapter() {
+            @Override
+            public void keyTyped(KeyEvent event) {
+                boolean plain = (event.getModifiersEx() & (InputEvent.CTRL_DOWN_MASK | InputEvent.ALT_DOWN_MASK
+                        | InputEvent.META_DOWN_MASK)) == 0;
+                if (plain && event.getKeyChar() > ' ' && event.getKeyChar() != KeyEvent.VK_DELETE) {
+                    event.consume();
+                    filter.setText(filter.getText() + event.getKeyChar());
                     filter.requestFocusInWindow();
-                    filter.selectAll();
-                });
+                }
+            }
+        });
     }
 
     private void enterTable() {
@@ -199,8 +206,7 @@ final class RowsPanel extends JPanel {
         protected void paintComponent(Graphics graphics) {
             super.paintComponent(graphics);
             if (getText().isEmpty()) {
-                Graphics2D g = (Graphics2D) graphics.create();
-                RowPainter.smoothText(g);
+                Graphics2D g = Look.smooth(graphics);
                 Color fore = getForeground() == null ? Look.foreground() : getForeground();
                 Color back = getBackground() == null ? Look.paper() : getBackground();
                 g.setColor(Look.mix(fore, back, 0.5));

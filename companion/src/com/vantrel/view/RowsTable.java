@@ -4,8 +4,6 @@ import java.awt.Color;
 import java.awt.Dimension;
 import java.awt.FontMetrics;
 import java.awt.Rectangle;
-import java.awt.Toolkit;
-import java.awt.datatransfer.StringSelection;
 import java.awt.event.ActionEvent;
 import java.awt.event.InputEvent;
 import java.awt.event.KeyEvent;
@@ -254,8 +252,7 @@ final class RowsTable extends JTable {
         JPopupMenu menu = new JPopupMenu();
         menu.add(bind(KeyStroke.getKeyStroke(KeyEvent.VK_C, shortcut),
                 action("Copy value", () -> copy(selectedRow() == null ? "" : selectedRow().value()))));
-        menu.add(bind(KeyStroke.getKeyStroke(KeyEvent.VK_C, shortcut | InputEvent.SHIFT_DOWN_MASK),
-                action("Copy line", () -> copy(selectedRow() == null ? "" : selectedRow().toString()))));
+        menu.add(action("Copy line", () -> copy(selectedRow() == null ? "" : selectedRow().toString())));
         menu.add(action("Copy all lines", () -> copy(allText())));
         return menu;
     }
@@ -281,7 +278,7 @@ final class RowsTable extends JTable {
 
     private static void copy(String text) {
         if (!text.isEmpty()) {
-            Toolkit.getDefaultToolkit().getSystemClipboard().setContents(new StringSelection(text), null);
+            Clip.copy(text);
         }
     }
 
@@ -339,6 +336,9 @@ final class RowsTable extends JTable {
     }
 
     private void activate() {
+        if (isEditing()) {
+            return; // a space that is typed into the editor comes by here, too
+        }
         int line = getSelectedRow();
         Row row = rows.row(line);
         if (row == null) {

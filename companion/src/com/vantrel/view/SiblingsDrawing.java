@@ -98,20 +98,19 @@ final class SiblingsDrawing extends JComponent {
         if (!isThere()) {
             return;
         }
-        Graphics2D g = (Graphics2D) graphics.create();
-        RowPainter.smoothText(g);
+        Graphics2D g = Look.smooth(graphics);
         Rectangle2D parent = place(new Rectangle(boxes.parent()));
         g.setColor(Look.paper());
         g.fill(parent);
-        g.setColor(Look.mix(Look.foreground(), Look.paper(), 0.5));
+        g.setColor(Look.mix(Look.ink(), Look.paper(), 0.5));
         g.draw(parent);
         List<Boxes.Box> siblings = boxes.siblings();
         g.clip(new Rectangle2D.Double(parent.getX(), parent.getY(), parent.getWidth() + 1, parent.getHeight() + 1));
         for (Boxes.Box box : siblings) {
             if (box.isVisible()) {
-                g.setColor(Look.mix(Look.foreground(), Look.paper(), 0.9));
+                g.setColor(Look.mix(Look.ink(), Look.paper(), 0.9));
                 g.fill(place(box.bounds()));
-                g.setColor(Look.mix(Look.foreground(), Look.paper(), 0.6));
+                g.setColor(Look.mix(Look.ink(), Look.paper(), 0.6));
                 g.draw(place(box.bounds()));
             }
         }

@@ -4,31 +4,6 @@ import java.awt.Component;
 
 /** What the inspector's window has done in the program's windows: showing where a component is, and picking one. */
 public interface Sight {
-    /** Where neither can be done. */
-    Sight NONE = new Sight() {
-        @Override
-        public boolean canPick() {
-            return false;
-        }
-
-        @Override
-        public boolean isPicking() {
-            return false;
-        }
-
-        @Override
-        public void pick(boolean on) {
-        }
-
-        @Override
-        public void outline(Component component) {
-        }
-
-        @Override
-        public void onChange(Runnable listener) {
-        }
-    };
-
     boolean canPick();
 
     /** Whether the next click in the program selects a component. */

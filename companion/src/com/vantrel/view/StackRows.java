@@ -1,6 +1,7 @@
 package com.vantrel.view;
 
 import java.util.ArrayList;
+import java.util.Collections;
 import java.util.HashSet;
 import java.util.List;
 import java.util.Set;
@@ -31,6 +32,11 @@ final class StackRows extends AbstractListModel<StackRows.Row> {
         /** The line; null for the head of a fold. */
         StackTraceElement line() {
             return line;
+        }
+
+        /** The line, or all that a fold holds. */
+        List<StackTraceElement> lines() {
+            return line == null ? part.lines() : Collections.singletonList(line);
         }
 
         /** Whether this is the program's line that put the component where it is. */

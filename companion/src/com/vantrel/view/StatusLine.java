@@ -23,7 +23,6 @@ final class StatusLine extends JComponent {
     private final Breadcrumb crumbs;
     private final JLabel system = new JLabel();
     private final Timer endOfMessage;
-    private boolean isGone;
 
     StatusLine(Selection selection) {
         this.selection = selection;
@@ -60,25 +59,20 @@ final class StatusLine extends JComponent {
     /** Copies a text, and says so. */
     void copied(String what, String text) {
         boolean works = Clip.copy(text);
-        tell(works ? "The " + what + " is on the clipboard."
+        say(works ? "The " + what + " is on the clipboard."
                 : "The clipboard is busy: another program holds it. Try again.", !works);
-        endOfMessage.restart();
     }
 
-    /** Tells whether the selected component is in a window at all. */
-    void tellGone(boolean gone) {
-        if (gone != isGone) {
-            isGone = gone;
-            tell("", false);
-        }
+    /** Says for a while what was done, or why it was not. */
+    void say(String message, boolean fault) {
+        tell(message, fault);
+        endOfMessage.restart();
     }
 
     private void tell(String message, boolean fault) {
         Component component = selection.component();
         if (!message.isEmpty()) {
             crumbs.show(null, message, fault);
-        } else if (isGone && component != null) {
-            crumbs.show(component, "In no window any more:", true);
         } else {
             crumbs.show(component, component == null ? "Nothing is selected." : "", false);
         }

@@ -18,8 +18,7 @@ final class ToolBar extends JComponent {
     private final FlatButton machinery;
     private int column;
 
-    /** @param undo takes back the last edit; null where there are none, and so for redo */
-    ToolBar(Commands commands, SearchBar search, Action undo, Action redo) {
+    ToolBar(Commands commands, SearchBar search) {
         setLayout(new GridBagLayout());
         setBorder(BorderFactory.createEmptyBorder(Look.GAP, Look.GAP, Look.GAP, Look.GAP));
         pick = new FlatButton(commands.pick, ToolIcon.PICK, true).named();
@@ -31,10 +30,8 @@ final class ToolBar extends JComponent {
         put(FlatButton.of(commands.forward, ToolIcon.FORWARD), 0, Look.GAP);
         put(search, 1, Look.GAP);
         put(machinery, 0, Look.GAP);
-        if (undo != null && redo != null) {
-            put(FlatButton.of(undo, ToolIcon.UNDO), 0, 0);
-            put(FlatButton.of(redo, ToolIcon.REDO), 0, 0);
-        }
+        put(FlatButton.of(commands.undo, ToolIcon.UNDO), 0, 0);
+        put(FlatButton.of(commands.redo, ToolIcon.REDO), 0, 0);
     }
 
     private void put(JComponent part, int weight, int gap) {

@@ -9,7 +9,6 @@ import java.util.concurrent.TimeUnit;
 import javax.swing.BorderFactory;
 import javax.swing.JPanel;
 import javax.swing.JScrollPane;
-import javax.swing.JTextField;
 import javax.swing.SwingUtilities;
 import javax.swing.Timer;
 
@@ -49,6 +48,8 @@ final class TreePane extends JPanel {
     private long searchTook;
     private boolean goToFirst;
     private boolean isReady;
+    /** Where to go when the search is done: Enter was pressed before. */
+    private int stepWhenDone;
     private transient Runnable onLook = () -> { };
 
     TreePane(Selection selection) {
@@ -124,6 +125,8 @@ final class TreePane extends JPanel {
         if (!isReady) {
             isReady = true;
             showSelected(); // somebody may have selected it before the tree was there
+            showState();
+            view.requestFocusInWindow();
         } else if (changed) {
             showRows(false);
         }
@@ -193,6 +196,9 @@ final class TreePane extends JPanel {
             }
             view.lookAgain();
             showState();
+            if (stepWhenDone != 0) {
+                step(stepWhenDone);
+            }
         } else {
             pieces.start();
         }
@@ -223,6 +229,10 @@ final class TreePane extends JPanel {
 
     /** Selects the next component that the search has found, in a direction. */
     private void step(int direction) {
+        stepWhenDone = search.isWorking() && goToFirst ? direction : 0;
+        if (stepWhenDone != 0) {
+            return;
+        }
         List<TreeNode> rows = tree.rows();
         int from = view.getSelectedIndex();
         if (from < 0) {
@@ -238,12 +248,8 @@ final class TreePane extends JPanel {
     }
 
     private void endSearch() {
-        JTextField field = bar.field();
-        if (field.getText().isEmpty()) {
-            view.requestFocusInWindow();
-        } else {
-            field.setText("");
-        }
+        bar.field().setText("");
+        view.requestFocusInWindow();
     }
 
     private void typeInSearch(String text) {

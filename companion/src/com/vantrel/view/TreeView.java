@@ -30,7 +30,8 @@ import com.vantrel.model.TreeSearch;
 
 /**
  * The tree of components on the screen: a list of rows of one height, which is what keeps it quick however large the
- * program is. When the rows change, the selected component stays selected, and the row at the top stays at the top.
+ * program is. When the rows change, the selected component stays selected, and its row, or else the one at the top,
+ * stays where it is on the screen.
  */
 final class TreeView extends JList<TreeNode> {
     private static final long serialVersionUID = 1L;
@@ -149,6 +150,10 @@ final class TreeView extends JList<TreeNode> {
     void showRows() {
         Rectangle seen = getVisibleRect();
         int first = seen.isEmpty() ? -1 : locationToIndex(seen.getLocation());
+        int chosen = selected == null ? -1 : rows.list.indexOf(selected);
+        if (chosen >= 0 && seen.intersects(getCellBounds(chosen, chosen))) {
+            first = chosen; // what somebody looks at stays where it is
+        }
         TreeNode anchor = first < 0 || first >= rows.list.size() ? null : rows.list.get(first);
         int offset = anchor == null ? 0 : seen.y - getCellBounds(first, first).y;
         adjusting = true;

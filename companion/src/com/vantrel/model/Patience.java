@@ -1,0 +1,44 @@
+package com.vantrel.model;
+
+import java.util.HashMap;
+import java.util.Map;
+import java.util.WeakHashMap;
+
+/**
+ * Which properties of which classes take long to read, and are not read unasked any more: each of them is met once and
+ * not with every component that is selected. Belongs to the event thread; holds no class.
+ */
+final class Patience {
+    /** The JDK's own getters take a thousandth of it. */
+    private static final long SLOW_NANOS = 50_000_000;
+
+    /** What the machine may have held up, by collecting garbage or by having other things to do, gets a second chance. */
+    private static final long TOO_SLOW_NANOS = 400_000_000;
+    private static final int CHANCES = 2;
+
+    private static final Map<Class<?>, Map<String, Integer>> STRIKES = new WeakHashMap<>();
+
+    private Patience() {
+    }
+
+    /** Whether a property is not to be read unasked. */
+    static boolean isLost(Class<?> type, String property) {
+        Map<String, Integer> strikes = STRIKES.get(type);
+        return strikes != null && strikes.getOrDefault(property, 0) >= CHANCES;
+    }
+
+    /**
+     * Notes how long it took to read a property.
+     *
+     * @return whether it is not to be read unasked from now on
+     */
+    static boolean took(Class<?> type, String property, long nanos) {
+        if (nanos > SLOW_NANOS) {
+            int strikes = nanos > TOO_SLOW_NANOS ? CHANCES : 1;
+            STRIKES.computeIfAbsent(type, key -> new HashMap<>()).merge(property, strikes, Integer::sum);
+        } else if (STRIKES.containsKey(type)) {
+            STRIKES.get(type).remove(property);
+        }
+        return isLost(type, property);
+    }
+}
