@@ -18,8 +18,11 @@ constexpr struct {
     const char* name;
     int tests;
 } kUnitTests[] = {
-    {"hooks.HooksTest", 4},          {"model.AddedAtTest", 4},
-    {"model.EditorTest", 4},         {"stacktrace.StackTraceManagerTest", 5},
+    {"hooks.HooksTest", 4},
+    {"model.AddedAtTest", 4},
+    {"model.EditorTest", 4},
+    {"pick.HotKeyTest", 2},
+    {"stacktrace.StackTraceManagerTest", 5},
     {"util.ClassFileEditorTest", 6},
 };
 
