@@ -24,15 +24,31 @@ constexpr UnitTests kUnitTests[] = {
     {"model.AddedAtTest", 4},
     {"model.ComponentTreeTest", 5},
     {"model.EditorTest", 4},
-    {"model.EditsTest", 4},
-    {"model.FormatsTest", 2},
-    {"model.KeysTest", 3},
-    {"model.ReadingTest", 4},
     {"pick.HotKeyTest", 2},
     {"stacktrace.StackTraceManagerTest", 5},
     {"util.ClassFileEditorTest", 6},
 };
+constexpr UnitTests kProgramsUnitTests[] = {
+    {"model.EditsTest", 4},
+    {"model.FormatsTest", 2},
+    {"model.KeysTest", 3},
+    {"model.ReadingTest", 4},
+};
 // clang-format on
+
+// Runs tests, by the command that options of the VM make, and expects all of them to be there and to pass.
+template <typename Tests, typename Command>
+void expect_to_pass(const Tests& classes, const Command& command) {
+    Arguments options = {"-Djava.awt.headless=true", "org.junit.runner.JUnitCore"};
+    int count = 0;
+    for (const auto& [name, tests] : classes) {
+        options.push_back("com.vantrel." + std::string(name));
+        count += tests;
+    }
+    const Finished finished = run(command(options));
+    EXPECT_EQ(finished.status, 0) << finished.out << finished.err;
+    EXPECT_THAT(finished.out, HasSubstr("\nOK (" + std::to_string(count) + " tests)\n"));
+}
 
 class Companion : public testing::TestWithParam<int> {};
 INSTANTIATE_TEST_SUITE_P(OnJdk, Companion, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
