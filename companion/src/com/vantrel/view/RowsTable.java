@@ -71,6 +71,7 @@ final class RowsTable extends JTable {
         // Editing begins when it is asked for, ends when the focus goes elsewhere, and takes nothing half typed.
         putClientProperty("JTable.autoStartsEdit", Boolean.FALSE);
         putClientProperty("terminateEditOnFocusLost", Boolean.TRUE);
+        complaint.setName("vantrel.complaint");
         complaintEnds.setRepeats(false);
         look();
         bindKeys();
@@ -264,6 +265,11 @@ final class RowsTable extends JTable {
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_RIGHT, 0), action("Unfold", () -> fold(true)));
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_HOME, 0), action("First", () -> go(0)));
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_END, 0), action("Last", () -> go(getRowCount() - 1)));
+        // They go to the next tab, and not from column to column.
+        for (int key : new int[] {KeyEvent.VK_PAGE_UP, KeyEvent.VK_PAGE_DOWN}) {
+            getInputMap(WHEN_ANCESTOR_OF_FOCUSED_COMPONENT)
+                    .put(KeyStroke.getKeyStroke(key, InputEvent.CTRL_DOWN_MASK), "none");
+        }
         // Out of the table, and not from cell to cell: a row is walked as one.
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_TAB, 0), action("Next", this::transferFocus));
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_TAB, InputEvent.SHIFT_DOWN_MASK),
@@ -377,16 +383,23 @@ final class RowsTable extends JTable {
         }
     }
 
+    /** Ends editing, however it ends: Escape comes here and nowhere else. */
+    @Override
+    public void removeEditor() {
+        super.removeEditor();
+        if (complaint != null) { // it is called by the superclass's constructor, too
+            complain(-1, null);
+        }
+    }
+
     @Override
     public void editingStopped(ChangeEvent event) {
-        complain(-1, null);
         super.editingStopped(event);
         requestFocusInWindow();
     }
 
     @Override
     public void editingCanceled(ChangeEvent event) {
-        complain(-1, null);
         super.editingCanceled(event);
         requestFocusInWindow();
     }
