@@ -172,6 +172,11 @@ TEST_P(InspectorTree, IsSearchedByTyping) {
     }
     search("no such thing");
     EXPECT_TRUE(eventually([this] { return rows().empty(); }));
+    for (int time = 0; time < 20; ++time) {  // ended before it has begun
+        keys.type("j");
+        keys.press({XK_Escape});
+    }
+    EXPECT_LT(std::stoi(ask("busy")), 50) << "percent";
 }
 
 TEST_P(InspectorTree, IsWalkedAndCopiedByTheKeyboard) {
