@@ -151,6 +151,10 @@ final class Commands {
         // watch: begins to measure how long the event thread is held; held: the longest time since, in milliseconds
         commands.put("watch", words -> watch.start());
         commands.put("held", words -> watch.stop());
+        commands.put("hold", words -> { // MILLISECONDS: holds the event thread, beginning now
+            SwingUtilities.invokeLater(() -> EventThreadWatch.hold(Integer.parseInt(words[0])));
+            return "";
+        });
         commands.put("busy", words -> EventThreadWatch.busy()); // how much of a second it computes, in percent
     }
 

@@ -30,6 +30,14 @@ final class EventThreadWatch {
         return String.valueOf(longest.get() / 1_000_000);
     }
 
+    static void hold(int millis) {
+        try {
+            Thread.sleep(millis);
+        } catch (InterruptedException e) {
+            Thread.currentThread().interrupt();
+        }
+    }
+
     /** How much of a second the event thread computes, in percent. */
     static String busy() throws InterruptedException {
         long before = computed();
