@@ -225,6 +225,7 @@ TEST_P(InspectorDetails, TellOfLayoutListenersAndKeys) {
     // GroupLayout tells its groups to nobody; the agent has opened the toolkit's module.
     seek("group.field");
     click(where("vantrel.keys.filter"));
+    expect_focus("vantrel.keys.filter");
     for (int tab = 0; tab < 3; ++tab) {
         keys.press({XK_Control_L, XK_Page_Up});
     }
