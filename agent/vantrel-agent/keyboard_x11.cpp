@@ -1,8 +1,7 @@
 // The keyboard under X11. The hot key has two threads of its own:
 //
 //     vantrel-x11      holds the connection with the grabs and waits for presses. It never enters the VM, so that it
-//     can
-//                      pass presses on to other programs even while a debugger holds this one.
+//                      can pass presses on to other programs even while a debugger holds this one.
 //     vantrel-hotkey   is attached to the VM as a daemon and runs the callback, once for each press.
 //
 // What both share with bindMacHotKey and unbindMacHotKey is a Binding; each of them keeps it for as long as it needs

@@ -101,6 +101,11 @@ TEST(HotKey, LockKeysMakeNoDifference) {
         keys.press({XK_Control_L, XK_F12});
         EXPECT_TRUE(probe.says("press " + std::to_string(++presses)));
     }
+    // Nor does a mouse button, which the server reports as it does modifiers.
+    keys.button_down(1);
+    keys.press({XK_Control_L, XK_F12});
+    EXPECT_TRUE(probe.says("press " + std::to_string(++presses)));
+    keys.button_up(1);
 }
 
 TEST(HotKey, CountsOnceWhileItIsHeld) {

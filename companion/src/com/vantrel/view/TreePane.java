@@ -40,10 +40,10 @@ final class TreePane extends JPanel {
     private final transient TreeSearch search = new TreeSearch(tree);
     private final TreeView view = new TreeView(tree, search);
     private final SearchBar bar = new SearchBar(this::searchChanged);
-    private final StatePanel state = new StatePanel();
+    private final StatePanel state = new StatePanel(Look::paper);
     private final CardLayout cards = new CardLayout();
     private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> look());
-    private final Timer pieces = new Timer(1, event -> goOnSearching());
+    private boolean willGoOn;
     private long searchStarted;
     private long searchTook;
     private boolean goToFirst;
@@ -75,7 +75,6 @@ final class TreePane extends JPanel {
         bar.onKey("shift ENTER", () -> step(-1));
         bar.onKey("ESCAPE", this::endSearch);
         bar.onKey("DOWN", view::requestFocusInWindow);
-        pieces.setRepeats(false);
         looks.setInitialDelay(0);
         looks.setCoalesce(true);
     }
@@ -108,7 +107,6 @@ final class TreePane extends JPanel {
 
     void stop() {
         looks.stop();
-        pieces.stop();
     }
 
     /** Forgets everything: the window is being closed. */
@@ -132,7 +130,7 @@ final class TreePane extends JPanel {
         }
         if (search.isOn() && !search.isWorking()) {
             search.startOver(); // what was found may be found no more, and the other way round
-            pieces.start();
+            goOnLater();
         }
         view.lookAgain();
         showState();
@@ -172,20 +170,27 @@ final class TreePane extends JPanel {
         searchStarted = System.nanoTime();
         goToFirst = true;
         if (search.isOn()) {
-            pieces.start(); // and not at once: there may be more keys waiting
+            goOnLater(); // and not at once: there may be more keys waiting
         } else {
-            pieces.stop();
             showSelected();
             showState();
         }
     }
 
+    /** Goes on behind whatever waits for the event thread already. */
+    private void goOnLater() {
+        if (!willGoOn) {
+            willGoOn = true;
+            SwingUtilities.invokeLater(this::goOnSearching);
+        }
+    }
+
     private void goOnSearching() {
+        willGoOn = false;
         long start = System.nanoTime();
         boolean done = search.work(PIECE);
         searchTook += System.nanoTime() - start;
         if (done) {
-            pieces.stop();
             Component component = selection.component();
             TreeNode node = component == null ? null : tree.nodeOf(component);
             boolean toFirst = goToFirst && (node == null || !node.isMatch());
@@ -199,8 +204,8 @@ final class TreePane extends JPanel {
             if (stepWhenDone != 0) {
                 step(stepWhenDone);
             }
-        } else {
-            pieces.start();
+        } else if (search.isWorking()) { // nobody has ended it meanwhile
+            goOnLater();
         }
         tellCount();
     }
@@ -219,7 +224,7 @@ final class TreePane extends JPanel {
         tellCount();
         boolean empty = tree.rows().isEmpty();
         if (empty && search.isOn()) {
-            state.show(ToolIcon.SEARCH, "Nothing is called \u201c" + bar.field().getText().trim() + "\u201d",
+            state.show(ToolIcon.SEARCH, "Nothing matches \u201c" + bar.field().getText().trim() + "\u201d",
                     "Escape\tshows everything again");
         } else if (empty) {
             state.show(ToolIcon.SEARCH, "The program has no windows", "They appear here as soon as there are any.");
@@ -262,7 +267,7 @@ final class TreePane extends JPanel {
         tree.showMachinery(show);
         if (search.isOn()) {
             search.startOver();
-            pieces.start();
+            goOnLater();
         }
         showRows(true);
         showState();
