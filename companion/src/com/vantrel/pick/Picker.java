@@ -70,7 +70,6 @@ public final class Picker {
     public void start() {
         if (!started) {
             started = true;
-            popups.begin();
             Hooks.add(filter);
         }
     }
@@ -138,7 +137,7 @@ public final class Picker {
             return keys.keep((KeyEvent) event, Ours.isOurs(source), () -> keyPressed(source, (KeyEvent) event),
                     () -> keyReleased((KeyEvent) event));
         }
-        return popups.keep(source, event);
+        return popups.keep(event);
     }
 
     // The mouse.
