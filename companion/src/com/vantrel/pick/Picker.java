@@ -27,8 +27,8 @@ import com.vantrel.model.Selection;
  * lies underneath; a click, or Enter, selects it. The program sees nothing of all that: the mouse is the picker's then.
  * A press that the program has seen stays the program's until it is released, and one that it has not seen stays ours.
  *
- * <p>A window behind a modal dialog gets no mouse events; there the pointer is looked for, and Enter picks. For the event
- * thread.
+ * <p>A window behind a modal dialog gets no mouse events; there the pointer is looked for, and Enter picks. For the
+ * event thread.
  */
 public final class Picker {
     /** Long enough for a shortcut to be pressed without anything lighting up, and too short to be noticed otherwise. */

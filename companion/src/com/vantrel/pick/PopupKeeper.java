@@ -22,9 +22,9 @@ import com.vantrel.hooks.DesktopModule;
 import com.vantrel.model.Ours;
 
 /**
- * Keeps the program's popup menus and combo lists open while the user is busy with the inspector: Swing closes them when
- * it hears that the pointer was pressed elsewhere. It is only kept from hearing of what was done to us. That its window
- * has lost the focus does not close them.
+ * Keeps the program's popup menus and combo lists open while the user is busy with the inspector: Swing closes them
+ * when it hears that the pointer was pressed elsewhere. It is only kept from hearing of what was done to us. That its
+ * window has lost the focus does not close them.
  */
 final class PopupKeeper {
     private static final String UNGRAB = "sun.awt.UngrabEvent";
