@@ -14,14 +14,36 @@ using testing::StartsWith;
 namespace {
 
 // The test classes, and how many tests each has: one that is not run is missed.
-constexpr struct {
+struct UnitTests {
     const char* name;
     int tests;
-} kUnitTests[] = {
+};
+constexpr UnitTests kUnitTests[] = {
     {"hooks.HooksTest", 4},          {"model.AddedAtTest", 4},
     {"model.EditorTest", 4},         {"stacktrace.StackTraceManagerTest", 5},
     {"util.ClassFileEditorTest", 6},
 };
+
+constexpr UnitTests kProgramsUnitTests[] = {
+    {"model.EditsTest", 4},
+    {"model.FormatsTest", 2},
+    {"model.KeysTest", 3},
+    {"model.ReadingTest", 4},
+};
+
+// Runs tests, by the command that options of the VM make, and expects all of them to be there and to pass.
+template <typename Tests, typename Command>
+void expect_to_pass(const Tests& classes, const Command& command) {
+    Arguments options = {"-Djava.awt.headless=true", "org.junit.runner.JUnitCore"};
+    int count = 0;
+    for (const auto& [name, tests] : classes) {
+        options.push_back("com.vantrel." + std::string(name));
+        count += tests;
+    }
+    const Finished finished = run(command(options));
+    EXPECT_EQ(finished.status, 0) << finished.out << finished.err;
+    EXPECT_THAT(finished.out, HasSubstr("\nOK (" + std::to_string(count) + " tests)\n"));
+}
 
 class Companion : public testing::TestWithParam<int> {};
 INSTANTIATE_TEST_SUITE_P(OnJdk, Companion, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
@@ -31,15 +53,19 @@ INSTANTIATE_TEST_SUITE_P(OnJdk, Companion, testing::ValuesIn(kReleases), testing
 TEST_P(Companion, PassesItsUnitTests) {
     SKIP_WITHOUT_JDK(GetParam());
     const std::string boot_path = (kTestFolder / "companion-tests.jar").string() + ":" + VANTREL_JUNIT_JARS;
-    Arguments options = {"-Djava.awt.headless=true", "-Xbootclasspath/a:" + boot_path, "org.junit.runner.JUnitCore"};
-    int count = 0;
-    for (const auto& [name, tests] : kUnitTests) {
-        options.push_back("com.vantrel." + std::string(name));
-        count += tests;
-    }
-    const Finished tests = run(java_under_agent(GetParam(), options));
-    EXPECT_EQ(tests.status, 0) << tests.out << tests.err;
-    EXPECT_THAT(tests.out, HasSubstr("\nOK (" + std::to_string(count) + " tests)\n"));
+    expect_to_pass(kUnitTests, [&](const Arguments& options) {
+        return java_under_agent(GetParam(), Arguments{"-Xbootclasspath/a:" + boot_path} + options);
+    });
+}
+
+// On the class path, tests are a program's: the inspector tells its classes from the toolkit's.
+TEST_P(Companion, PassesItsUnitTestsAsAProgram) {
+    SKIP_WITHOUT_JDK(GetParam());
+    const std::string class_path =
+        (kTestFolder / "companion-tests.jar").string() + ":" + kCompanionJar.string() + ":" + VANTREL_JUNIT_JARS;
+    expect_to_pass(kProgramsUnitTests, [&](const Arguments& options) {
+        return Arguments{*find_jdk(GetParam()) / "bin" / "java", "-cp", class_path} + options;
+    });
 }
 
 // The jar is on the boot class path of somebody else's application: what it holds hides what that brings.

@@ -59,20 +59,33 @@ final class Catalog {
 
     /** What the toolkit works out anew each time, by asking much else. */
     private static final Set<String> COMPUTED = new HashSet<>(
-            Arrays.asList("minimumSize", "preferredSize", "maximumSize"));
+            Arrays.asList("minimumSize", "preferredSize", "maximumSize", "preferredScrollableViewportSize"));
+
+    /** Getters of which only sizes are made, or that nothing else is made of. */
+    private static final Set<String> FOR_SIZES = new HashSet<>(Arrays.asList("getMinimumSize", "getPreferredSize",
+            "getMaximumSize", "getPreferredScrollableViewportSize", "getInsets", "getBaseline", "getAlignmentX",
+            "getAlignmentY", "getScrollableTracksViewportWidth", "getScrollableTracksViewportHeight",
+            "getScrollableUnitIncrement", "getScrollableBlockIncrement", "getBackground", "getForeground", "getFont",
+            "isOpaque", "isOptimizedDrawingEnabled", "isValidateRoot", "isFocusCycleRoot"));
+
+    /** Of the properties that most components have, those that some classes make of others. */
+    private static final Set<String> DERIVED = new HashSet<>(Arrays.asList("label", "actionCommand"));
 
     private static final Set<String> NEEDS_LAYOUT = new HashSet<>(
             Arrays.asList("minimumSize", "preferredSize", "maximumSize", "alignmentX", "alignmentY", "constraints"));
 
     private final Component component;
     private final Class<?> type;
+    /** The program's class that overrides a getter, or null; and one that other things may be worked out from. */
     private final Class<?> getterOverrider;
+    private final Class<?> valueOverrider;
     private final Map<String, Map<String, Property>> found = new LinkedHashMap<>();
 
     private Catalog(Component component) {
         this.component = component;
         type = component.getClass();
         getterOverrider = Code.getterOverrider(type);
+        valueOverrider = Code.getterOverrider(type, FOR_SIZES);
     }
 
     /** All properties that components of a component's class have, but for client properties. */
@@ -138,7 +151,9 @@ final class Catalog {
         if (getter.programs != null) {
             askProgram(property, getter.programs);
         } else if (COMPUTED.contains(getter.name)) {
-            askIfComputed(property);
+            askIfComputed(property, getterOverrider);
+        } else if (!isCommon(group) || DERIVED.contains(getter.name)) {
+            askIfComputed(property, valueOverrider);
         }
         if (getter.setter != null) {
             Method write = getter.setter;
@@ -186,14 +201,15 @@ final class Catalog {
         property.asked(Code.shortName(programs) + " has its own method for it, which may do anything when it is called.");
     }
 
-    private void askIfComputed(Property property) {
-        if (getterOverrider != null) {
-            property.asked("It is worked out from what " + Code.shortName(getterOverrider)
+    private static void askIfComputed(Property property, Class<?> overrider) {
+        if (overrider != null) {
+            property.asked("It may be worked out from what " + Code.shortName(overrider)
                     + " overrides, and that may do anything when it is called.");
         }
     }
 
     private void addIdentity() {
+        // None of these may hold the component, as a lambda that reads a field of this object would.
         add(IDENTITY, "class", Class.class, Component::getClass);
         Class<?> toolkit = Code.toolkitClass(type);
         if (toolkit != type) {
@@ -216,7 +232,7 @@ final class Catalog {
         askIfComputed(add(GEOMETRY, "baseline", int.class, on -> {
             Dimension size = on.getSize();
             return on.getBaseline(size.width, size.height);
-        }));
+        }), getterOverrider);
     }
 
     private void addText() {

@@ -5,6 +5,7 @@ import java.lang.reflect.Method;
 import java.lang.reflect.Modifier;
 import java.lang.reflect.Proxy;
 import java.util.Arrays;
+import java.util.Collections;
 import java.util.HashSet;
 import java.util.Set;
 import java.util.regex.Matcher;
@@ -91,11 +92,17 @@ public final class Code {
      * an object for its size may be asking the program for anything.
      */
     static Class<?> getterOverrider(Class<?> type) {
+        return getterOverrider(type, Collections.emptySet());
+    }
+
+    /** As above, for getters other than some. */
+    static Class<?> getterOverrider(Class<?> type, Set<String> but) {
         Class<?> toolkit = toolkitClass(type);
         for (Class<?> at = type; at != toolkit; at = at.getSuperclass()) {
             try {
                 for (Method method : at.getDeclaredMethods()) {
-                    if (isGetter(method) && !ASIDE.contains(method.getName()) && has(toolkit, method)) {
+                    if (isGetter(method) && !ASIDE.contains(method.getName()) && !but.contains(method.getName())
+                            && has(toolkit, method)) {
                         return at;
                     }
                 }

@@ -3,6 +3,8 @@ package com.vantrel.view;
 import java.awt.Color;
 import java.awt.Dimension;
 import java.awt.FontMetrics;
+import java.awt.Graphics;
+import java.awt.Graphics2D;
 import java.awt.Rectangle;
 import java.awt.event.ActionEvent;
 import java.awt.event.InputEvent;
@@ -49,6 +51,9 @@ final class RowsTable extends JTable {
     /** What Enter or a double click does to a row before anything else; answers whether it did. */
     private transient Predicate<Row> activator = row -> false;
     private String wantedKey;
+    private int widestName;
+    private int widestValue;
+    private int widestNote;
 
     RowsTable(String name, RowsModel model) {
         super(model);
@@ -124,8 +129,9 @@ final class RowsTable extends JTable {
                 removeEditor();
             }
             select(key, false);
-            fitColumns();
+            measureAnew();
         }
+        fitColumns();
         if (rows.isFlashing() && !fades.isRunning()) {
             fades.start();
         }
@@ -136,6 +142,7 @@ final class RowsTable extends JTable {
         removeEditor();
         rows.filter(text);
         select(key, true);
+        measureAnew();
         fitColumns();
     }
 
@@ -178,6 +185,19 @@ final class RowsTable extends JTable {
     }
 
     @Override
+    protected void paintComponent(Graphics graphics) {
+        super.paintComponent(graphics);
+        if (rows.getRowCount() == 0 && rows.isFiltered()) {
+            Graphics2D g = Look.smooth(graphics);
+            g.setFont(Look.font());
+            g.setColor(Look.dim());
+            String text = "Nothing matches.";
+            g.drawString(text, (getWidth() - g.getFontMetrics().stringWidth(text)) / 2, 3 * getRowHeight());
+            g.dispose();
+        }
+    }
+
+    @Override
     public boolean getScrollableTracksViewportWidth() {
         return true;
     }
@@ -188,25 +208,28 @@ final class RowsTable extends JTable {
         super.doLayout();
     }
 
+    /** The columns grow with what is in them, and shrink only when there are other rows: nothing wobbles. */
+    private void measureAnew() {
+        widestName = 0;
+        widestValue = 0;
+        widestNote = 0;
+    }
+
     /** Gives names and notes what they need, up to their share, and values the rest; they may go on where no note is. */
     private void fitColumns() {
         int width = getParent() instanceof JViewport ? getParent().getWidth() : getWidth();
-        int name = 0;
-        int value = 0;
-        int note = 0;
         for (int line = 0; line < rows.getRowCount(); line++) {
             Row row = rows.row(line);
             if (row != null) {
-                name = Math.max(name, painter.wanted(row, RowsModel.NAME));
+                widestName = Math.max(widestName, painter.wanted(row, RowsModel.NAME));
                 if (!row.note().isEmpty()) {
-                    value = Math.max(value, painter.wanted(row, RowsModel.VALUE));
-                    note = Math.max(note, painter.wanted(row, RowsModel.NOTE));
+                    widestValue = Math.max(widestValue, painter.wanted(row, RowsModel.VALUE));
+                    widestNote = Math.max(widestNote, painter.wanted(row, RowsModel.NOTE));
                 }
             }
         }
-        name = Math.min(name + RowPainter.PADDING, (int) (width * MOST_FOR_NAMES));
-        int left = Math.max((int) (width * NOTES_SHARE), width - name - value);
-        note = Math.min(note, left);
+        int name = Math.min(widestName + RowPainter.PADDING, (int) (width * MOST_FOR_NAMES));
+        int note = Math.min(widestNote, Math.max((int) (width * NOTES_SHARE), width - name - widestValue));
         int[] widths = {name, Math.max(0, width - name - note), note};
         for (int column = 0; column < widths.length; column++) {
             TableColumn at = getColumnModel().getColumn(column);
@@ -257,6 +280,7 @@ final class RowsTable extends JTable {
         return menu;
     }
 
+    /** Takes a key, but not from an editor, to which the table is a parent. */
     private Action bind(KeyStroke key, Action action) {
         Object name = "vantrel " + key;
         getInputMap(WHEN_ANCESTOR_OF_FOCUSED_COMPONENT).put(key, name);
@@ -265,13 +289,15 @@ final class RowsTable extends JTable {
         return action;
     }
 
-    private static Action action(String name, Runnable task) {
+    private Action action(String name, Runnable task) {
         return new AbstractAction(name) {
             private static final long serialVersionUID = 1L;
 
             @Override
             public void actionPerformed(ActionEvent event) {
-                task.run();
+                if (!isEditing()) {
+                    task.run();
+                }
             }
         };
     }
@@ -304,6 +330,7 @@ final class RowsTable extends JTable {
             if (rows.isOpen(group) != open) {
                 rows.setOpen(group, open);
                 select(group, true);
+                measureAnew();
                 fitColumns();
             } else if (!open && rows.row(line) != null) {
                 select(group, true);
