@@ -33,10 +33,12 @@ public final class Tour {
     /** @param arguments the folder for the pictures, which is there; then what the program takes */
     public static void main(String[] arguments) throws Exception {
         orchard.Main.main(java.util.Arrays.copyOfRange(arguments, 1, arguments.length));
+        Tour tour = new Tour(new File(arguments[0]));
         try {
-            new Tour(new File(arguments[0])).go();
+            tour.go();
         } catch (IllegalStateException e) {
             System.err.println("tour: " + e.getMessage());
+            tour.take("failed");
             System.exit(1);
         }
     }
@@ -79,7 +81,10 @@ public final class Tour {
     private void see() throws Exception {
         hand.click(Stage.tab("vantrel.details", "Added at"));
         Stage.waitFor("where the button was added", () -> Stage.find("vantrel.addedAt.list") != null);
+        hand.pointAt(Stage.where("order.save"));
+        hand.down(KeyEvent.VK_CONTROL);
         take("see");
+        hand.up(KeyEvent.VK_CONTROL);
     }
 
     private void change() throws Exception {

@@ -18,18 +18,23 @@ struct UnitTests {
     const char* name;
     int tests;
 };
+// clang-format off
 constexpr UnitTests kUnitTests[] = {
-    {"hooks.HooksTest", 4},          {"model.AddedAtTest", 4},
-    {"model.EditorTest", 4},         {"stacktrace.StackTraceManagerTest", 5},
+    {"hooks.HooksTest", 4},
+    {"model.AddedAtTest", 4},
+    {"model.ComponentTreeTest", 5},
+    {"model.EditorTest", 4},
+    {"pick.HotKeyTest", 2},
+    {"stacktrace.StackTraceManagerTest", 5},
     {"util.ClassFileEditorTest", 6},
 };
-
 constexpr UnitTests kProgramsUnitTests[] = {
     {"model.EditsTest", 4},
     {"model.FormatsTest", 2},
     {"model.KeysTest", 3},
     {"model.ReadingTest", 4},
 };
+// clang-format on
 
 // Runs tests, by the command that options of the VM make, and expects all of them to be there and to pass.
 template <typename Tests, typename Command>

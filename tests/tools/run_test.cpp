@@ -52,9 +52,29 @@ TEST_P(Run, BecomesJava) {
     const ProcessOptions options{.folder = {}, .environment = {"PATH=" + folder.path.string(), "DISPLAY="}};
     Process program(command, options);
     EXPECT_EQ(program.wait(), 7);
-    EXPECT_EQ(program.out(), kAgentOut + "arguments [a b, , --help, --, -x]\nx one two, y 3\nvariable null\nprocess " +
-                                 std::to_string(program.id()) + "\n");
+    EXPECT_EQ(program.out(),
+              kAgentOut +
+                  "arguments [a b, , --help, --, -x]\nx one two, y 3\nvariable null\nagents [-agentpath]\nprocess " +
+                  std::to_string(program.id()) + "\n");
     EXPECT_EQ(program.err(), kAgentErr + kNoDisplay) << "the VM has picked nothing up";
+}
+
+// An agent in Java that is started behind ours would miss classes.
+TEST_P(Run, ComesBehindAgentsInJava) {
+    const std::string agent = "-javaagent:" + kStartedJar.string();
+    const struct {
+        Words words;
+        std::string agents;
+    } cases[] = {
+        {{"-cp", kStartedJar, agent, "-Dx=1", agent, "Started", agent}, "[-javaagent, -javaagent, -agentpath]"},
+        {{"--add-modules", "java.base", agent, "-jar", kStartedJar, agent}, "[-javaagent, -agentpath]"},
+    };
+    for (const auto& c : cases) {
+        const Finished program = run(Words{kCommand, "run", java()} + c.words);
+        EXPECT_EQ(program.status, 7) << program.err;
+        EXPECT_THAT(program.out, HasSubstr("arguments [" + agent + "]\n"));
+        EXPECT_THAT(program.out, HasSubstr("agents " + c.agents + "\n"));
+    }
 }
 
 // The script has no first line that names a shell. All that a VM can take from a variable is in the agent's path.

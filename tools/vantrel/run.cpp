@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "agent.h"
+#include "java_command.h"
 #include "java_home.h"
 
 namespace fs = std::filesystem;
@@ -104,7 +105,8 @@ void run(const RunArguments& arguments) {
     if (is_java(program)) {
         // Not by the environment: the VM would say on stderr that it has picked it up, and a Java program that this one
         // starts would have the agent too.
-        words.insert(words.begin() + 1, options.begin(), options.end());
+        words.insert(words.begin() + static_cast<Words::difference_type>(place_for_agent(words)), options.begin(),
+                     options.end());
     } else {
         setenv(kToolOptions, tool_options(already, options).c_str(), 1);
     }

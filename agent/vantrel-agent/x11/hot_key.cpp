@@ -30,7 +30,8 @@ uint8_t modifier_named(const std::string& name) {
 }
 
 // The table of names is Xlib's, which is there wherever the AWT can open a window. This one function of it knows no
-// display and no error handler; it is looked up here so that the agent loads where there is no Xlib.
+// display and no error handler; it is looked up here so that the agent loads where there is no Xlib. Xlib stays loaded,
+// for it keeps what it has read for the look-up.
 xcb_keysym_t keysym_named(const std::string& name) {
     void* xlib = dlopen("libX11.so.6", RTLD_LAZY | RTLD_LOCAL);
     if (xlib == NULL) {
@@ -38,7 +39,6 @@ xcb_keysym_t keysym_named(const std::string& name) {
     }
     const auto find = reinterpret_cast<unsigned long (*)(const char*)>(dlsym(xlib, "XStringToKeysym"));
     auto keysym = static_cast<xcb_keysym_t>(find != NULL ? find(name.c_str()) : XCB_NO_SYMBOL);
-    dlclose(xlib);
     if (keysym >= XK_A && keysym <= XK_Z) {
         keysym += XK_a - XK_A;  // a letter's key makes the small one when it is pressed alone
     }

@@ -8,8 +8,6 @@
 #include "scenario.h"
 
 using testing::ContainsRegex;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 namespace fs = std::filesystem;
 

@@ -119,6 +119,7 @@ TEST_P(InspectorTree, SaysWhyAComponentDoesNotShow) {
     ask("place ok 10 10 0 20");
     ask("place amount 5000 10 20 20");
     ask("frame far");
+    ASSERT_TRUE(eventually([this] { return x.shows("far"); }));
     ask("place far 5000 100 200 200");
     const char* rows[] = {
         "JLabel invisible \"Not shown\" (invisible)",

@@ -83,7 +83,7 @@ public final class AddedAt {
         if (component instanceof Window) {
             return "a window, which is added to nothing";
         }
-        return component.getParent() == null ? "not yet added to anything" : "its addition was not recorded";
+        return Facts.parent(component) == null ? "not yet added to anything" : "its addition was not recorded";
     }
 
     /** The program's innermost line, the one that put the component where it is; null if there is none. */

@@ -25,12 +25,15 @@ public final class Highlighter {
 
     private final Window owner;
     private final Tint tint;
+    private final Repaint repaint = new Repaint();
     private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> follow());
     /** Top, bottom, left, right; null until they are needed. */
     private Mark[] sides;
     private Label label;
     private Target target;
+    /** Where the box is on the screen, and where that and the label are; null for nowhere. */
     private Rectangle shownAt;
+    private Rectangle covered;
 
     /**
      * @param owner the inspector's window, whose modality and end the box shares
@@ -47,7 +50,7 @@ public final class Highlighter {
             hide();
         } else if (!newTarget.isSameAs(target)) {
             target = newTarget;
-            shownAt = null;
+            shownAt = null; // the same place may be another component's
             follow();
             if (target != null) {
                 looks.start();
@@ -63,14 +66,16 @@ public final class Highlighter {
     public void hide() {
         looks.stop();
         target = null;
-        shownAt = null;
         tint.remove();
-        if (sides != null) {
+        if (sides != null && label.isVisible()) {
+            repaint.uncovered(covered);
             for (Mark side : sides) {
                 side.setVisible(false);
             }
             label.setVisible(false);
         }
+        shownAt = null;
+        covered = null;
     }
 
     /** Hides, and gives the windows back. It can be used again. */
@@ -98,9 +103,13 @@ public final class Highlighter {
         Point at = Places.onScreen(window);
         Rectangle box = new Rectangle(part.x + at.x, part.y + at.y, part.width, part.height);
         if (!box.equals(shownAt)) {
+            if (covered != null) {
+                repaint.uncovered(covered);
+            }
             shownAt = box;
             place(box);
             label.show(type(component), name(component), whole.width + " × " + whole.height, box, screenOf(window));
+            covered = box.union(label.getBounds());
             tint.put(component, cellOf(component, part), window, part);
         }
     }

@@ -14,7 +14,8 @@ import com.vantrel.hooks.EventFilter;
  * and the program sees neither press nor release.
  */
 public final class HotKey implements EventFilter {
-    private static final long SAME_PRESS_NANOS = 100_000_000;
+    /** How far apart the two tellings of one press may be. Nobody presses a key that often. */
+    private static final long SAME_PRESS_MILLIS = 50;
     /** Longer than any keyboard waits before a held key repeats; every repetition counts anew. */
     private static final long REPEAT_MILLIS = 2_000;
     private static final int MODIFIERS = InputEvent.SHIFT_DOWN_MASK | InputEvent.CTRL_DOWN_MASK
@@ -27,8 +28,9 @@ public final class HotKey implements EventFilter {
     private int modifiers;
     private boolean isDown;
     private long lastPress;
-    private volatile long seenAt = System.nanoTime() - SAME_PRESS_NANOS;
-    private volatile long calledAt = seenAt;
+    /** When the last press was, of those that came as an event and through the agent; as events tell the time. */
+    private volatile long seenAt;
+    private volatile long calledAt;
 
     /**
      * @param toggle run for every press
@@ -41,8 +43,8 @@ public final class HotKey implements EventFilter {
 
     /** Takes note of a press that came through the agent; whether it is one that has not been seen here. */
     public boolean isNewCall() {
-        calledAt = System.nanoTime();
-        return calledAt - seenAt >= SAME_PRESS_NANOS;
+        calledAt = System.currentTimeMillis();
+        return Math.abs(calledAt - seenAt) >= SAME_PRESS_MILLIS;
     }
 
     @Override
@@ -70,8 +72,8 @@ public final class HotKey implements EventFilter {
         boolean repeats = isDown && key.getWhen() - lastPress < REPEAT_MILLIS;
         isDown = true;
         lastPress = key.getWhen();
-        if (!repeats && System.nanoTime() - calledAt >= SAME_PRESS_NANOS) {
-            seenAt = System.nanoTime();
+        if (!repeats && Math.abs(key.getWhen() - calledAt) >= SAME_PRESS_MILLIS) {
+            seenAt = key.getWhen();
             toggle.run();
         }
         return true;

@@ -19,6 +19,8 @@ final class KeptMouse {
     /** The window in which the program believes the pointer to be, and how it left that. */
     private WeakReference<Window> inside = new WeakReference<>(null);
     private MouseEvent keptExit;
+    /** The window that the pointer has entered without the program's knowledge. */
+    private WeakReference<Component> entered = new WeakReference<>(null);
     private boolean settling;
 
     private static int bit(MouseEvent event) {
@@ -58,16 +60,25 @@ final class KeptMouse {
         return ours != 0;
     }
 
-    /** Takes note of a movement, or of the wheel; gives back whether it is kept. */
-    boolean pass(Component source, MouseEvent event, boolean kept) {
+    /**
+     * Whether to keep a movement, or the wheel, if the picker would or would not have it: the program is not told that
+     * the pointer has left where it has not seen it.
+     */
+    boolean move(Component source, MouseEvent event, boolean wanted) {
         boolean exit = event.getID() == MouseEvent.MOUSE_EXITED;
-        if (!kept) {
+        boolean keep = wanted || exit && source == entered.get();
+        if (!keep) {
             inside = new WeakReference<>(exit ? null : Places.windowOf(source));
             keptExit = null;
-        } else if (source == inside.get()) {
-            keptExit = exit ? event : null;
+            entered.clear();
+        } else if (exit) {
+            entered.clear();
+            keptExit = source == inside.get() ? event : keptExit;
+        } else {
+            entered = new WeakReference<>(source == inside.get() ? null : source);
+            keptExit = source == inside.get() ? null : keptExit;
         }
-        return kept;
+        return keep;
     }
 
     /** Lets the program know where the pointer is, now that its events reach it again. */

@@ -135,7 +135,7 @@ public final class Picker {
             return !beside && !mouse.isSettling() && keepMouse(source, mouseEvent);
         }
         if (event instanceof KeyEvent) {
-            return keys.keep((KeyEvent) event, () -> keyPressed(source, (KeyEvent) event),
+            return keys.keep((KeyEvent) event, Ours.isOurs(source), () -> keyPressed(source, (KeyEvent) event),
                     () -> keyReleased((KeyEvent) event));
         }
         return popups.keep(source, event);
@@ -172,7 +172,7 @@ public final class Picker {
                 } else if (hovering) {
                     endHovering();
                 }
-                return mouse.pass(source, event, active || mouse.isOurDrag());
+                return mouse.move(source, event, active || mouse.isOurDrag());
         }
     }
 

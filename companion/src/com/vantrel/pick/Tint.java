@@ -8,9 +8,6 @@ import java.awt.Window;
 import java.lang.ref.WeakReference;
 import java.util.function.BiConsumer;
 
-import javax.swing.JRootPane;
-import javax.swing.RepaintManager;
-import javax.swing.RootPaneContainer;
 import javax.swing.Timer;
 
 /**
@@ -54,7 +51,7 @@ final class Tint {
         later.stop();
         Window last = window.get();
         if (painted && last != null && last.isShowing()) {
-            repaint(last, component.get());
+            Repaint.now(last, inWindow);
         }
         painted = false;
         component.clear();
@@ -70,19 +67,6 @@ final class Tint {
             }
             painter.accept(target, (Graphics2D) graphics);
             graphics.dispose();
-        }
-    }
-
-    private void repaint(Window last, Component target) {
-        JRootPane root = last instanceof RootPaneContainer ? ((RootPaneContainer) last).getRootPane() : null;
-        if (root != null) {
-            root.repaint(inWindow.x - root.getX(), inWindow.y - root.getY(), inWindow.width, inWindow.height);
-            RepaintManager.currentManager(root).paintDirtyRegions();
-        } else {
-            last.repaint(inWindow.x, inWindow.y, inWindow.width, inWindow.height);
-        }
-        if (target != null && !target.isLightweight()) {
-            target.repaint(); // what lies in a window of its own is not painted with what is around it
         }
     }
 }

@@ -21,16 +21,21 @@ final class DetailsPane extends JPanel {
     private final transient Selection selection;
     private final CardLayout cards = new CardLayout();
     private final StatePanel state = new StatePanel();
+    private final JPanel whole = new JPanel(new BorderLayout());
     private final JLabel gone = new Banner("This component is no longer in a window.");
 
-    DetailsPane(Selection selection, JComponent details) {
+    DetailsPane(Selection selection) {
         this.selection = selection;
         setLayout(cards);
-        JPanel whole = new JPanel(new BorderLayout());
         whole.add(gone, BorderLayout.PAGE_START);
-        whole.add(details);
         add(whole, DETAILS);
         add(state, STATE);
+    }
+
+    /** Takes in what tells all about the component: it takes a while to make, and comes when the window is there. */
+    void fill(JComponent details) {
+        whole.add(details);
+        whole.revalidate();
     }
 
     /**

@@ -13,6 +13,7 @@ import javax.swing.Action;
 import javax.swing.JMenuBar;
 import javax.swing.JPanel;
 import javax.swing.JPopupMenu;
+import javax.swing.SwingUtilities;
 
 import com.vantrel.model.Edits;
 import com.vantrel.model.Selection;
@@ -50,9 +51,7 @@ public final class InspectorPane extends JPanel {
         status = new StatusLine(selection);
         commands = new Commands(selection, edits, tree, sight, status, this::update);
         tools = new ToolBar(commands, tree.searchBar());
-        AddedAtPanel addedAt = new AddedAtPanel(selection);
-        addedAt.onOutcome(outcome -> status.say(outcome.line(), outcome.isFailure()));
-        details = new DetailsPane(selection, new Details(selection, edits, addedAt, addedAt::openWhere));
+        details = new DetailsPane(selection);
         split = new Split(tree, details);
         split.setResizeWeight(TREE_SHARE);
         menus = Menus.bar(commands, tree.tree()::showsMachinery, closing(close));
@@ -130,6 +129,16 @@ public final class InspectorPane extends JPanel {
         validate();
         split.setDividerLocation(Settings.get(SPLIT, (int) (TREE_SHARE * getWidth())));
         tree.start();
+        SwingUtilities.invokeLater(this::fillDetails);
+    }
+
+    /** A step of its own, for the event thread is the program's, too: all at once would hold it too long. */
+    private void fillDetails() {
+        if (isDisplayable()) {
+            AddedAtPanel addedAt = new AddedAtPanel(selection);
+            addedAt.onOutcome(outcome -> status.say(outcome.line(), outcome.isFailure()));
+            details.fill(new Details(selection, edits, addedAt, addedAt::openWhere));
+        }
     }
 
     /** Remembers what is to be remembered of the window's parts. */

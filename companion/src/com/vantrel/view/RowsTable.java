@@ -363,6 +363,9 @@ final class RowsTable extends JTable {
     }
 
     private void activate() {
+        if (isEditing()) {
+            return; // a space that is typed into the editor comes by here, too
+        }
         int line = getSelectedRow();
         Row row = rows.row(line);
         if (row == null) {

@@ -43,7 +43,7 @@ final class TreePane extends JPanel {
     private final StatePanel state = new StatePanel();
     private final CardLayout cards = new CardLayout();
     private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> look());
-    private final Timer pieces = new Timer(1, event -> goOnSearching());
+    private boolean willGoOn;
     private long searchStarted;
     private long searchTook;
     private boolean goToFirst;
@@ -75,7 +75,6 @@ final class TreePane extends JPanel {
         bar.onKey("shift ENTER", () -> step(-1));
         bar.onKey("ESCAPE", this::endSearch);
         bar.onKey("DOWN", view::requestFocusInWindow);
-        pieces.setRepeats(false);
         looks.setInitialDelay(0);
         looks.setCoalesce(true);
     }
@@ -108,7 +107,6 @@ final class TreePane extends JPanel {
 
     void stop() {
         looks.stop();
-        pieces.stop();
     }
 
     /** Forgets everything: the window is being closed. */
@@ -132,7 +130,7 @@ final class TreePane extends JPanel {
         }
         if (search.isOn() && !search.isWorking()) {
             search.startOver(); // what was found may be found no more, and the other way round
-            pieces.start();
+            goOnLater();
         }
         view.lookAgain();
         showState();
@@ -172,20 +170,27 @@ final class TreePane extends JPanel {
         searchStarted = System.nanoTime();
         goToFirst = true;
         if (search.isOn()) {
-            pieces.start(); // and not at once: there may be more keys waiting
+            goOnLater(); // and not at once: there may be more keys waiting
         } else {
-            pieces.stop();
             showSelected();
             showState();
         }
     }
 
+    /** Goes on behind whatever waits for the event thread already. */
+    private void goOnLater() {
+        if (!willGoOn) {
+            willGoOn = true;
+            SwingUtilities.invokeLater(this::goOnSearching);
+        }
+    }
+
     private void goOnSearching() {
+        willGoOn = false;
         long start = System.nanoTime();
         boolean done = search.work(PIECE);
         searchTook += System.nanoTime() - start;
         if (done) {
-            pieces.stop();
             Component component = selection.component();
             TreeNode node = component == null ? null : tree.nodeOf(component);
             boolean toFirst = goToFirst && (node == null || !node.isMatch());
@@ -200,7 +205,7 @@ final class TreePane extends JPanel {
                 step(stepWhenDone);
             }
         } else {
-            pieces.start();
+            goOnLater();
         }
         tellCount();
     }
@@ -262,7 +267,7 @@ final class TreePane extends JPanel {
         tree.showMachinery(show);
         if (search.isOn()) {
             search.startOver();
-            pieces.start();
+            goOnLater();
         }
         showRows(true);
         showState();

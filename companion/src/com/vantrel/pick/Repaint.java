@@ -1,0 +1,82 @@
+package com.vantrel.pick;
+
+import java.awt.Component;
+import java.awt.Container;
+import java.awt.EventQueue;
+import java.awt.Rectangle;
+import java.awt.Toolkit;
+import java.awt.Window;
+import java.awt.event.PaintEvent;
+
+import javax.swing.JRootPane;
+import javax.swing.RepaintManager;
+import javax.swing.RootPaneContainer;
+import javax.swing.Timer;
+
+import com.vantrel.model.Facts;
+
+/** Has windows paint again what the picker has painted over, or covered. For the event thread. */
+final class Repaint {
+    /** Until the window system has taken away what covered them. */
+    private static final int MILLIS_TO_UNCOVER = 100;
+
+    private final Timer later = new Timer(MILLIS_TO_UNCOVER, event -> uncover());
+    private Rectangle uncovered;
+
+    Repaint() {
+        later.setRepeats(false);
+    }
+
+    /** Paints a part of a window: at once what is Swing's, and soon what the toolkit paints itself. */
+    static void now(Window window, Rectangle inWindow) {
+        JRootPane root = window instanceof RootPaneContainer ? ((RootPaneContainer) window).getRootPane() : null;
+        if (root == null) {
+            window.repaint(inWindow.x, inWindow.y, inWindow.width, inWindow.height);
+        } else {
+            root.repaint(inWindow.x - root.getX(), inWindow.y - root.getY(), inWindow.width, inWindow.height);
+            RepaintManager.currentManager(root).paintDirtyRegions();
+        }
+        paintHeavy(window, inWindow);
+    }
+
+    /** Heavy components are not painted with what is around them, nor do they repaint() what is the toolkit's of them. */
+    private static void paintHeavy(Component parent, Rectangle area) {
+        for (Component child : parent instanceof Container ? Facts.children(parent) : new Component[0]) {
+            Rectangle bounds = Facts.bounds(child);
+            Rectangle part = area.intersection(bounds);
+            if (part.isEmpty() || child instanceof Window || !child.isShowing()) {
+                continue;
+            }
+            part.translate(-bounds.x, -bounds.y);
+            if (!child.isLightweight()) {
+                EventQueue queue = Toolkit.getDefaultToolkit().getSystemEventQueue();
+                queue.postEvent(new PaintEvent(child, PaintEvent.PAINT, part));
+            }
+            paintHeavy(child, part);
+        }
+    }
+
+    /**
+     * A window of ours has left a part of the screen. What it covered is painted soon: a program that is just painting
+     * when a window goes before it was painted itself may leave its colour there.
+     */
+    void uncovered(Rectangle onScreen) {
+        uncovered = uncovered == null ? new Rectangle(onScreen) : uncovered.union(onScreen);
+        later.restart();
+    }
+
+    private void uncover() {
+        Rectangle area = uncovered;
+        uncovered = null;
+        for (Window window : Window.getWindows()) {
+            if (!(window instanceof Mark) && window.isShowing()) {
+                Rectangle bounds = Facts.bounds(window);
+                Rectangle part = bounds.intersection(area);
+                if (!part.isEmpty()) {
+                    part.translate(-bounds.x, -bounds.y);
+                    now(window, part);
+                }
+            }
+        }
+    }
+}
