@@ -34,6 +34,18 @@ class InspectorDetails : public Scenario {
 
     std::string shown(const std::string& table = "vantrel.properties") { return ask("inspector " + table); }
 
+    // Selects one that may be out of sight, by searching for its name.
+    void seek(const std::string& name) {
+        keys.press({XK_Control_L, XK_f});
+        expect_focus("vantrel.search");
+        keys.press({XK_Control_L, XK_a});
+        keys.type(name);
+        keys.press({XK_Return});
+        EXPECT_TRUE(eventually([&] { return ask("selected") == name; })) << ask("selected");
+        keys.press({XK_Escape});
+        expect_focus("vantrel.tree");
+    }
+
     bool shows(const std::string& text, const std::string& table = "vantrel.properties") {
         return eventually([&] { return shown(table).find(text) != std::string::npos; });
     }
@@ -101,8 +113,9 @@ TEST_P(InspectorDetails, EditsAreSeenInTheProgramAndCanBeUndone) {
     for (const Case& it : cases) {
         SCOPED_TRACE(it.property + " of " + it.component);
         select(it.component);
-        const std::string before = pixels(form);
         find_property(it.property);
+        const std::string before =
+            settled_pixels(form, "");  // the pointer has left the tree, and the highlight is gone
         if (it.value.empty()) {
             keys.press({XK_space});
         } else {
@@ -170,7 +183,7 @@ TEST_P(InspectorDetails, AskAComponentThatMisbehavesOnlyWhatTheUserAsks) {
         ask("odd " + kind);
         ask("watch");
         EXPECT_TRUE(shows("odd." + kind + ".child", "vantrel.tree"));
-        select("JPanel odd." + kind + ".child");
+        seek("odd." + kind + ".child");
         keys.press({XK_Alt_L, XK_Up});
         EXPECT_TRUE(eventually([&] { return ask("selected") == "odd." + kind; }));
         find_property("tooltip");
@@ -192,28 +205,33 @@ TEST_P(InspectorDetails, TellOfLayoutListenersAndKeys) {
     start();
     ask("follow ok");
     open_inspector();
-    select("JTextField group.field");
+    select("JButton ok");
     find_property("name");
     keys.press({XK_Control_L, XK_Page_Down});
-    // GroupLayout tells its groups to nobody; the agent has opened the toolkit's module.
-    EXPECT_TRUE(shows(R"(horizontally | [JLabel "group.label", JTextField "group.field"])", "vantrel.layout.rows"));
+    EXPECT_TRUE(shows("constraints | gridx=0 gridy=4", "vantrel.layout.rows"));
     take_picture("details-layout");
-
-    select("JButton ok");
-    keys.press({XK_Tab});
-    keys.press({XK_Tab});
-    EXPECT_TRUE(shows("gridx=0 gridy=4", "vantrel.layout.rows"));
-    click(where("vantrel.layout.rows.filter"));
-    keys.press({XK_Control_L, XK_Page_Down});
-    keys.press({XK_Control_L, XK_Page_Down});
-    EXPECT_TRUE(shows("lambda in EventLog | scenario.EventLog", "vantrel.listeners"));
+    for (int tab = 0; tab < 2; ++tab) {
+        keys.press({XK_Control_L, XK_Page_Down});
+    }
+    EXPECT_TRUE(shows("scenario.EventLog", "vantrel.listeners"));
     take_picture("details-listeners");
     keys.press({XK_Control_L, XK_Page_Down});
     EXPECT_TRUE(shows("when focused", "vantrel.keys"));
     click(where("vantrel.keys.press"));
+    EXPECT_TRUE(shows("Press the key", "vantrel.keys.press"));
     keys.press({XK_Tab});
     EXPECT_TRUE(shows("taken by | the focus, which moves to the next component", "vantrel.keys"));
     take_picture("details-keys");
+
+    // GroupLayout tells its groups to nobody; the agent has opened the toolkit's module.
+    seek("group.field");
+    click(where("vantrel.keys.filter"));
+    expect_focus("vantrel.keys.filter");
+    for (int tab = 0; tab < 3; ++tab) {
+        keys.press({XK_Control_L, XK_Page_Up});
+    }
+    EXPECT_TRUE(shows(R"(horizontally | [JLabel "group.label", JTextField "group.field"])", "vantrel.layout.rows"))
+        << shown("vantrel.layout.rows");
 }
 
 }  // namespace

@@ -265,11 +265,6 @@ final class RowsTable extends JTable {
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_RIGHT, 0), action("Unfold", () -> fold(true)));
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_HOME, 0), action("First", () -> go(0)));
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_END, 0), action("Last", () -> go(getRowCount() - 1)));
-        // They go to the next tab, and not from column to column.
-        for (int key : new int[] {KeyEvent.VK_PAGE_UP, KeyEvent.VK_PAGE_DOWN}) {
-            getInputMap(WHEN_ANCESTOR_OF_FOCUSED_COMPONENT)
-                    .put(KeyStroke.getKeyStroke(key, InputEvent.CTRL_DOWN_MASK), "none");
-        }
         // Out of the table, and not from cell to cell: a row is walked as one.
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_TAB, 0), action("Next", this::transferFocus));
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_TAB, InputEvent.SHIFT_DOWN_MASK),
