@@ -130,6 +130,14 @@ TEST_P(Picking, OnceWithoutTheKey) {
     ask("log");
     click(ok);
     EXPECT_TRUE(eventually([&] { return ask("log").find("action ok") != std::string::npos; })) << "the next click";
+
+    // By key, while the pointer rests on something.
+    click(where("vantrel.tree"));
+    EXPECT_TRUE(eventually([this] { return ask("focus") == "inspector vantrel.tree"; })) << ask("focus");
+    point_at(ok);
+    EXPECT_TRUE(eventually([&] { return colour_at(ok.x, ok.y) != kBox; }));
+    keys.press({XK_F8});
+    expect_box(ok);
 }
 
 TEST_P(Picking, OfCells) {
