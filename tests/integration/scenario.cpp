@@ -13,22 +13,29 @@ namespace {
 
 constexpr auto kPollInterval = milliseconds(5);
 const std::string kWindow = "Vantrel";
+const std::filesystem::path kProgramJar = kTestFolder / "scenario-program.jar";
 
 }  // namespace
 
-void Scenario::start(const Arguments& options) {
+void Scenario::run_under_agent(const Arguments& options) {
     if (!manager) {
         manager.emplace(x);
     }
     asked_ = 0;
     std::filesystem::remove(folder.path / "commands");
-    program.emplace(
-        java_under_agent(GetParam(), options + Arguments{"-Duser.home=" + folder.path.string(), "-cp",
-                                                         kTestFolder / "scenario-program.jar", "scenario.Scenario"}),
-        ProcessOptions{.folder = folder.path, .environment = {x.display(), "XDG_CONFIG_HOME="}});
+    program.emplace(java_under_agent(GetParam(), Arguments{"-Duser.home=" + folder.path.string()} + options),
+                    ProcessOptions{.folder = folder.path, .environment = {x.display(), "XDG_CONFIG_HOME="}});
+}
+
+void Scenario::start(const Arguments& options) {
+    run_under_agent(options + Arguments{"-cp", kProgramJar, "scenario.Scenario"});
     ASSERT_TRUE(program->reaches([this] { return x.shows("Scenario"); })) << program->err();
     EXPECT_TRUE(eventually([this] { return ask("focus") != "none"; }));
     ask("log");
+}
+
+void Scenario::start_guest(const std::filesystem::path& jar, const Arguments& main) {
+    run_under_agent(Arguments{"-cp", kProgramJar.string() + ":" + jar.string(), "scenario.Guest"} + main);
 }
 
 std::string Scenario::ask(const std::string& command) {

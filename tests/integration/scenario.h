@@ -38,6 +38,11 @@ class Scenario : public testing::TestWithParam<int> {
     // options   of the VM, such as -Dtheme=dark
     void start(const Arguments& options = {});
 
+    // Starts a program that is not ours in its place; it can be asked the same, about components that "find" has named.
+    // Its windows are yet to come when this returns.
+    // main      the class to start, and the program's own arguments
+    void start_guest(const std::filesystem::path& jar, const Arguments& main);
+
     // Has the program do something; commands and answers are listed in Commands.java. Returns the answer, its lines
     // separated by line feeds. A command that fails, or is not answered, fails the test.
     std::string ask(const std::string& command);
@@ -67,6 +72,8 @@ class Scenario : public testing::TestWithParam<int> {
     std::optional<Process> program;
 
   private:
+    void run_under_agent(const Arguments& options);
+
     int asked_ = 0;
 };
 

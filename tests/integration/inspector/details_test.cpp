@@ -114,8 +114,8 @@ TEST_P(InspectorDetails, EditsAreSeenInTheProgramAndCanBeUndone) {
         SCOPED_TRACE(it.property + " of " + it.component);
         select(it.component);
         find_property(it.property);
-        // The pointer has left the tree, and with it goes the box around what it was over.
-        const std::string before = settled_pixels(form, "");
+        const std::string before =
+            settled_pixels(form, "");  // the pointer has left the tree, and the highlight is gone
         if (it.value.empty()) {
             keys.press({XK_space});
         } else {

@@ -92,6 +92,11 @@ final class Commands {
     private void looking() {
         // where NAME: x y width height on the screen
         commands.put("where", words -> onScreen(things.get(words[0]), null));
+        // find NAME CLASS [TEXT]: knows by a name the first component that shows, of a simple class, with a text
+        commands.put("find", words -> {
+            things.known(words[0], Dump.find(words[1], words.length == 3 ? words[2] : ""));
+            return "";
+        });
         // cell NAME ROW [COLUMN]: the same of a cell
         commands.put("cell", words -> onScreen(things.get(words[0]), cell(things.get(words[0]), words)));
         commands.put("log", words -> log.take());

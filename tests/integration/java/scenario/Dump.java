@@ -4,6 +4,9 @@ import java.awt.Component;
 import java.awt.Container;
 import java.awt.Window;
 
+import javax.swing.AbstractButton;
+import javax.swing.JComponent;
+
 /** What there is, as the program itself sees it: a line for each component, two spaces deeper than its parent's. */
 final class Dump {
     private Dump() {
@@ -41,6 +44,37 @@ final class Dump {
                 add(text, owned, depth + 1);
             }
         }
+    }
+
+    /** The first component of the program that shows, has this simple class, and a text or tooltip that contains this. */
+    static Component find(String type, String text) {
+        for (Window window : Window.getWindows()) {
+            Component found = Scenario.isInspectors(window) ? null : find(window, type, text);
+            if (found != null) {
+                return found;
+            }
+        }
+        throw new IllegalArgumentException("no " + type + " with \"" + text + "\" in\n" + windows(false));
+    }
+
+    private static Component find(Component component, String type, String text) {
+        if (component.isShowing() && simpleName(component).equals(type) && texts(component).contains(text)) {
+            return component;
+        }
+        if (component instanceof Container container) {
+            for (Component child : container.getComponents()) {
+                Component found = find(child, type, text);
+                if (found != null) {
+                    return found;
+                }
+            }
+        }
+        return null;
+    }
+
+    private static String texts(Component component) {
+        String tooltip = component instanceof JComponent swing ? swing.getToolTipText() : "";
+        return (component instanceof AbstractButton button ? button.getText() : "") + "\n" + tooltip;
     }
 
     /** A class without its package and the classes around it. */

@@ -19,6 +19,7 @@ import javax.swing.SwingUtilities;
  */
 public final class Scenario {
     private static final Path COMMANDS = Path.of("commands");
+    private static final PrintStream OUT = System.out; // some programs put another in its place
     private static final int MILLIS_BETWEEN_LOOKS = 4;
 
     private Scenario() {
@@ -31,10 +32,15 @@ public final class Scenario {
             Things things = new Things();
             MainFrame.show(things);
             log.start(things);
-            Thread reader = new Thread(() -> follow(new Commands(things, log)), "commands");
-            reader.setDaemon(true);
-            reader.start();
+            obey(things, log);
         });
+    }
+
+    /** Begins to carry out commands, on a thread that keeps no program alive. */
+    static void obey(Things things, EventLog log) {
+        Thread reader = new Thread(() -> follow(new Commands(things, log)), "commands");
+        reader.setDaemon(true);
+        reader.start();
     }
 
     private static void follow(Commands commands) {
@@ -55,9 +61,8 @@ public final class Scenario {
     private static void answer(int number, String text) {
         StringBuilder answer = new StringBuilder();
         text.lines().forEach(line -> answer.append(number).append("| ").append(line).append('\n'));
-        PrintStream out = System.out;
-        out.print(answer.append(number).append(".\n"));
-        out.flush();
+        OUT.print(answer.append(number).append(".\n"));
+        OUT.flush();
     }
 
     /** Whether a window belongs to the inspector, told without a class of the inspector's. */

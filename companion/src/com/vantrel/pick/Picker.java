@@ -27,8 +27,8 @@ import com.vantrel.model.Selection;
  * lies underneath; a click, or Enter, selects it. The program sees nothing of all that: the mouse is the picker's then.
  * A press that the program has seen stays the program's until it is released, and one that it has not seen stays ours.
  *
- * <p>A window behind a modal dialog gets no mouse events; there the pointer is looked for, and Enter picks. For the event
- * thread.
+ * <p>A window behind a modal dialog gets no mouse events; there the pointer is looked for, and Enter picks. For the
+ * event thread.
  */
 public final class Picker {
     /** Long enough for a shortcut to be pressed without anything lighting up, and too short to be noticed otherwise. */
@@ -70,7 +70,6 @@ public final class Picker {
     public void start() {
         if (!started) {
             started = true;
-            popups.begin();
             Hooks.add(filter);
         }
     }
@@ -138,7 +137,7 @@ public final class Picker {
             return keys.keep((KeyEvent) event, Ours.isOurs(source), () -> keyPressed(source, (KeyEvent) event),
                     () -> keyReleased((KeyEvent) event));
         }
-        return popups.keep(source, event);
+        return popups.keep(event);
     }
 
     // The mouse.

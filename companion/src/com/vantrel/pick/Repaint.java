@@ -3,6 +3,7 @@ package com.vantrel.pick;
 import java.awt.Component;
 import java.awt.Container;
 import java.awt.EventQueue;
+import java.awt.Graphics;
 import java.awt.Rectangle;
 import java.awt.Toolkit;
 import java.awt.Window;
@@ -39,7 +40,7 @@ final class Repaint {
         paintHeavy(window, inWindow);
     }
 
-    /** Heavy components are not painted with what is around them, nor do they repaint() what is the toolkit's of them. */
+    /** Heavy components are not painted with what is around them, and repaint() leaves out the toolkit's part. */
     private static void paintHeavy(Component parent, Rectangle area) {
         for (Component child : parent instanceof Container ? Facts.children(parent) : new Component[0]) {
             Rectangle bounds = Facts.bounds(child);
@@ -49,10 +50,23 @@ final class Repaint {
             }
             part.translate(-bounds.x, -bounds.y);
             if (!child.isLightweight()) {
+                clear(child, part);
                 EventQueue queue = Toolkit.getDefaultToolkit().getSystemEventQueue();
                 queue.postEvent(new PaintEvent(child, PaintEvent.PAINT, part));
             }
             paintHeavy(child, part);
+        }
+    }
+
+    /**
+     * Gives a part of a heavy component its background, as the window system does before it asks for paint: between
+     * what a panel or a canvas paints itself, nobody else does.
+     */
+    private static void clear(Component heavy, Rectangle part) {
+        Graphics graphics = heavy.getGraphics();
+        if (graphics != null) {
+            graphics.clearRect(part.x, part.y, part.width, part.height);
+            graphics.dispose();
         }
     }
 

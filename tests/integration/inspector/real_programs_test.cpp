@@ -1,0 +1,149 @@
+// The inspector in programs that nobody here wrote: an editor made of Swing, with a class, a renderer and a text area for
+// everything, and a program for pictures whose widgets are the AWT's.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "scenario.h"
+
+namespace fs = std::filesystem;
+using std::chrono::milliseconds;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+class RealProgram : public Scenario {
+  protected:
+    // Starts a program, and puts its window and the inspector's side by side.
+    // window    what "find" is told of the program's main window
+    void start_beside_inspector(const fs::path& jar, const Arguments& main, const std::string& title,
+                                const std::string& window) {
+        if (!fs::exists(jar)) {
+            GTEST_SKIP() << "no " << jar;
+        }
+        start_guest(jar, main);
+        ASSERT_TRUE(program->reaches([&] { return x.shows(title); })) << program->err();
+        settle([&] { return ask("dump"); });
+        ask("find window " + window);
+        ask("place window 0 0 760 " + std::to_string(where("window").height));
+        open_inspector();
+        ask("place-inspector 780 0 1000 1000");
+        EXPECT_TRUE(eventually([this] { return where("vantrel").x >= 780 && where("window").x < 20; }));
+        settle([this] { return text_of(where("window")) + text_of(where("vantrel")); });
+    }
+
+    // Waits for a program that is still at something: until what it tells stays the same for a while.
+    void settle(const std::function<std::string()>& tell) {
+        std::string last;
+        EXPECT_TRUE(eventually([&] {
+            std::this_thread::sleep_for(milliseconds(400));
+            const std::string before = std::exchange(last, tell());
+            return before == last;
+        }));
+    }
+
+    static std::string text_of(const Place& place) {
+        std::ostringstream text;
+        text << place.x << " " << place.y << " " << place.width << " " << place.height;
+        return text.str();
+    }
+
+    void expect_pick(const Place& place, const std::string& name) {
+        keys.down(XK_Control_L);
+        click(place);
+        EXPECT_TRUE(eventually([&] { return ask("selected") == name; })) << ask("selected");
+        keys.up(XK_Control_L);
+    }
+
+    // Picks a component by what "find" is told of it, and calls it so from then on.
+    void pick(const std::string& name, const std::string& what) {
+        SCOPED_TRACE(what);
+        ask("find " + name + " " + what);
+        expect_pick(where(name), name);
+    }
+
+    // Changes a property of the selected component, which a program shows at once, and takes that back.
+    void change_and_undo(const std::string& property, const std::string& before, const std::string& value) {
+        const auto row = [&](const std::string& now) {
+            return eventually([&] {
+                return ask("inspector vantrel.properties").find("* " + property + " | " + now + " | ") !=
+                       std::string::npos;
+            });
+        };
+        click(where("vantrel.properties.filter"));
+        keys.press({XK_Control_L, XK_a});
+        keys.type(property);
+        keys.press({XK_Down});
+        EXPECT_TRUE(row(before)) << ask("inspector vantrel.properties");
+        keys.press({XK_F2});
+        ASSERT_TRUE(eventually([this] { return ask("focus") == "inspector vantrel.value"; })) << ask("focus");
+        keys.press({XK_Control_L, XK_a});
+        keys.type(value);
+        keys.press({XK_Return});
+        EXPECT_TRUE(row(value)) << ask("inspector vantrel.properties");
+        take_picture("real-" + property);
+        keys.press({XK_Control_L, XK_z});
+        EXPECT_TRUE(row(before)) << ask("inspector vantrel.properties");
+    }
+};
+INSTANTIATE_TEST_SUITE_P(OnJdk, RealProgram, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
+
+TEST_P(RealProgram, AnEditorMadeOfSwing) {
+    std::ofstream(folder.path / "properties") << "tip.show=false\n";
+    start_beside_inspector(
+        "/usr/share/jedit/jedit.jar",
+        {"org.gjt.sp.jedit.jEdit", "-noserver", "-nobackground", "-settings=" + folder.path.string()},
+        "jEdit - Untitled-1", "View");
+    pick("text", "TextAreaPainter");
+    ask("find files JToggleButton");
+    click(where("files"));
+    EXPECT_TRUE(eventually([this] { return ask("dump").find("VFSDirectoryEntryTable") != std::string::npos; }));
+    settle([this] { return ask("dump"); });
+    ask("find table VFSDirectoryEntryTable");
+    Place cell;
+    std::istringstream(ask("cell table 0 0")) >> cell.x >> cell.y >> cell.width >> cell.height;
+    expect_pick(cell, "table");
+
+    ask("find menu EnhancedMenu File");
+    click(where("menu"));
+    pick("item", "EnhancedMenuItem Save As");
+    EXPECT_THAT(ask("inspector vantrel.addedAt"), HasSubstr("EnhancedMenu"));
+    ask("find item EnhancedMenuItem Save As");  // the menu is still open
+    click(where("menu"));
+
+    pick("new", "EnhancedButton New");
+    change_and_undo("toolTipText", "New (C+n)", "Another one");
+    close_inspector();
+    click(where("text"));
+    keys.press({XK_Control_L, XK_q});
+    EXPECT_EQ(program->wait(), 0);
+    EXPECT_EQ(program->err(), kAgentErr);
+}
+
+TEST_P(RealProgram, WithWidgetsOfTheAwt) {
+    start_beside_inspector("/usr/share/java/ij.jar", {"ij.ImageJ"}, "ImageJ", "ImageJ");
+    pick("tools", "Toolbar");
+    pick("status", "JLabel");
+    click(where("tools"));
+    keys.press({XK_Shift_L, XK_n});
+    EXPECT_TRUE(eventually([this] { return ask("dump").find("TextArea") != std::string::npos; }));
+    ask("find editor Editor");
+    ask("place editor 20 300 500 300");
+    settle([this] { return text_of(where("editor")); });
+    pick("text", "TextArea");
+    EXPECT_THAT(ask("inspector vantrel.addedAt"), HasSubstr("Editor"));
+    change_and_undo("columns", "60", "40");
+    close_inspector();
+    take_picture("real-awt");
+    ask("dispose");
+    program->signal(SIGTERM);
+    EXPECT_EQ(program->wait(), 128 + SIGTERM);
+    EXPECT_EQ(program->err(), kAgentErr);
+}
+
+}  // namespace
