@@ -7,6 +7,8 @@ import java.awt.Graphics;
 import java.awt.Graphics2D;
 import java.awt.Rectangle;
 import java.awt.event.ActionEvent;
+import java.awt.event.FocusAdapter;
+import java.awt.event.FocusEvent;
 import java.awt.event.InputEvent;
 import java.awt.event.KeyEvent;
 import java.awt.event.MouseAdapter;
@@ -82,6 +84,18 @@ final class RowsTable extends JTable {
             }
         });
         setComponentPopupMenu(menu());
+        // By itself a table repaints one cell of the selected row when the focus comes or goes.
+        addFocusListener(new FocusAdapter() {
+            @Override
+            public void focusGained(FocusEvent event) {
+                repaint();
+            }
+
+            @Override
+            public void focusLost(FocusEvent event) {
+                repaint();
+            }
+        });
     }
 
     /** Takes colours and sizes from the look and feel, at first and whenever it changes. */
