@@ -28,6 +28,7 @@ import javax.swing.ListSelectionModel;
 import javax.swing.SwingUtilities;
 import javax.swing.Timer;
 import javax.swing.event.ChangeEvent;
+import javax.swing.table.TableCellRenderer;
 import javax.swing.table.TableColumn;
 
 import com.vantrel.model.Row;
@@ -68,7 +69,6 @@ final class RowsTable extends JTable {
         setFillsViewportHeight(true);
         setSelectionMode(ListSelectionModel.SINGLE_SELECTION);
         setAutoResizeMode(AUTO_RESIZE_OFF);
-        setDefaultRenderer(Object.class, painter);
         setSurrendersFocusOnKeystroke(true);
         // Editing begins when it is asked for, ends when the focus goes elsewhere, and takes nothing half typed.
         putClientProperty("JTable.autoStartsEdit", Boolean.FALSE);
@@ -118,6 +118,12 @@ final class RowsTable extends JTable {
         if (rows != null) { // it is called by the superclass's constructor, too
             look();
         }
+    }
+
+    /** Ours, though some looks and feels put their own in the place of a table's when they come or go. */
+    @Override
+    public TableCellRenderer getCellRenderer(int row, int column) {
+        return painter;
     }
 
     /** Says what is done to a row by Enter or a double click, if anything; rows that can be edited are edited else. */
