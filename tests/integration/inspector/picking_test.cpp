@@ -140,6 +140,21 @@ TEST_P(Picking, OnceWithoutTheKey) {
     expect_box(ok);
 }
 
+// Where screens are small, the inspector lies over the program.
+TEST_P(Picking, NeverDrawsOverTheInspector) {
+    start_picking();
+    const Place form = where("form");
+    // Its left edge cuts the form in two.
+    const int edge = form.x + form.width / 2;
+    ask("place-inspector " + std::to_string(edge) + " 0 1000 1000");
+    EXPECT_TRUE(eventually([&] { return std::abs(where("vantrel").x - edge) < 20; }));
+    click(place("inspector-row vantrel.tree form"));
+    const int line = form.y + form.height - 1;
+    EXPECT_TRUE(eventually([&] { return colour_at(form.x + 2, line) == kBox; })) << "beside the inspector";
+    EXPECT_THAT(colours_at({{form.x + form.width - 2, line}, {form.x + form.width - 1, form.y + form.height / 2}}),
+                Not(Contains(kBox)));
+}
+
 TEST_P(Picking, OfCells) {
     start_picking();
     hold();

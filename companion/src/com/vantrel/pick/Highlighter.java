@@ -67,7 +67,7 @@ public final class Highlighter {
         looks.stop();
         target = null;
         tint.remove();
-        if (sides != null && label.isVisible()) {
+        if (covered != null) {
             repaint.uncovered(covered);
             for (Mark side : sides) {
                 side.setVisible(false);

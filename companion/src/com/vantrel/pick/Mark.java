@@ -1,7 +1,11 @@
 package com.vantrel.pick;
 
 import java.awt.Color;
+import java.awt.GraphicsDevice;
+import java.awt.Rectangle;
 import java.awt.Window;
+import java.awt.geom.AffineTransform;
+import java.awt.geom.Area;
 
 import com.vantrel.model.Ours;
 
@@ -12,6 +16,8 @@ import com.vantrel.model.Ours;
 class Mark extends Window implements Ours {
     private static final long serialVersionUID = 1L;
 
+    private boolean isCut;
+
     Mark(Window owner, String name, Color color) {
         super(owner, owner.getGraphicsConfiguration());
         setName(name);
@@ -20,17 +26,35 @@ class Mark extends Window implements Ours {
         setAlwaysOnTop(true);
     }
 
-    /** Lies somewhere from now on, before everything else; no rectangle hides it. */
+    /**
+     * Lies somewhere from now on, before everything else but the inspector's own window while somebody works with that;
+     * no rectangle hides it.
+     */
     final void place(int x, int y, int width, int height) {
-        if (width <= 0 || height <= 0) {
+        Rectangle all = new Rectangle(x, y, Math.max(width, 0), Math.max(height, 0));
+        Area beside = new Area(all);
+        boolean behind = getOwner().isActive() && canBeCut() && getOwner().getBounds().intersects(all);
+        if (behind) {
+            beside.subtract(new Area(getOwner().getBounds()));
+        }
+        if (beside.isEmpty()) {
             setVisible(false);
             return;
         }
-        setBounds(x, y, width, height);
+        setBounds(all);
+        if (behind || isCut) {
+            setShape(behind ? beside.createTransformedArea(AffineTransform.getTranslateInstance(-x, -y)) : null);
+            isCut = behind;
+        }
         if (isVisible()) {
             toFront();
         } else {
             setVisible(true);
         }
+    }
+
+    private boolean canBeCut() {
+        return getGraphicsConfiguration().getDevice().isWindowTranslucencySupported(
+                GraphicsDevice.WindowTranslucency.PERPIXEL_TRANSPARENT);
     }
 }

@@ -115,8 +115,7 @@ final class Header extends JPanel {
             return states;
         }
         if (!component.isDisplayable()) {
-            states.add("this component is no longer in a window");
-            return states;
+            return states; // the banner above says that it is in no window any more
         }
         addIf(states, reading, "enabled", false, "disabled");
         addIf(states, reading, "visible", false, "invisible");

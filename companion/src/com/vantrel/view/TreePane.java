@@ -3,6 +3,8 @@ package com.vantrel.view;
 import java.awt.BorderLayout;
 import java.awt.CardLayout;
 import java.awt.Component;
+import java.awt.event.ComponentAdapter;
+import java.awt.event.ComponentEvent;
 import java.util.List;
 import java.util.concurrent.TimeUnit;
 
@@ -60,6 +62,15 @@ final class TreePane extends JPanel {
         scroll.getVerticalScrollBar().setUnitIncrement(3 * TreeRowPainter.height());
         scroll.getHorizontalScrollBar().setUnitIncrement(20);
         scroll.getViewport().addChangeListener(event -> view.lookAgain());
+        scroll.getViewport().addComponentListener(new ComponentAdapter() {
+            private int height;
+
+            @Override
+            public void componentResized(ComponentEvent event) {
+                view.keepInSight(height);
+                height = scroll.getViewport().getHeight();
+            }
+        });
         scroll.getViewport().setBackground(Look.paper());
         add(scroll, ROWS);
         JPanel states = new JPanel(new BorderLayout());

@@ -136,6 +136,22 @@ final class TreeView extends JList<TreeNode> {
         }
     }
 
+    /**
+     * Scrolls to the selected row if it was in sight as long as so much could be seen, and is not any more: the scroll
+     * bar that a wide row brings takes its place from the lowest one.
+     */
+    void keepInSight(int earlierHeight) {
+        int row = selected == null ? -1 : rows.list.indexOf(selected);
+        Rectangle seen = getVisibleRect();
+        if (row >= 0) {
+            Rectangle cell = getCellBounds(row, row);
+            int end = cell.y + cell.height;
+            if (end > seen.y + seen.height && end <= seen.y + earlierHeight) {
+                scrollRectToVisible(new Rectangle(seen.x, cell.y, 1, cell.height));
+            }
+        }
+    }
+
     /** Keeps a node selected whose row may have come or gone, and does not scroll. Tells nobody. */
     void keep(TreeNode node) {
         selected = node;
