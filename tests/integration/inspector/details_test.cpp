@@ -11,8 +11,8 @@
 #include "scenario.h"
 
 using std::chrono::milliseconds;
-using testing::AllOf;
 using testing::HasSubstr;
+using testing::Not;
 
 namespace {
 
@@ -33,6 +33,18 @@ class InspectorDetails : public Scenario {
     }
 
     std::string shown(const std::string& table = "vantrel.properties") { return ask("inspector " + table); }
+
+    // Selects one that may be out of sight, by searching for its name.
+    void seek(const std::string& name) {
+        keys.press({XK_Control_L, XK_f});
+        expect_focus("vantrel.search");
+        keys.press({XK_Control_L, XK_a});
+        keys.type(name);
+        keys.press({XK_Return});
+        EXPECT_TRUE(eventually([&] { return ask("selected") == name; })) << ask("selected");
+        keys.press({XK_Escape});
+        expect_focus("vantrel.tree");
+    }
 
     bool shows(const std::string& text, const std::string& table = "vantrel.properties") {
         return eventually([&] { return shown(table).find(text) != std::string::npos; });
@@ -101,8 +113,9 @@ TEST_P(InspectorDetails, EditsAreSeenInTheProgramAndCanBeUndone) {
     for (const Case& it : cases) {
         SCOPED_TRACE(it.property + " of " + it.component);
         select(it.component);
-        const std::string before = pixels(form);
         find_property(it.property);
+        const std::string before =
+            settled_pixels(form, "");  // the pointer has left the tree, and the highlight is gone
         if (it.value.empty()) {
             keys.press({XK_space});
         } else {
@@ -120,6 +133,107 @@ TEST_P(InspectorDetails, EditsAreSeenInTheProgramAndCanBeUndone) {
     }
 }
 
+TEST_P(InspectorDetails, FollowTheProgramAndLeaveTheUserInPeace) {
+    start();
+    open_inspector();
+    select("JLabel amount.label");
+    find_property("text");
+    ask("text amount.label Cost");
+    EXPECT_TRUE(eventually([&] { return shown().find("* text | Cost | ") != std::string::npos; }, milliseconds(500)))
+        << shown();
+
+    // What is being typed stays, whatever the program does meanwhile, and so does what was wrong with it.
+    select("JTextField amount");
+    find_property("columns");
+    keys.press({XK_Return});
+    expect_focus("vantrel.value");
+    keys.press({XK_Control_L, XK_a});
+    keys.type("many");
+    keys.press({XK_Return});
+    ask("text amount 99");
+    EXPECT_TRUE(shows("99", "vantrel.tree"));
+    EXPECT_EQ(ask("inspector vantrel.value"), "many");
+    EXPECT_THAT(ask("inspector-dump"), HasSubstr("JLabel vantrel.complaint"));
+    take_picture("details-complaint");
+    keys.press({XK_Escape});
+    expect_focus("vantrel.properties");
+    EXPECT_THAT(shown(), HasSubstr("* columns | 8 | "));
+    EXPECT_THAT(ask("inspector-dump"), Not(HasSubstr("vantrel.complaint")));
+
+    // The component goes while it is selected, has been changed, and can be changed back.
+    find_property("border");
+    edit("none");
+    expect_focus("vantrel.properties");
+    ask("remove amount");
+    EXPECT_TRUE(eventually([&] { return ask("collected amount") == "true"; }));
+}
+
+TEST_P(InspectorDetails, AskAComponentThatMisbehavesOnlyWhatTheUserAsks) {
+    start();
+    open_inspector();
+    const struct {
+        std::string kind, answer;
+    } cases[] = {
+        {"throwing", "toolTipText | IllegalStateException: asked on purpose | read once"},
+        {"blocking", "toolTipText | late | took 1"},
+        {"null", "toolTipText | null | read once"},
+    };
+    for (const auto& [kind, answer] : cases) {
+        SCOPED_TRACE(kind);
+        ask("odd " + kind);
+        ask("watch");
+        EXPECT_TRUE(shows("odd." + kind + ".child", "vantrel.tree"));
+        seek("odd." + kind + ".child");
+        keys.press({XK_Alt_L, XK_Up});
+        EXPECT_TRUE(eventually([&] { return ask("selected") == "odd." + kind; }));
+        find_property("tooltip");
+        EXPECT_TRUE(shows("* toolTipText | read | on demand"));
+        keys.press({XK_Control_L, XK_Page_Down});
+        EXPECT_TRUE(shows("manager | FlowLayout", "vantrel.layout.rows"));
+        EXPECT_LT(std::stoi(ask("held")), 900) << "milliseconds; asking the blocking one once takes 1000";
+        keys.press({XK_Control_L, XK_Page_Up});
+        EXPECT_TRUE(
+            eventually([&] { return ask("inspector vantrel.details").find("toolTipText") != std::string::npos; }));
+        find_property("tooltip");
+        keys.press({XK_Return});
+        EXPECT_TRUE(shows(answer)) << shown();
+    }
+    EXPECT_EQ(program->err(), kAgentErr);
+}
+
+TEST_P(InspectorDetails, TellOfLayoutListenersAndKeys) {
+    start();
+    ask("follow ok");
+    open_inspector();
+    select("JButton ok");
+    find_property("name");
+    keys.press({XK_Control_L, XK_Page_Down});
+    EXPECT_TRUE(shows("constraints | gridx=0 gridy=4", "vantrel.layout.rows"));
+    take_picture("details-layout");
+    for (int tab = 0; tab < 2; ++tab) {
+        keys.press({XK_Control_L, XK_Page_Down});
+    }
+    EXPECT_TRUE(shows("scenario.EventLog", "vantrel.listeners"));
+    take_picture("details-listeners");
+    keys.press({XK_Control_L, XK_Page_Down});
+    EXPECT_TRUE(shows("when focused", "vantrel.keys"));
+    click(where("vantrel.keys.press"));
+    EXPECT_TRUE(shows("Press the key", "vantrel.keys.press"));
+    keys.press({XK_Tab});
+    EXPECT_TRUE(shows("taken by | the focus, which moves to the next component", "vantrel.keys"));
+    take_picture("details-keys");
+
+    // GroupLayout tells its groups to nobody; the agent has opened the toolkit's module.
+    seek("group.field");
+    click(where("vantrel.keys.filter"));
+    expect_focus("vantrel.keys.filter");
+    for (int tab = 0; tab < 3; ++tab) {
+        keys.press({XK_Control_L, XK_Page_Up});
+    }
+    EXPECT_TRUE(shows(R"(horizontally | [JLabel "group.label", JTextField "group.field"])", "vantrel.layout.rows"))
+        << shown("vantrel.layout.rows");
+}
+
 TEST_P(InspectorDetails, LookAsBeforeWhenTheProgramHasTriedAnotherLookAndFeel) {
     const std::string nimbus = "javax.swing.plaf.nimbus.NimbusLookAndFeel";
     start();
@@ -129,7 +243,7 @@ TEST_P(InspectorDetails, LookAsBeforeWhenTheProgramHasTriedAnotherLookAndFeel) {
     EXPECT_TRUE(shows("enabled"));
     const Place table = where("vantrel.properties");
     const Place shown_part{table.x, table.y, 300, 150};
-    const std::string before = pixels(shown_part);
+    const std::string before = settled_pixels(shown_part, "");
     ask("restyle javax.swing.plaf.metal.MetalLookAndFeel");
     EXPECT_TRUE(eventually([&] { return pixels(shown_part) != before; }));
     ask("restyle " + nimbus);

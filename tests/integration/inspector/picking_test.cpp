@@ -130,6 +130,14 @@ TEST_P(Picking, OnceWithoutTheKey) {
     ask("log");
     click(ok);
     EXPECT_TRUE(eventually([&] { return ask("log").find("action ok") != std::string::npos; })) << "the next click";
+
+    // By key, while the pointer rests on something.
+    click(where("vantrel.tree"));
+    EXPECT_TRUE(eventually([this] { return ask("focus") == "inspector vantrel.tree"; })) << ask("focus");
+    point_at(ok);
+    EXPECT_TRUE(eventually([&] { return colour_at(ok.x, ok.y) != kBox; }));
+    keys.press({XK_F8});
+    expect_box(ok);
 }
 
 TEST_P(Picking, OfCells) {
@@ -162,6 +170,12 @@ TEST_P(Picking, OfPopupItemsAndTheyStayOpen) {
         let_go();
         EXPECT_EQ(ask("popup ?"), "open");
         EXPECT_THAT(ask("log"), Not(HasSubstr("action")));
+        click(where("vantrel.tree"));
+        click(where("vantrel.tree"));  // the first one only ends the popup's grab of the pointer
+        EXPECT_TRUE(eventually([this] { return ask("focus").find("inspector") != std::string::npos; }));
+        EXPECT_EQ(ask("popup ?"), "open");
+        click(where("room"));
+        EXPECT_TRUE(eventually([this] { return ask("popup ?") == "closed"; })) << "a click in the program";
         ask("popup none");
     }
 }

@@ -15,6 +15,7 @@ import java.lang.reflect.InvocationTargetException;
 import java.util.Arrays;
 import java.util.HashMap;
 import java.util.Map;
+import java.util.Set;
 import java.util.TreeMap;
 import java.util.concurrent.Callable;
 import java.util.concurrent.FutureTask;
@@ -33,6 +34,8 @@ import javax.swing.SwingUtilities;
  * spaces. Each runs on the event thread, but those that only look at it from outside.
  */
 final class Commands {
+    private static final Set<String> FROM_OUTSIDE = Set.of("busy", "held");
+
     private interface Command {
         String run(String[] arguments) throws Exception;
     }
@@ -77,7 +80,7 @@ final class Commands {
         }
         String[] arguments = words.length == 1 ? new String[0] : words[1].split(" ", 3);
         try {
-            return words[0].equals("held") ? command.run(arguments) : onEventThread(() -> command.run(arguments));
+            return FROM_OUTSIDE.contains(words[0]) ? command.run(arguments) : onEventThread(() -> command.run(arguments));
         } catch (Exception e) {
             Throwable cause = e instanceof java.util.concurrent.ExecutionException ? e.getCause() : e;
             cause.printStackTrace();
@@ -158,6 +161,11 @@ final class Commands {
         // watch: begins to measure how long the event thread is held; held: the longest time since, in milliseconds
         commands.put("watch", words -> watch.start());
         commands.put("held", words -> watch.stop());
+        commands.put("hold", words -> { // MILLISECONDS: holds the event thread, beginning now
+            SwingUtilities.invokeLater(() -> EventThreadWatch.hold(Integer.parseInt(words[0])));
+            return "";
+        });
+        commands.put("busy", words -> EventThreadWatch.busy()); // how much of a second it computes, in percent
     }
 
     private void changing() {

@@ -13,8 +13,8 @@ public final class DesktopModule {
     }
 
     /**
-     * Opens packages of {@code java.desktop} to the companion, for the rest of the VM's life. Where there are no modules
-     * all is open anyway; without the agent nothing is opened.
+     * Opens packages of {@code java.desktop} to the companion, for the rest of the VM's life. Where there are no
+     * modules all is open anyway; without the agent nothing is opened.
      *
      * @param packages such as "javax.swing"
      * @throws IllegalArgumentException if the module has no such package

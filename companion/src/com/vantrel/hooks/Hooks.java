@@ -8,9 +8,9 @@ import java.util.Arrays;
 import java.util.List;
 
 /**
- * What the agent makes {@code java.awt.Component} and {@code Container} call, and where the inspector says what it wants
- * to be told of. It runs with every event and every change of the program: while nobody listens, each call is one test
- * of one field. A listener that throws is reported, the first time, and disturbs nobody.
+ * What the agent makes {@code java.awt.Component} and {@code Container} call, and where the inspector says what it
+ * wants to be told of. It runs with every event and every change of the program: while nobody listens, each call is one
+ * test of one field. A listener that throws is reported, the first time, and disturbs nobody.
  *
  * <p>Whoever registers unregisters: what is registered is called, and kept, until then. Both may be done on any thread,
  * within a call of a listener, too.

@@ -40,10 +40,15 @@ final class Groups {
     private static void write(StringBuilder text, Object spring) throws Throwable {
         Field springs = field(spring, "springs");
         if (springs != null) {
+            List<?> parts = (List<?>) springs.get(spring);
+            if (parts.size() == 1) {
+                write(text, parts.get(0)); // the layout puts one around what the program has given it
+                return;
+            }
             boolean sequential = spring instanceof GroupLayout.SequentialGroup;
             text.append(sequential ? '[' : '{');
             String separator = "";
-            for (Object part : (List<?>) springs.get(spring)) {
+            for (Object part : parts) {
                 text.append(separator);
                 write(text, part);
                 separator = ", ";

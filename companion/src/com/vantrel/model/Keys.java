@@ -244,20 +244,25 @@ public final class Keys {
     public static List<Row> takers(Component component, KeyEvent pressed) {
         List<Row> rows = new ArrayList<>();
         KeyStroke stroke = KeyStroke.getKeyStrokeForEvent(pressed);
-        takers(rows, "Pressed: " + text(stroke), component, stroke);
+        boolean moves = takers(rows, "Pressed: " + text(stroke), component, stroke);
         boolean plain = (pressed.getModifiersEx()
                 & (InputEvent.CTRL_DOWN_MASK | InputEvent.ALT_DOWN_MASK | InputEvent.META_DOWN_MASK)) == 0;
-        if (plain && pressed.getKeyChar() != KeyEvent.CHAR_UNDEFINED) {
+        // A key that moves the focus does so instead of typing anything.
+        if (plain && !moves && pressed.getKeyChar() != KeyEvent.CHAR_UNDEFINED) {
             KeyStroke typed = KeyStroke.getKeyStroke(pressed.getKeyChar());
             takers(rows, "Then typed: " + text(typed), component, typed);
         }
         return rows;
     }
 
-    private static void takers(List<Row> rows, String group, Component component, KeyStroke stroke) {
-        boolean taken = addTraversal(rows, group, component, stroke);
+    /** Adds those for a stroke; returns whether it moves the focus. */
+    private static boolean takers(List<Row> rows, String group, Component component, KeyStroke stroke) {
+        if (addTraversal(rows, group, component, stroke)) {
+            return true;
+        }
+        boolean taken = false;
         int listeners = component.getKeyListeners().length;
-        if (!taken && listeners > 0) {
+        if (listeners > 0) {
             rows.add(Row.of(group, "key listeners", Values.count(listeners, "listener"))
                     .note("asked first; any of them may take it"));
         }
@@ -280,6 +285,7 @@ public final class Keys {
                     text ? "the text component's keymap, which inserts the character"
                             : "no binding takes it").kind(text ? Row.Kind.PLAIN : Row.Kind.DIM));
         }
+        return false;
     }
 
     /** Keys that move the focus never reach a binding. */

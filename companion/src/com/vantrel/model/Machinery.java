@@ -41,7 +41,8 @@ enum Machinery {
                 || component instanceof JInternalFrame.JDesktopIcon) {
             return PART;
         }
-        if (component instanceof JViewport || component instanceof JRootPane) {
+        if (component instanceof JViewport || component instanceof JRootPane
+                || component instanceof JSpinner.DefaultEditor) {
             return BETWEEN;
         }
         if (component instanceof JLayeredPane && !(component instanceof JDesktopPane)) {

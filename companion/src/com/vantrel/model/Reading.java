@@ -123,7 +123,7 @@ public final class Reading {
                 read(slot, component, false);
             } else if (slot.untouched) {
                 slot.untouched = false;
-                slot.row = unread(slot.property, slow);
+                slot.row = unread(slot.property);
             }
         }
         if (component instanceof JComponent) {
@@ -303,7 +303,8 @@ public final class Reading {
         }
     }
 
-    private static Row unread(Property property, boolean slow) {
+    private static Row unread(Property property) {
+        boolean slow = property.askedBecause() == null;
         String why = slow ? "It took long when it was read last." : property.askedBecause();
         return Row.of(property.group(), property.name(), "read").kind(Row.Kind.ASK).type(property.type().getName())
                 .property(property).note(slow ? "slow" : "on demand").explanation(why + " Enter reads it.");

@@ -15,9 +15,9 @@ import com.vantrel.model.Facts;
 import com.vantrel.model.Target;
 
 /**
- * Shows where something is in the program: a box around what can be seen of it, one pixel wide, with a label, and a tint
- * over it. It follows what it is around while that moves, and goes when that does. The program's components are not
- * changed, and get no events by it. For the event thread.
+ * Shows where something is in the program: a box around what can be seen of it, one pixel wide, with a label, and a
+ * tint over it. It follows what it is around while that moves, and goes when that does. The program's components are
+ * not changed, and get no events by it. For the event thread.
  */
 public final class Highlighter {
     private static final Color COLOR = new Color(0xFC7E00);
@@ -157,6 +157,7 @@ public final class Highlighter {
 
     private static Rectangle screenOf(Window window) {
         GraphicsConfiguration configuration = window.getGraphicsConfiguration();
-        return configuration == null ? new Rectangle(0, 0, Short.MAX_VALUE, Short.MAX_VALUE) : configuration.getBounds();
+        return configuration == null ? new Rectangle(0, 0, Short.MAX_VALUE, Short.MAX_VALUE)
+                : configuration.getBounds();
     }
 }

@@ -9,9 +9,9 @@ import java.util.Locale;
 import com.vantrel.hooks.EventFilter;
 
 /**
- * The hot key as an event of the program's. The agent gets the key from the window system, which gives it to the program
- * instead while that has the keyboard to itself, as with an open popup menu. A press that comes both ways counts once,
- * and the program sees neither press nor release.
+ * The hot key as an event of the program's. The agent gets the key from the window system, which gives it to the
+ * program instead while that has the keyboard to itself, as with an open popup menu. A press that comes both ways
+ * counts once, and the program sees neither press nor release.
  */
 public final class HotKey implements EventFilter {
     /** How far apart the two tellings of one press may be. Nobody presses a key that often. */

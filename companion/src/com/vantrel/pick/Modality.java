@@ -5,7 +5,7 @@ import java.lang.reflect.Field;
 
 import com.vantrel.hooks.DesktopModule;
 
-/** Whether a modal dialog keeps a window from getting events. The toolkit knows, and has no public method that tells. */
+/** Whether a modal dialog keeps a window from getting events, which the toolkit has no public method to tell. */
 final class Modality {
     private static final Field BLOCKER = find();
 

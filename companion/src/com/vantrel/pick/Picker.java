@@ -27,8 +27,8 @@ import com.vantrel.model.Selection;
  * lies underneath; a click, or Enter, selects it. The program sees nothing of all that: the mouse is the picker's then.
  * A press that the program has seen stays the program's until it is released, and one that it has not seen stays ours.
  *
- * <p>A window behind a modal dialog gets no mouse events; there the pointer is looked for, and Enter picks. For the event
- * thread.
+ * <p>A window behind a modal dialog gets no mouse events; there the pointer is looked for, and Enter picks. For the
+ * event thread.
  */
 public final class Picker {
     /** Long enough for a shortcut to be pressed without anything lighting up, and too short to be noticed otherwise. */
@@ -70,7 +70,6 @@ public final class Picker {
     public void start() {
         if (!started) {
             started = true;
-            popups.begin();
             Hooks.add(filter);
         }
     }
@@ -90,6 +89,7 @@ public final class Picker {
         if (started && !armed) {
             armed = true;
             looks.start();
+            followPointer();
             tell();
         }
     }
@@ -138,7 +138,7 @@ public final class Picker {
             return keys.keep((KeyEvent) event, Ours.isOurs(source), () -> keyPressed(source, (KeyEvent) event),
                     () -> keyReleased((KeyEvent) event));
         }
-        return popups.keep(source, event);
+        return popups.keep(event);
     }
 
     // The mouse.
@@ -299,14 +299,23 @@ public final class Picker {
 
     /** The modifier has been held for a while, and the pointer has not moved. */
     private void held() {
-        PointerInfo pointer = MouseInfo.getPointerInfo();
-        Window window = pointer == null || !modifierHeld.getAsBoolean() ? null
-                : WindowAt.program(pointer.getLocation());
-        if (window != null) {
-            Point origin = Places.onScreen(window);
-            Point at = pointer.getLocation();
-            follow(window, new Point(at.x - origin.x, at.y - origin.y));
+        if (modifierHeld.getAsBoolean()) {
+            followPointer();
         }
+    }
+
+    /** Highlights what the pointer rests on: no event comes before it moves. */
+    private void followPointer() {
+        PointerInfo pointer = MouseInfo.getPointerInfo();
+        Window window = pointer == null ? null : WindowAt.program(pointer.getLocation());
+        if (window != null) {
+            followOnScreen(window, pointer.getLocation());
+        }
+    }
+
+    private void followOnScreen(Window window, Point at) {
+        Point origin = Places.onScreen(window);
+        follow(window, new Point(at.x - origin.x, at.y - origin.y));
     }
 
     // What no event tells.
@@ -322,14 +331,18 @@ public final class Picker {
             return;
         }
         lastPointer = at;
-        Window blocked = WindowAt.blocked(at);
-        if (blocked != null) {
-            Point origin = Places.onScreen(blocked);
-            follow(blocked, new Point(at.x - origin.x, at.y - origin.y));
-        } else if (hasLeft || WindowAt.program(at) == null) {
-            hasLeft = false;
+        Window window = WindowAt.program(at);
+        if (window != null && (Modality.isBlocked(window) || hasLeft && isUnderPointer(window))) {
+            followOnScreen(window, at);
+        } else if (hasLeft || window == null) {
             leave();
         }
+        hasLeft = false;
+    }
+
+    /** A window may be left by the pointer's own account and have it all the same, when one of ours comes and goes. */
+    private static boolean isUnderPointer(Window window) {
+        return window.getMousePosition(true) != null;
     }
 
     /** An event and the pointer itself may differ by a pixel where user space is scaled. */

@@ -40,7 +40,7 @@ final class Repaint {
         paintHeavy(window, inWindow);
     }
 
-    /** Heavy components are not painted with what is around them, nor do they repaint() what is the toolkit's of them. */
+    /** Heavy components are not painted with what is around them, and repaint() leaves out the toolkit's part. */
     private static void paintHeavy(Component parent, Rectangle area) {
         for (Component child : parent instanceof Container ? Facts.children(parent) : new Component[0]) {
             Rectangle bounds = Facts.bounds(child);

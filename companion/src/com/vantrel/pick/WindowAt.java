@@ -45,12 +45,6 @@ final class WindowAt {
         return best != null && Ours.isOurs(best);
     }
 
-    /** The program's window at a place, if it gets no events of its own because a modal dialog blocks it; or null. */
-    static Window blocked(Point onScreen) {
-        Window window = program(onScreen);
-        return window != null && Modality.isBlocked(window) ? window : null;
-    }
-
     private static int rank(Window window) {
         if (!(window instanceof Frame) && !(window instanceof Dialog)) {
             return 3;

@@ -123,8 +123,8 @@ final class ClassFileEditor {
     }
 
     /**
-     * Puts code before a method's own; a method can get some once, and then none of its writes replaced. If the new code jumps, then to its own end, with an
-     * empty stack and the parameters as they came in.
+     * Puts code before a method's own; a method can get some once, and then none of its writes replaced. If the new
+     * code jumps, then to its own end, with an empty stack and the parameters as they came in.
      *
      * @param head     the code, of a length that is a multiple of four
      * @param maxStack what the code needs of the stack

@@ -18,8 +18,8 @@ import static com.vantrel.util.Instructions.RETURN;
 import com.vantrel.hooks.Hooks;
 
 /**
- * What the agent adds to {@code java.awt.Component} and {@code Container}. A change that the inspector can do without is
- * left out of a VM whose class has no such method; what it cannot do without must be possible.
+ * What the agent adds to {@code java.awt.Component} and {@code Container}. A change that the inspector can do without
+ * is left out of a VM whose class has no such method; what it cannot do without must be possible.
  */
 final class ToolkitEdits {
     static final String COMPONENT = "java/awt/Component";
@@ -164,7 +164,7 @@ final class ToolkitEdits {
                 .u1(ALOAD_0)
                 .u1(LDC_W).u2(component.classRef(HOOKS)).u1(INVOKEVIRTUAL).u2(getModule)
                 .u1(INVOKEVIRTUAL).u2(addOpens).u1(POP).u1(RETURN).toByteArray();
-        component.addMethod(ACC_PUBLIC | ACC_STATIC | ACC_SYNTHETIC, "vantrel$open", "(Ljava/lang/String;)V", 3, 1, code,
-                NO_FRAME);
+        int flags = ACC_PUBLIC | ACC_STATIC | ACC_SYNTHETIC;
+        component.addMethod(flags, "vantrel$open", "(Ljava/lang/String;)V", 3, 1, code, NO_FRAME);
     }
 }

@@ -2,13 +2,19 @@ package com.vantrel.view;
 
 import java.awt.BorderLayout;
 import java.awt.Component;
+import java.awt.Container;
 import java.awt.event.HierarchyEvent;
 import java.util.Collections;
 
+import javax.swing.InputMap;
 import javax.swing.JButton;
 import javax.swing.JComponent;
+import javax.swing.JList;
 import javax.swing.JPanel;
+import javax.swing.JScrollPane;
 import javax.swing.JTabbedPane;
+import javax.swing.JTable;
+import javax.swing.KeyStroke;
 import javax.swing.SwingUtilities;
 import javax.swing.Timer;
 
@@ -70,6 +76,7 @@ public final class Details extends JPanel {
         tabs.addTab("Listeners", listeners);
         tabs.addTab("Keys", keys);
         tabs.addChangeListener(event -> showInFront(false));
+        leaveKeysToTabs(tabs);
         add(header, BorderLayout.NORTH);
         add(tabs, BorderLayout.CENTER);
         selection.onChange(this::selectionChanged);
@@ -81,6 +88,22 @@ public final class Details extends JPanel {
             }
         });
         selectionChanged();
+    }
+
+    /** Lets the keys that go from tab to tab through to the tabs: tables, lists and scroll panes would go sideways. */
+    private static void leaveKeysToTabs(Container in) {
+        for (Component child : in.getComponents()) {
+            if (child instanceof JTable || child instanceof JList || child instanceof JScrollPane) {
+                for (int condition : new int[] {WHEN_FOCUSED, WHEN_ANCESTOR_OF_FOCUSED_COMPONENT}) {
+                    InputMap keys = ((JComponent) child).getInputMap(condition);
+                    keys.put(KeyStroke.getKeyStroke("ctrl PAGE_UP"), "none");
+                    keys.put(KeyStroke.getKeyStroke("ctrl PAGE_DOWN"), "none");
+                }
+            }
+            if (child instanceof Container) {
+                leaveKeysToTabs((Container) child);
+            }
+        }
     }
 
     private void showingChanged() {

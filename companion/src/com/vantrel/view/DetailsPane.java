@@ -20,7 +20,7 @@ final class DetailsPane extends JPanel {
 
     private final transient Selection selection;
     private final CardLayout cards = new CardLayout();
-    private final StatePanel state = new StatePanel();
+    private final StatePanel state = new StatePanel(Look::background);
     private final JPanel whole = new JPanel(new BorderLayout());
     private final JLabel gone = new Banner("This component is no longer in a window.");
 

@@ -12,7 +12,7 @@ import java.util.List;
 import javax.swing.BorderFactory;
 import javax.swing.JButton;
 import javax.swing.JPanel;
-import javax.swing.JTextField;
+import javax.swing.JToggleButton;
 
 import com.vantrel.model.Keys;
 import com.vantrel.model.Row;
@@ -22,10 +22,11 @@ import com.vantrel.model.Selection;
 final class KeysPanel extends JPanel {
     private static final long serialVersionUID = 1L;
 
-    private static final String PROMPT = "Click here and press a key: which binding would take it?";
+    private static final String PROMPT = "Which binding takes a key?";
+    private static final String ARMED = "Press the key\u2026";
 
     private final RowsPanel rows = new RowsPanel("vantrel.keys", "Filter");
-    private final JTextField press = new JTextField(PROMPT);
+    private final JToggleButton press = new JToggleButton(PROMPT);
     private final JButton all = new JButton("All keys");
     private final transient Selection selection;
     /** What a pressed key has found; null while all bindings are shown. */
@@ -35,30 +36,24 @@ final class KeysPanel extends JPanel {
         super(new BorderLayout());
         this.selection = selection;
         press.setName("vantrel.keys.press");
-        press.setEditable(false);
-        press.setFocusTraversalKeysEnabled(false);
+        press.setToolTipText("Click, then press a key: it tells which binding would take it. It takes one key only.");
+        press.addItemListener(event -> {
+            press.setText(press.isSelected() ? ARMED : PROMPT);
+            // Of all keys, also those that otherwise move the focus.
+            press.setFocusTraversalKeysEnabled(!press.isSelected());
+        });
         press.addKeyListener(new KeyAdapter() {
             @Override
             public void keyPressed(KeyEvent event) {
-                pressed(event);
-            }
-
-            @Override
-            public void keyTyped(KeyEvent event) {
-                event.consume();
+                if (press.isSelected()) {
+                    pressed(event);
+                }
             }
         });
         press.addFocusListener(new FocusAdapter() {
             @Override
-            public void focusGained(FocusEvent event) {
-                press.setText("Press a key\u2026");
-            }
-
-            @Override
             public void focusLost(FocusEvent event) {
-                if (takers == null) {
-                    press.setText(PROMPT);
-                }
+                press.setSelected(false);
             }
         });
         all.setToolTipText("Show all bindings again");
@@ -82,14 +77,13 @@ final class KeysPanel extends JPanel {
             return;
         }
         takers = Keys.takers(component, event);
-        press.setText(takers.isEmpty() ? "" : takers.get(0).group());
+        press.setSelected(false);
         all.setEnabled(true);
         rows.show(takers, false);
     }
 
     private void showAll() {
         takers = null;
-        press.setText(PROMPT);
         all.setEnabled(false);
         refresh(false);
     }
@@ -97,7 +91,6 @@ final class KeysPanel extends JPanel {
     /** Another component is selected. */
     void forget() {
         takers = null;
-        press.setText(press.isFocusOwner() ? "Press a key\u2026" : PROMPT);
         all.setEnabled(false);
         rows.show(Collections.emptyList(), false);
     }

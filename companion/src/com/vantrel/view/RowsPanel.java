@@ -33,6 +33,7 @@ import com.vantrel.model.Row;
 final class RowsPanel extends JPanel {
     private static final long serialVersionUID = 1L;
 
+    private static final String HINT = "Up and Down select a row, which is then told in full here. Typing filters the rows.";
     private static final int LINES_OF_STRIP = 3;
 
     private final RowsModel model = new RowsModel();
@@ -73,7 +74,6 @@ final class RowsPanel extends JPanel {
     private void look() {
         top.setBorder(Look.padding());
         strip.setFont(Look.font());
-        strip.setForeground(Look.foreground());
         strip.setBorder(BorderFactory.createEmptyBorder(Look.GAP, 2 * Look.GAP, Look.GAP, 2 * Look.GAP));
         int height = LINES_OF_STRIP * getFontMetrics(Look.font()).getHeight() + 2 * Look.GAP + 1;
         stripScroll.setPreferredSize(new Dimension(10, height));
@@ -87,6 +87,7 @@ final class RowsPanel extends JPanel {
         super.updateUI();
         if (table != null) { // it is called by the superclass's constructor, too
             look();
+            tellOfSelected();
         }
     }
 
@@ -119,7 +120,8 @@ final class RowsPanel extends JPanel {
 
     private void tellOfSelected() {
         Row row = table.selectedRow();
-        String text = row == null ? "" : text(row);
+        String text = row == null ? HINT : text(row);
+        strip.setForeground(row == null ? Look.dim() : Look.foreground());
         // Only what is new: a text that is being read and copied from is not to be pulled away.
         if (!text.equals(strip.getText())) {
             strip.setText(text);

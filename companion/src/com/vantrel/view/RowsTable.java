@@ -7,6 +7,8 @@ import java.awt.Graphics;
 import java.awt.Graphics2D;
 import java.awt.Rectangle;
 import java.awt.event.ActionEvent;
+import java.awt.event.FocusAdapter;
+import java.awt.event.FocusEvent;
 import java.awt.event.InputEvent;
 import java.awt.event.KeyEvent;
 import java.awt.event.MouseAdapter;
@@ -71,6 +73,7 @@ final class RowsTable extends JTable {
         // Editing begins when it is asked for, ends when the focus goes elsewhere, and takes nothing half typed.
         putClientProperty("JTable.autoStartsEdit", Boolean.FALSE);
         putClientProperty("terminateEditOnFocusLost", Boolean.TRUE);
+        complaint.setName("vantrel.complaint");
         complaintEnds.setRepeats(false);
         look();
         bindKeys();
@@ -81,6 +84,18 @@ final class RowsTable extends JTable {
             }
         });
         setComponentPopupMenu(menu());
+        // By itself a table repaints one cell of the selected row when the focus comes or goes.
+        addFocusListener(new FocusAdapter() {
+            @Override
+            public void focusGained(FocusEvent event) {
+                repaint();
+            }
+
+            @Override
+            public void focusLost(FocusEvent event) {
+                repaint();
+            }
+        });
     }
 
     /** Takes colours and sizes from the look and feel, at first and whenever it changes. */
@@ -383,16 +398,23 @@ final class RowsTable extends JTable {
         }
     }
 
+    /** Ends editing, however it ends: Escape comes here and nowhere else. */
+    @Override
+    public void removeEditor() {
+        super.removeEditor();
+        if (complaint != null) { // it is called by the superclass's constructor, too
+            complain(-1, null);
+        }
+    }
+
     @Override
     public void editingStopped(ChangeEvent event) {
-        complain(-1, null);
         super.editingStopped(event);
         requestFocusInWindow();
     }
 
     @Override
     public void editingCanceled(ChangeEvent event) {
-        complain(-1, null);
         super.editingCanceled(event);
         requestFocusInWindow();
     }

@@ -6,6 +6,7 @@ import java.awt.Graphics;
 import javax.swing.BorderFactory;
 import javax.swing.JComponent;
 import javax.swing.JSplitPane;
+import javax.swing.KeyStroke;
 import javax.swing.plaf.basic.BasicSplitPaneDivider;
 import javax.swing.plaf.basic.BasicSplitPaneUI;
 
@@ -16,6 +17,8 @@ final class Split extends JSplitPane {
 
     Split(JComponent left, JComponent right) {
         super(HORIZONTAL_SPLIT, true, left, right);
+        // A split pane's own keys for its divider: F8 picks, wherever the focus is.
+        getInputMap(WHEN_ANCESTOR_OF_FOCUSED_COMPONENT).put(KeyStroke.getKeyStroke("F8"), "none");
     }
 
     @Override

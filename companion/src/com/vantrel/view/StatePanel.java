@@ -1,10 +1,12 @@
 package com.vantrel.view;
 
 import java.awt.BasicStroke;
+import java.awt.Color;
 import java.awt.Dimension;
 import java.awt.FontMetrics;
 import java.awt.Graphics;
 import java.awt.Graphics2D;
+import java.util.function.Supplier;
 
 import javax.swing.JComponent;
 
@@ -13,9 +15,16 @@ final class StatePanel extends JComponent {
     private static final long serialVersionUID = 1L;
     private static final int PICTURE = 44;
 
+    private final transient Supplier<Color> background;
+
     private String headline = "";
     private String[] lines = {};
     private ToolIcon icon = ToolIcon.PICK;
+
+    /** @param background what it is painted on */
+    StatePanel(Supplier<Color> background) {
+        this.background = background;
+    }
 
     /** @param lines below the headline; one that has a tab in it is a key and what it does */
     void show(ToolIcon picture, String title, String... text) {
@@ -39,7 +48,7 @@ final class StatePanel extends JComponent {
     @Override
     protected void paintComponent(Graphics graphics) {
         Graphics2D g = Look.smooth(graphics);
-        g.setColor(Look.background());
+        g.setColor(background.get());
         g.fillRect(0, 0, getWidth(), getHeight());
         FontMetrics bold = g.getFontMetrics(Look.bold());
         FontMetrics plain = g.getFontMetrics(Look.font());

@@ -40,7 +40,7 @@ final class TreePane extends JPanel {
     private final transient TreeSearch search = new TreeSearch(tree);
     private final TreeView view = new TreeView(tree, search);
     private final SearchBar bar = new SearchBar(this::searchChanged);
-    private final StatePanel state = new StatePanel();
+    private final StatePanel state = new StatePanel(Look::paper);
     private final CardLayout cards = new CardLayout();
     private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> look());
     private boolean willGoOn;
@@ -204,7 +204,7 @@ final class TreePane extends JPanel {
             if (stepWhenDone != 0) {
                 step(stepWhenDone);
             }
-        } else {
+        } else if (search.isWorking()) { // nobody has ended it meanwhile
             goOnLater();
         }
         tellCount();
@@ -224,7 +224,7 @@ final class TreePane extends JPanel {
         tellCount();
         boolean empty = tree.rows().isEmpty();
         if (empty && search.isOn()) {
-            state.show(ToolIcon.SEARCH, "Nothing is called \u201c" + bar.field().getText().trim() + "\u201d",
+            state.show(ToolIcon.SEARCH, "Nothing matches \u201c" + bar.field().getText().trim() + "\u201d",
                     "Escape\tshows everything again");
         } else if (empty) {
             state.show(ToolIcon.SEARCH, "The program has no windows", "They appear here as soon as there are any.");

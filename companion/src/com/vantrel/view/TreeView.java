@@ -142,7 +142,9 @@ final class TreeView extends JList<TreeNode> {
         showRows();
     }
 
+    /** Goes back to the beginning of rows that are others altogether, and to no more width than these need. */
     void scrollToFirst() {
+        setFixedCellWidth(1);
         scrollRectToVisible(new Rectangle(0, 0, 1, getFixedCellHeight()));
     }
 

@@ -174,7 +174,9 @@ public class ClassFileEditorTest {
         editor.addMethod(Modifier.STATIC, "tell", parameters, 1, 2, tell, ClassFileEditor.NO_FRAME);
         Class<?> edited = new EditedLoader().define(Subject.class.getName(), editor.toByteArray());
         Object subject = edited.getConstructor().newInstance();
-        int[][] cases = {{1, 1, 1}, {1000, 1, 2000}, {100_000, 1, 101_000}, {5, 1, 5}, {0xB5, 0, 0xB5}, {-7000, 0, -7000}};
+        int[][] cases = {
+            {1, 1, 1}, {1000, 1, 2000}, {100_000, 1, 101_000}, {5, 1, 5}, {0xB5, 0, 0xB5}, {-7000, 0, -7000},
+        };
         for (int[] c : cases) {
             Recorder.SEEN.clear();
             assertEquals(c[2], edited.getMethod("write", int.class).invoke(subject, c[0]));
