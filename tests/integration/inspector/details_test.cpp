@@ -234,4 +234,20 @@ TEST_P(InspectorDetails, TellOfLayoutListenersAndKeys) {
         << shown("vantrel.layout.rows");
 }
 
+TEST_P(InspectorDetails, LookAsBeforeWhenTheProgramHasTriedAnotherLookAndFeel) {
+    const std::string nimbus = "javax.swing.plaf.nimbus.NimbusLookAndFeel";
+    start();
+    ask("look " + nimbus);  // it has renderers of its own for tables, and takes them away when it goes
+    open_inspector();
+    select("JButton ok");
+    EXPECT_TRUE(shows("enabled"));
+    const Place table = where("vantrel.properties");
+    const Place shown_part{table.x, table.y, 300, 150};
+    const std::string before = settled_pixels(shown_part, "");
+    ask("restyle javax.swing.plaf.metal.MetalLookAndFeel");
+    EXPECT_TRUE(eventually([&] { return pixels(shown_part) != before; }));
+    ask("restyle " + nimbus);
+    EXPECT_TRUE(eventually([&] { return pixels(shown_part) == before; }));
+}
+
 }  // namespace

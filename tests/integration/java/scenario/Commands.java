@@ -63,6 +63,11 @@ final class Commands {
             Themes.use(words[0]);
             return "";
         });
+        commands.put("restyle", words -> { // the same, and all windows take it on, the inspector's too
+            Themes.use(words[0]);
+            Arrays.stream(Window.getWindows()).forEach(SwingUtilities::updateComponentTreeUI);
+            return "";
+        });
         commands.put("dispose", words -> transients.disposeAll()); // all windows, upon which the program ends
     }
 

@@ -46,7 +46,7 @@ final class Dump {
         }
     }
 
-    /** The first component of the program that shows, has this simple class, and a text or tooltip that contains this. */
+    /** The first component that shows, of this simple class, whose text or tooltip contains this. */
     static Component find(String type, String text) {
         for (Window window : Window.getWindows()) {
             Component found = Scenario.isInspectors(window) ? null : find(window, type, text);
