@@ -63,11 +63,14 @@ std::string Scenario::ask(const std::string& command) {
     return answer;
 }
 
-Place Scenario::where(const std::string& name) {
+Place Scenario::place(const std::string& command) {
     Place place;
-    std::istringstream(ask((name.starts_with("vantrel") ? "inspector-where " : "where ") + name)) >> place.x >>
-        place.y >> place.width >> place.height;
+    std::istringstream(ask(command)) >> place.x >> place.y >> place.width >> place.height;
     return place;
+}
+
+Place Scenario::where(const std::string& name) {
+    return place((name.starts_with("vantrel") ? "inspector-where " : "where ") + name);
 }
 
 void Scenario::point_at(const Place& place) {

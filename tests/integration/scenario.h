@@ -47,6 +47,9 @@ class Scenario : public testing::TestWithParam<int> {
     // separated by line feeds. A command that fails, or is not answered, fails the test.
     std::string ask(const std::string& command);
 
+    // The place that a command answers with.
+    Place place(const std::string& command);
+
     // Where a component of the program is, or one of the inspector's ("vantrel.tree").
     Place where(const std::string& name);
 

@@ -6,6 +6,7 @@
 #include <climits>
 #include <cstring>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -84,6 +85,7 @@ std::string own_machine() {
 // Reads what windows say of themselves, and drops those that are no agents with our hot key.
 void read_agents(const Agents& agents, std::vector<Agent>& windows) {
     std::vector<xcb_get_property_cookie_t> requests;
+    requests.reserve(windows.size());
     for (const Agent& agent : windows) {
         requests.push_back(ask_for_property(agents.connection, agent.window, agents.atoms.agent, XCB_ATOM_CARDINAL,
                                             kAgentPropertyLength));
@@ -184,14 +186,6 @@ Owner owner_of(const Agents& agents, xcb_window_t window) {
     return {0, ""};
 }
 
-// The best candidate comes last in this order.
-struct Merit {
-    bool has_focus;
-    uint32_t asked;
-    bool is_own;
-    auto operator<=>(const Merit&) const = default;
-};
-
 void announce(const Agents& agents) {
     const AgentProperty property{kVersion, static_cast<uint32_t>(getpid()), agents.hot_key.keysym,
                                  agents.hot_key.modifiers, agents.standing};
@@ -263,9 +257,10 @@ bool take_or_pass_on(const Agents& agents) {
     std::vector<Agent> all = all_agents(agents);
     add_details(agents, all);
     const Owner focused = all.size() > 1 ? owner_of(agents, focused_window(agents.connection)) : Owner{0, ""};
+    // The best candidate comes last in this order: by the focus, then by when it was asked, then by being this one.
     const auto merit = [&](const Agent& agent) {
-        return Merit{agent.pid == focused.pid && agent.machine == focused.machine, agent.asked,
-                     agent.window == agents.own};
+        const bool has_focus = agent.pid == focused.pid && agent.machine == focused.machine;
+        return std::tuple(has_focus, agent.asked, agent.window == agents.own);
     };
     const auto best =
         std::max_element(all.begin(), all.end(), [&](const Agent& a, const Agent& b) { return merit(a) < merit(b); });

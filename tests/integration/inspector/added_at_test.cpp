@@ -51,11 +51,6 @@ class AddedAt : public Scenario {
             << ask("inspector " + kList);
         ask("log");
     }
-    Place place(const std::string& question) {
-        Place place;
-        std::istringstream(ask(question)) >> place.x >> place.y >> place.width >> place.height;
-        return place;
-    }
     Place row(const std::string& text) { return place("inspector-row " + kList + " " + text); }
     void double_click(const Place& place) {
         click(place);

@@ -19,10 +19,7 @@ namespace {
 class InspectorDetails : public Scenario {
   protected:
     Place row(const std::string& table, const std::string& text) {
-        Place place;
-        std::istringstream(ask("inspector-row " + table + " " + text)) >> place.x >> place.y >> place.width >>
-            place.height;
-        return place;
+        return place("inspector-row " + table + " " + text);
     }
 
     // Selects a component in the tree, by its class and name as they stand there.

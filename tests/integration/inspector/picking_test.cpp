@@ -28,11 +28,7 @@ class Picking : public Scenario {
     void hold() { keys.down(XK_Control_L); }
     void let_go() { keys.up(XK_Control_L); }
 
-    Place cell(const std::string& arguments) {
-        Place place;
-        std::istringstream(ask("cell " + arguments)) >> place.x >> place.y >> place.width >> place.height;
-        return place;
-    }
+    Place cell(const std::string& arguments) { return place("cell " + arguments); }
     // The colours at places of the screen, all at one time.
     std::vector<std::string> colours_at(const std::vector<std::pair<int, int>>& places) {
         const auto picture = folder.path / "colours.png";
@@ -148,6 +144,8 @@ TEST_P(Picking, NeverDrawsOverTheInspector) {
     const int edge = form.x + form.width / 2;
     ask("place-inspector " + std::to_string(edge) + " 0 1000 1000");
     EXPECT_TRUE(eventually([&] { return std::abs(where("vantrel").x - edge) < 20; }));
+    const Place inspector = where("vantrel");
+    click({inspector.x + inspector.width - 50, inspector.y + inspector.height / 2, 1, 1});  // brings it to the front
     click(place("inspector-row vantrel.tree form"));
     const int line = form.y + form.height - 1;
     EXPECT_TRUE(eventually([&] { return colour_at(form.x + 2, line) == kBox; })) << "beside the inspector";
