@@ -57,6 +57,7 @@ TEST_P(InspectorWindow, IsOfUseWhileADialogOfAnyModalityIsOpen) {
         SCOPED_TRACE(modality);
         ask("dialog " + modality);
         ASSERT_TRUE(eventually([this] { return ask("dialog ?") == "open"; }));
+        EXPECT_TRUE(eventually([this] { return ask("focus") == "dialog.button"; })) << ask("focus");
         open_inspector();
         ASSERT_TRUE(inspector_has_focus());
         click(where("vantrel.search"));

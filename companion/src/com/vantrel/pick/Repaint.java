@@ -18,14 +18,16 @@ import com.vantrel.model.Facts;
 
 /** Has windows paint again what the picker has painted over, or covered. For the event thread. */
 final class Repaint {
-    /** Until the window system has taken away what covered them. */
+    /** Until the window system has taken away what covered them: as a rule, and where the machine is busy. */
     private static final int MILLIS_TO_UNCOVER = 100;
+    private static final int MILLIS_AT_MOST = 600;
 
-    private final Timer later = new Timer(MILLIS_TO_UNCOVER, event -> uncover());
+    private final Timer later = new Timer(MILLIS_AT_MOST, event -> uncover());
     private Rectangle uncovered;
+    private boolean once;
 
     Repaint() {
-        later.setRepeats(false);
+        later.setInitialDelay(MILLIS_TO_UNCOVER);
     }
 
     /** Paints a part of a window: at once what is Swing's, and soon what the toolkit paints itself. */
@@ -76,12 +78,17 @@ final class Repaint {
      */
     void uncovered(Rectangle onScreen) {
         uncovered = uncovered == null ? new Rectangle(onScreen) : uncovered.union(onScreen);
+        once = false;
         later.restart();
     }
 
     private void uncover() {
         Rectangle area = uncovered;
-        uncovered = null;
+        if (once) {
+            later.stop();
+            uncovered = null;
+        }
+        once = true;
         for (Window window : Window.getWindows()) {
             if (!(window instanceof Mark) && window.isShowing()) {
                 Rectangle bounds = Facts.bounds(window);
