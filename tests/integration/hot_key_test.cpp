@@ -243,8 +243,8 @@ TEST(HotKey, IsTheOneThatTheEnvironmentNames) {
         for (const xcb_keysym_t key : c.keys) {
             keys.down(key);
         }
-        for (auto key = c.keys.rbegin(); key != c.keys.rend(); ++key) {
-            keys.up(*key);
+        for (const xcb_keysym_t key : std::vector(c.keys.rbegin(), c.keys.rend())) {
+            keys.up(key);
         }
         EXPECT_TRUE(probe.says("press 1"));
         if (c.keys.back() != XK_F12) {
@@ -397,9 +397,9 @@ TEST(HotKey, GoesToTheProgramThatHasTheFocus) {
     const XServer x;
     XKeys keys(x.name());
     XWindows windows(x.name());
-    std::vector<std::unique_ptr<Probe>> probes;
-    for (int i = 0; i < 3; ++i) {
-        probes.push_back(std::make_unique<Probe>(x.name()));
+    std::vector<std::unique_ptr<Probe>> probes(3);
+    for (auto& probe : probes) {
+        probe = std::make_unique<Probe>(x.name());
     }
     Probe apart(x.name(), "", "Control+F11");
     std::vector<size_t> expected(probes.size(), 0);
@@ -488,11 +488,11 @@ TEST(HotKey, ManyMayComeAtOnce) {
         const XServer x;
         XKeys keys(x.name());
         ASSERT_TRUE(!taken || keys.grab_with_control(XK_F12));
-        std::vector<std::unique_ptr<Process>> probes;
-        for (int i = 0; i < 8; ++i) {
-            probes.push_back(std::make_unique<Process>(
+        std::vector<std::unique_ptr<Process>> probes(8);
+        for (auto& probe : probes) {
+            probe = std::make_unique<Process>(
                 Arguments{VANTREL_HOT_KEY_PROBE},
-                ProcessOptions{.folder = {}, .environment = {"DISPLAY=" + x.name(), "VANTREL_HOT_KEY="}}));
+                ProcessOptions{.folder = {}, .environment = {"DISPLAY=" + x.name(), "VANTREL_HOT_KEY="}});
         }
         for (const auto& probe : probes) {
             EXPECT_TRUE(probe->reaches([&] { return probe->out().find("attached") != std::string::npos; }));

@@ -63,7 +63,8 @@ class Scenario : public testing::TestWithParam<int> {
     bool inspector_is_open();
 
     // Whether a condition comes true in time.
-    bool eventually(const std::function<bool()>& condition, std::chrono::milliseconds limit = std::chrono::seconds(10));
+    static bool eventually(const std::function<bool()>& condition,
+                           std::chrono::milliseconds limit = std::chrono::seconds(10));
 
     // Writes a picture of the screen beside the other products of the tests, for people to look at.
     void take_picture(const std::string& name);

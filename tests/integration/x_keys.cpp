@@ -77,7 +77,7 @@ void XKeys::press(std::initializer_list<xcb_keysym_t> keysyms) {
 }
 
 void XKeys::type(const std::string& text) {
-    for (const char character : text) {
+    for (const unsigned char character : text) {
         const auto keysym = static_cast<xcb_keysym_t>(character);  // of printable ASCII, the code is the keysym
         if (find_key(keysym, 0) != 0) {
             press({keysym});

@@ -41,7 +41,8 @@ xcb_window_t XWindows::make(pid_t process, const std::string& machine) {
                         static_cast<uint32_t>(machine.size()), machine.data());
     // The focus of a window lies with one inside it, as toolkits do it.
     const xcb_window_t inner = xcb_generate_id(x);
-    xcb_create_window(x, XCB_COPY_FROM_PARENT, inner, window, 0, 0, 50, 50, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+    const xcb_window_t outer = window;
+    xcb_create_window(x, XCB_COPY_FROM_PARENT, inner, outer, 0, 0, 50, 50, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
                       XCB_COPY_FROM_PARENT, 0, nullptr);
     xcb_map_window(x, inner);
     xcb_map_window(x, window);

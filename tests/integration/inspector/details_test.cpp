@@ -175,7 +175,8 @@ TEST_P(InspectorDetails, AskAComponentThatMisbehavesOnlyWhatTheUserAsks) {
         {"blocking", "toolTipText | late | took 1"},
         {"null", "toolTipText | null | read once"},
     };
-    for (const auto& [kind, answer] : cases) {
+    for (const auto& it : cases) {
+        const auto& kind = it.kind;
         SCOPED_TRACE(kind);
         ask("odd " + kind);
         ask("watch");
@@ -193,7 +194,7 @@ TEST_P(InspectorDetails, AskAComponentThatMisbehavesOnlyWhatTheUserAsks) {
             eventually([&] { return ask("inspector vantrel.details").find("toolTipText") != std::string::npos; }));
         find_property("tooltip");
         keys.press({XK_Return});
-        EXPECT_TRUE(shows(answer)) << shown();
+        EXPECT_TRUE(shows(it.answer)) << shown();
     }
     EXPECT_EQ(program->err(), kAgentErr);
 }

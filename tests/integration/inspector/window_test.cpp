@@ -8,8 +8,6 @@
 
 #include "scenario.h"
 
-using testing::HasSubstr;
-using testing::Not;
 using testing::StartsWith;
 
 namespace {
