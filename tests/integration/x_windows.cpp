@@ -33,19 +33,18 @@ xcb_atom_t XWindows::atom(const std::string& name) const {
 
 xcb_window_t XWindows::make(pid_t process, const std::string& machine) {
     xcb_connection_t* x = connection_.get();
-    const xcb_window_t window = xcb_generate_id(x);
-    xcb_create_window(x, XCB_COPY_FROM_PARENT, window, root_, 80, 80, 50, 50, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+    const xcb_window_t outer = xcb_generate_id(x);
+    xcb_create_window(x, XCB_COPY_FROM_PARENT, outer, root_, 80, 80, 50, 50, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
                       XCB_COPY_FROM_PARENT, 0, nullptr);
-    xcb_change_property(x, XCB_PROP_MODE_REPLACE, window, atom("_NET_WM_PID"), XCB_ATOM_CARDINAL, 32, 1, &process);
-    xcb_change_property(x, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING, 8,
+    xcb_change_property(x, XCB_PROP_MODE_REPLACE, outer, atom("_NET_WM_PID"), XCB_ATOM_CARDINAL, 32, 1, &process);
+    xcb_change_property(x, XCB_PROP_MODE_REPLACE, outer, XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING, 8,
                         static_cast<uint32_t>(machine.size()), machine.data());
     // The focus of a window lies with one inside it, as toolkits do it.
     const xcb_window_t inner = xcb_generate_id(x);
-    const xcb_window_t outer = window;
     xcb_create_window(x, XCB_COPY_FROM_PARENT, inner, outer, 0, 0, 50, 50, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
                       XCB_COPY_FROM_PARENT, 0, nullptr);
     xcb_map_window(x, inner);
-    xcb_map_window(x, window);
+    xcb_map_window(x, outer);
     return inner;
 }
 
