@@ -182,6 +182,7 @@ final class MainFrame {
     }
 
     /** A renderer of the program's own. */
+    @SuppressWarnings("serial")
     static final class CountRenderer extends DefaultTableCellRenderer {
         @Override
         public Component getTableCellRendererComponent(JTable table, Object value, boolean selected, boolean focused,
