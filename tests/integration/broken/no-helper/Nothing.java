@@ -1,2 +1,1 @@
-final class Nothing {
-}
+final class Nothing {}

@@ -1,4 +1,3 @@
 package com.vantrel.util;
 
-public final class BCIUtil {
-}
+public final class BCIUtil {}

@@ -47,7 +47,7 @@ final class TraceField {
     /** The accessors only read and write a field. */
     private static RuntimeException unexpected(Throwable e) {
         if (e instanceof Error) {
-            throw (Error) e;
+            throw(Error) e;
         }
         return new IllegalStateException(e);
     }

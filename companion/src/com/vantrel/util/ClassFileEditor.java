@@ -108,8 +108,8 @@ final class ClassFileEditor {
      * @param maxLocals how many variables it has, parameters included
      * @param frameAt   the pc that it jumps to, with an empty stack and the parameters for variables; NO_FRAME for none
      */
-    void addMethod(int accessFlags, String name, String descriptor, int maxStack, int maxLocals, byte[] code,
-            int frameAt) {
+    void addMethod(
+            int accessFlags, String name, String descriptor, int maxStack, int maxLocals, byte[] code, int frameAt) {
         ByteSink body = new ByteSink();
         body.u2(maxStack).u2(maxLocals).u4(code.length).bytes(code).u2(0); // no handlers
         if (frameAt == NO_FRAME) {
@@ -220,16 +220,28 @@ final class ClassFileEditor {
                 case CONSTANT_UTF8:
                     at += 3 + u2(at + 1);
                     break;
-                case 7: case 8: case 16: case 19: case 20: // Class, String, MethodType, Module, Package
+                case 7:
+                case 8:
+                case 16:
+                case 19:
+                case 20: // Class, String, MethodType, Module, Package
                     at += 3;
                     break;
                 case 15: // MethodHandle
                     at += 4;
                     break;
-                case 3: case 4: case 9: case 10: case 11: case 12: case 17: case 18: // numbers, references, dynamic
+                case 3:
+                case 4:
+                case 9:
+                case 10:
+                case 11:
+                case 12:
+                case 17:
+                case 18: // numbers, references, dynamic
                     at += 5;
                     break;
-                case 5: case 6: // Long and Double take two indices
+                case 5:
+                case 6: // Long and Double take two indices
                     at += 9;
                     index++;
                     break;
