@@ -50,13 +50,12 @@ void expect_to_pass(const Tests& classes, const Command& command) {
     EXPECT_THAT(finished.out, HasSubstr("\nOK (" + std::to_string(count) + " tests)\n"));
 }
 
-class Companion : public testing::TestWithParam<int> {};
-INSTANTIATE_TEST_SUITE_P(OnJdk, Companion, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
+class Companion : public OnEachJdk {};
+ON_EACH_JDK(Companion);
 
 // Under the agent, for what it adds to the toolkit's classes. The tests are loaded by the loader that then has the
 // companion's own classes, or they would not be in the same packages.
 TEST_P(Companion, PassesItsUnitTests) {
-    SKIP_WITHOUT_JDK(GetParam());
     const std::string boot_path = (kTestFolder / "companion-tests.jar").string() + ":" + VANTREL_JUNIT_JARS;
     expect_to_pass(kUnitTests, [&](const Arguments& options) {
         return java_under_agent(GetParam(), Arguments{"-Xbootclasspath/a:" + boot_path} + options);
@@ -65,11 +64,10 @@ TEST_P(Companion, PassesItsUnitTests) {
 
 // On the class path, tests are a program's: the inspector tells its classes from the toolkit's.
 TEST_P(Companion, PassesItsUnitTestsAsAProgram) {
-    SKIP_WITHOUT_JDK(GetParam());
     const std::string class_path =
         (kTestFolder / "companion-tests.jar").string() + ":" + kCompanionJar.string() + ":" + VANTREL_JUNIT_JARS;
     expect_to_pass(kProgramsUnitTests, [&](const Arguments& options) {
-        return Arguments{*find_jdk(GetParam()) / "bin" / "java", "-cp", class_path} + options;
+        return Arguments{tool("java"), "-cp", class_path} + options;
     });
 }
 

@@ -30,10 +30,8 @@ struct Place {
     int height = 0;
 };
 
-class Scenario : public testing::TestWithParam<int> {
+class Scenario : public OnEachJdk {
   protected:
-    void SetUp() override { SKIP_WITHOUT_JDK(GetParam()); }
-
     // Starts the program; it has its window on the screen, and the focus, when this returns.
     // options   of the VM, such as -Dtheme=dark
     void start(const Arguments& options = {});
