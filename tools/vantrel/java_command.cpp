@@ -5,14 +5,14 @@
 
 namespace {
 
-// The launcher's options whose value is the next word. Some may have it behind a '=' instead.
+// The launcher's options whose value is the next word. Some may have it after a '=' instead.
 constexpr std::string_view kWithValue[] = {
     "-cp",           "-classpath",     "-p",           "--add-exports",          "--add-modules",
     "--add-opens",   "--add-reads",    "--class-path", "--enable-native-access", "--limit-modules",
     "--module-path", "--patch-module", "--source",     "--upgrade-module-path",
 };
 
-// What ends the options: what comes behind is the program's.
+// What ends the options: what comes after it is the program's.
 constexpr std::string_view kProgram[] = {"-jar", "-m", "--module"};
 
 bool is_in(const auto& list, std::string_view word) {
