@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
+namespace launch {
+
 namespace {
 
 // The launcher's options whose value is the next word. Some may have it after a '=' instead.
@@ -36,3 +38,5 @@ size_t place_for_agent(const std::vector<std::string>& words) {
     }
     return place;
 }
+
+}  // namespace launch
