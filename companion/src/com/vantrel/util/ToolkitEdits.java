@@ -99,7 +99,6 @@ final class ToolkitEdits {
         // clang-format off: an instruction, or a few that belong together, to a line
         byte[] code = new ByteSink()
                               // Hooks.moving(component, component.parent, parent);
-                              // clang-format on
                               .u1(ALOAD_0)
                               .u1(ALOAD_0)
                               .u1(GETFIELD)
@@ -123,6 +122,7 @@ final class ToolkitEdits {
                               .u2(trace)
                               .u1(RETURN)
                               .toByteArray();
+        // clang-format on
         container.replaceWrites(COMPONENT, "parent", PARENT_TYPE, container.methodRef(CONTAINER, name, descriptor));
         container.addMethod(ACC_PRIVATE | ACC_STATIC | ACC_SYNTHETIC, name, descriptor, 3, 2, code, end);
         tellOfChanges(container, "setComponentZOrder", "(Ljava/awt/Component;I)V", Hooks.ORDER);
