@@ -42,8 +42,8 @@ public class AwkwardNames {
         return m12;
     }
 
-    public static int m(AwkwardNames self) {
-        return self.m12 + 1;
+    public static int m(Object self) {
+        return ((AwkwardNames) self).m12 + 1;
     }
 
     /** Names what did not come out as it should. */
