@@ -377,6 +377,7 @@ TEST(GeneratorCommand, ExplainsItself) {
     EXPECT_EQ(help.status, 0);
     EXPECT_THAT(help.out, AllOf(HasSubstr("--java-home DIR"), HasSubstr("--class-path PATH"),
                                 HasSubstr("--vm-option OPT"), HasSubstr("--out DIR"), HasSubstr("--list"),
+                                HasSubstr("--literal"), HasSubstr("--force"),
                                 HasSubstr("\n  vantrel-generate --out proxies java.util.EventObject")));
     EXPECT_THAT(run({VANTREL_GENERATE, "--version"}).out, MatchesRegex("vantrel-generate [0-9]+\\.[0-9]+\\.[0-9]+\n"));
 }
