@@ -140,7 +140,7 @@ TEST_P(Generator, NamesThatAreNoCppAreChangedAndFound) {
                        "another wrapper has the same name and parameters")));
     const fs::path library = folder.scratch.path / "libawkward-names.so";
     const Finished compiled =
-        run(compiler(folder) + Arguments{"-shared", "-fPIC", "-o", library, VANTREL_AWKWARD_NAMES,
+        run(compiler(folder) + Arguments{"-std=gnu++20", "-shared", "-fPIC", "-o", library, VANTREL_AWKWARD_NAMES,
                                          folder.jc / "AwkwardNames.cpp", folder.jc / "UnnamedArgument.cpp"});
     ASSERT_EQ(compiled.status, 0) << compiled.err;
     const Finished called =
@@ -375,10 +375,10 @@ TEST(GeneratorCommand, FindsTheVmWhereReleasesHaveHadIt) {
 TEST(GeneratorCommand, ExplainsItself) {
     const Finished help = run({VANTREL_GENERATE, "--help"});
     EXPECT_EQ(help.status, 0);
-    EXPECT_THAT(help.out, AllOf(HasSubstr("--java-home DIR"), HasSubstr("--class-path PATH"),
-                                HasSubstr("--vm-option OPT"), HasSubstr("--out DIR"), HasSubstr("--list"),
-                                HasSubstr("--literal"), HasSubstr("--force"),
-                                HasSubstr("\n  vantrel-generate --out proxies java.util.EventObject")));
+    EXPECT_THAT(help.out,
+                AllOf(HasSubstr("--java-home DIR"), HasSubstr("--class-path PATH"), HasSubstr("--vm-option OPT"),
+                      HasSubstr("--out DIR"), HasSubstr("--list"), HasSubstr("--literal"), HasSubstr("--force"),
+                      HasSubstr("\n  vantrel-generate --out proxies java.util.EventObject")));
     EXPECT_THAT(run({VANTREL_GENERATE, "--version"}).out, MatchesRegex("vantrel-generate [0-9]+\\.[0-9]+\\.[0-9]+\n"));
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <sstream>
 #include <vector>
 
 namespace fs = std::filesystem;
@@ -32,15 +31,19 @@ std::vector<std::string> jars_of(const std::string& element) {
 
 std::string generate::expand_class_path(const std::string& class_path) {
     std::string expanded;
-    std::istringstream elements(class_path);
-    for (std::string element; std::getline(elements, element, ':');) {
+    // Empty elements stay, too: they are the working folder.
+    for (size_t begin = 0; begin <= class_path.size();) {
+        const size_t end = std::min(class_path.find(':', begin), class_path.size());
+        const std::string element = class_path.substr(begin, end - begin);
         std::vector<std::string> jars = jars_of(element);
         if (jars.empty()) {
             jars.push_back(element);
         }
         for (const std::string& jar : jars) {
-            expanded += (expanded.empty() ? "" : ":") + jar;
+            expanded += jar + ":";
         }
+        begin = end + 1;
     }
+    expanded.pop_back();
     return expanded;
 }
