@@ -9,7 +9,9 @@ import java.util.List;
 import java.util.stream.Collectors;
 import java.util.stream.Stream;
 
-/** Prints the public classes of modules, or of packages of these, such as java.desktop/java/awt, as this VM has them. */
+/**
+ * Prints the public classes of modules, or of packages of these, such as java.desktop/java/awt, as this VM has them.
+ */
 public final class PublicClasses {
     private PublicClasses() {
     }
