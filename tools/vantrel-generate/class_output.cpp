@@ -14,7 +14,6 @@
 #include "loaded_class.h"
 #include "present_files.h"
 
-namespace fs = std::filesystem;
 using generator::Argument;
 using generator::Field;
 using generator::Method;
