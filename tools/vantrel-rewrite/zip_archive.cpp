@@ -1,6 +1,8 @@
 #include "zip_archive.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "failure.h"
 
@@ -13,6 +15,7 @@ void fail_on_zip(const char* what, const fs::path& path, const std::string& reas
 }
 
 Zip open_archive(const fs::path& path) {
+    const InputFile readable(path);  // libzip would not tell why it is not
     int code = 0;
     Zip zip(zip_open(path.c_str(), ZIP_RDONLY, &code));
     if (!zip) {
@@ -20,7 +23,8 @@ Zip open_archive(const fs::path& path) {
         zip_error_init_with_code(&error, code);
         const std::string reason = zip_error_strerror(&error);
         zip_error_fini(&error);
-        fail_on_zip("read", path, reason + " (is it a whole jar, with nothing before it?)");
+        const bool is_damaged = code == ZIP_ER_NOZIP || code == ZIP_ER_INCONS;
+        fail_on_zip("read", path, reason + (is_damaged ? " (is it a whole jar, with nothing before it?)" : ""));
     }
     return zip;
 }
@@ -34,28 +38,37 @@ std::string entry_name(zip_t* zip, zip_uint64_t index) {
     return name == nullptr ? "" : name;
 }
 
-Bytes read_entry(zip_t* zip, zip_uint64_t index, const fs::path& path) {
-    struct CloseEntry {
-        void operator()(zip_file_t* file) const { zip_fclose(file); }
-    };
-    constexpr size_t kBlock = size_t{1} << 16;
-    const std::unique_ptr<zip_file_t, CloseEntry> file(zip_fopen_index(zip, index, 0));
-    if (!file) {
-        fail_on_zip("read", path, zip_strerror(zip));
+EntryReader::EntryReader(zip_t* zip, zip_uint64_t index, fs::path path)
+    : path_(std::move(path)), file_(zip_fopen_index(zip, index, 0)) {
+    if (!file_) {
+        fail_on_zip("read", path_, zip_strerror(zip));
     }
-    // What the archive says about the size need not be true.
+}
+
+Bytes EntryReader::read(size_t at_most) {
+    constexpr size_t kBlock = size_t{1} << 16;
     Bytes contents;
     std::array<unsigned char, kBlock> block;
-    for (;;) {
-        const zip_int64_t count = zip_fread(file.get(), block.data(), block.size());
+    while (contents.size() < at_most) {
+        const zip_int64_t count = zip_fread(file_.get(), block.data(), std::min(kBlock, at_most - contents.size()));
         if (count < 0) {
-            fail_on_zip("read", path, zip_file_strerror(file.get()));
+            fail_on_zip("read", path_, zip_file_strerror(file_.get()));
         }
         if (count == 0) {
-            return contents;
+            break;
         }
         contents.insert(contents.end(), block.begin(), block.begin() + count);
     }
+    return contents;
+}
+
+Bytes read_entry(zip_t* zip, zip_uint64_t index, const fs::path& path) {
+    constexpr size_t kSmall = size_t{256} << 20U;
+    Bytes contents = EntryReader(zip, index, path).read(kSmall);
+    if (contents.size() == kSmall) {
+        fail_on_zip("read", path, entry_name(zip, index) + " is too large for what it is");
+    }
+    return contents;
 }
 
 }  // namespace vantrel_rewrite
