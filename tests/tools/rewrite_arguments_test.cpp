@@ -2,6 +2,7 @@
 // that says what is wrong, and leaves the folder as it was.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <string>
@@ -45,6 +46,7 @@ TEST_P(Refusal, IsOneLineAndLeavesAllAsItWas) {
     const size_t extra_field_size = 28;  // of the first entry, which is no class
     write(folder / "damaged.jar", std::string(jar).replace(extra_field_size, 2, "\xFF\xFF"));
     fs::create_symlink("nothing", folder / "dangling");
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), S_IRWXU), 0);
     const auto before = names_in(folder);
 
     Words command{kRewrite};
@@ -138,7 +140,7 @@ INSTANTIATE_TEST_SUITE_P(
         {"InNoFolder", with_tracker({"-o", "none/out", "A.class"}), "none is not a folder; make it first"},
         {"InAFile", with_tracker({"-o", "text/out", "A.class"}), "text/out"},
         {"FileForSeveral", with_tracker({"-o", "text", "A.class", "program.jar"}), "text is a file; several results"},
-        {"Device", with_tracker({"-o", "/dev/null", "A.class"}), "/dev/null is not a file that can be replaced"},
+        {"Pipe", with_tracker({"-o", "pipe", "A.class"}), "pipe is not a file that can be replaced"},
         {"NotWritable", with_tracker({"-o", "/proc/out", "A.class"}), "cannot write /proc/"},
         {"DanglingLink", with_tracker({"-o", "dangling", "A.class"}),
          "write dangling: it is a link to something that is"},

@@ -1,6 +1,5 @@
 #include "class_reports.h"
 
-#include <iostream>
 #include <numeric>
 
 #include "text.h"
@@ -17,8 +16,7 @@ size_t Summary::classes() const {
     return std::accumulate(counts_.begin(), counts_.end(), size_t{0});
 }
 
-ClassReports::ClassReports(const std::optional<NewFile>& map, bool verbose, const Progress& progress)
-    : verbose_(verbose), progress_(progress) {
+ClassReports::ClassReports(const std::optional<NewFile>& map, bool verbose) : verbose_(verbose) {
     if (map) {
         map_.emplace(*map);
     }
@@ -45,9 +43,8 @@ void ClassReports::add(const std::string& where, const ClassReport& report) {
     }
 }
 
-void ClassReports::note(const std::string& line) const {
-    progress_.clear();
-    std::cerr << command::printable(line) << '\n';
+void ClassReports::note(const std::string& line) {
+    notes_ += command::printable(line) + '\n';
 }
 
 Summary ClassReports::finish() {

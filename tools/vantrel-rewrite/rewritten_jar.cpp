@@ -31,7 +31,7 @@ size_t drop_signatures(zip_t* zip, const fs::path& source) {
     for (zip_uint64_t index = 0; index < entry_count(zip); ++index) {
         if (is_signature_file(entry_name(zip, index))) {
             if (zip_delete(zip, index) != 0) {
-                fail_on_zip("change", source, zip_strerror(zip));
+                fail_on_zip("change", source, zip_get_error(zip));
             }
             ++dropped;
         }
@@ -95,7 +95,7 @@ size_t write_rewritten_jar(const fs::path& source, const NewFile& target, const 
         transfer.rethrow_failure();
         // What went wrong while it was written is a failure of the transfer. This is an entry that cannot be carried
         // over.
-        fail_on_zip("read", source, zip_strerror(zip.get()));
+        fail_on_zip("read", source, zip_get_error(zip.get()));
     }
     zip.release();  // NOLINT(bugprone-unused-return-value): closed
     carry_times_over(source, output, target);

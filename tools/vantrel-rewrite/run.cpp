@@ -1,6 +1,7 @@
 #include "run.h"
 
 #include <algorithm>
+#include <iostream>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -174,11 +175,13 @@ Summary run(const Arguments& arguments) {
     Staging staging;
     const Plan plan = make_plan(arguments, staging);
     Progress progress(plan.class_count);
-    Run run{arguments, progress, ClassReports(plan.map, arguments.verbose, progress)};
+    Run run{arguments, progress, ClassReports(plan.map, arguments.verbose)};
     make_pieces(run, plan.pieces);
     const Summary summary = run.reports.finish();
     interrupt::check();
     staging.put_in_place();
+    progress.clear();
+    std::cerr << run.reports.notes();
     return summary;
 }
 

@@ -10,8 +10,29 @@ namespace fs = std::filesystem;
 
 namespace vantrel_rewrite {
 
-void fail_on_zip(const char* what, const fs::path& path, const std::string& reason) {
-    throw command::Failure{std::string("cannot ") + what + " " + path.string() + ": " + reason};
+namespace {
+
+std::string reason_of(zip_error_t* error) {
+    switch (zip_error_code_zip(error)) {
+        case ZIP_ER_NOZIP:
+            return "Not a zip archive (is it a whole jar, with nothing before it?)";
+        case ZIP_ER_INCONS:
+            return "Zip archive inconsistent (is it a whole jar, with nothing before it?)";
+        // Positions and sizes that lead nowhere. libzip adds whatever error the system had last.
+        case ZIP_ER_SEEK:
+        case ZIP_ER_READ:
+        case ZIP_ER_INVAL:
+        case ZIP_ER_EOF:
+            return "what it says of its entries is wrong";
+        default:
+            return zip_error_strerror(error);
+    }
+}
+
+}  // namespace
+
+void fail_on_zip(const char* what, const fs::path& path, zip_error_t* error) {
+    throw command::Failure{std::string("cannot ") + what + " " + path.string() + ": " + reason_of(error)};
 }
 
 Zip open_archive(const fs::path& path) {
@@ -21,10 +42,7 @@ Zip open_archive(const fs::path& path) {
     if (!zip) {
         zip_error_t error;
         zip_error_init_with_code(&error, code);
-        const std::string reason = zip_error_strerror(&error);
-        zip_error_fini(&error);
-        const bool is_damaged = code == ZIP_ER_NOZIP || code == ZIP_ER_INCONS;
-        fail_on_zip("read", path, reason + (is_damaged ? " (is it a whole jar, with nothing before it?)" : ""));
+        fail_on_zip("read", path, &error);
     }
     return zip;
 }
@@ -41,7 +59,7 @@ std::string entry_name(zip_t* zip, zip_uint64_t index) {
 EntryReader::EntryReader(zip_t* zip, zip_uint64_t index, fs::path path)
     : path_(std::move(path)), file_(zip_fopen_index(zip, index, 0)) {
     if (!file_) {
-        fail_on_zip("read", path_, zip_strerror(zip));
+        fail_on_zip("read", path_, zip_get_error(zip));
     }
 }
 
@@ -52,7 +70,7 @@ Bytes EntryReader::read(size_t at_most) {
     while (contents.size() < at_most) {
         const zip_int64_t count = zip_fread(file_.get(), block.data(), std::min(kBlock, at_most - contents.size()));
         if (count < 0) {
-            fail_on_zip("read", path_, zip_file_strerror(file_.get()));
+            fail_on_zip("read", path_, zip_file_get_error(file_.get()));
         }
         if (count == 0) {
             break;
@@ -66,7 +84,7 @@ Bytes read_entry(zip_t* zip, zip_uint64_t index, const fs::path& path) {
     constexpr size_t kSmall = size_t{256} << 20U;
     Bytes contents = EntryReader(zip, index, path).read(kSmall);
     if (contents.size() == kSmall) {
-        fail_on_zip("read", path, entry_name(zip, index) + " is too large for what it is");
+        throw command::Failure{"cannot read " + path.string() + ": " + entry_name(zip, index) + " is too large"};
     }
     return contents;
 }

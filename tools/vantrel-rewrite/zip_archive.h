@@ -20,8 +20,8 @@ struct DiscardZip {
 // An open archive. libzip's are for one thread each.
 using Zip = std::unique_ptr<zip_t, DiscardZip>;
 
-// Throws a Failure: "cannot WHAT PATH: REASON".
-[[noreturn]] void fail_on_zip(const char* what, const std::filesystem::path& path, const std::string& reason);
+// Throws a Failure: "cannot WHAT PATH: " and what the error is.
+[[noreturn]] void fail_on_zip(const char* what, const std::filesystem::path& path, zip_error_t* error);
 
 // An archive to read from. Throws a Failure.
 Zip open_archive(const std::filesystem::path& path);
