@@ -28,8 +28,8 @@ final class MonthRenderer extends JPanel implements ListCellRenderer<String> {
     }
 
     @Override
-    public Component getListCellRendererComponent(JList<? extends String> list, String value, int index,
-            boolean isSelected, boolean hasFocus) {
+    public Component getListCellRendererComponent(
+            JList<? extends String> list, String value, int index, boolean isSelected, boolean hasFocus) {
         int sum = 0;
         int all = 0;
         for (Varieties.Variety variety : Varieties.all()) {

@@ -34,8 +34,8 @@ final class OrderForm extends JPanel {
     OrderForm() {
         super(new GridBagLayout());
         setName("order.form");
-        setBorder(BorderFactory.createCompoundBorder(BorderFactory.createEmptyBorder(8, 8, 8, 8),
-                BorderFactory.createTitledBorder("Order")));
+        setBorder(BorderFactory.createCompoundBorder(
+                BorderFactory.createEmptyBorder(8, 8, 8, 8), BorderFactory.createTitledBorder("Order")));
         row("Customer", "customer", customer);
         row("Variety", "variety", variety);
         row("Kilograms", "kilograms", kilograms);

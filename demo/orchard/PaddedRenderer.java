@@ -12,8 +12,8 @@ class PaddedRenderer extends DefaultTableCellRenderer {
     private static final int PADDING = 8;
 
     @Override
-    public Component getTableCellRendererComponent(JTable table, Object value, boolean isSelected, boolean hasFocus,
-            int row, int column) {
+    public Component getTableCellRendererComponent(
+            JTable table, Object value, boolean isSelected, boolean hasFocus, int row, int column) {
         super.getTableCellRendererComponent(table, value, isSelected, false, row, column);
         setHorizontalAlignment(value instanceof Number ? SwingConstants.TRAILING : SwingConstants.LEADING);
         setBorder(BorderFactory.createEmptyBorder(0, PADDING, 0, PADDING));

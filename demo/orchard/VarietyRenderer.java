@@ -23,10 +23,14 @@ final class VarietyRenderer extends DefaultTreeCellRenderer {
         TreePath path = tree.getPathForRow(row);
         String kind = path == null || path.getPathCount() < 2 ? "" : path.getPathComponent(1).toString();
         switch (kind) {
-            case "Apples": return Palette.CHERRY;
-            case "Pears": return Palette.HONEY;
-            case "Plums": return Palette.SKY;
-            default: return Palette.LEAF;
+            case "Apples":
+                return Palette.CHERRY;
+            case "Pears":
+                return Palette.HONEY;
+            case "Plums":
+                return Palette.SKY;
+            default:
+                return Palette.LEAF;
         }
     }
 }

@@ -87,7 +87,7 @@ final class Inspector {
         for (int row = 0; row < lines.size(); row++) {
             if (lines.get(row).contains(text)) {
                 return view instanceof JTable table ? table.getCellRect(row, 0, false)
-                        : ((JList<?>) view).getCellBounds(row, row);
+                                                    : ((JList<?>) view).getCellBounds(row, row);
             }
         }
         throw new IllegalArgumentException("no row contains " + text + " in " + lines);

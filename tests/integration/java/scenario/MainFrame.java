@@ -126,10 +126,12 @@ final class MainFrame {
 
     private static void row(JPanel form, int row, Component left, Component right) {
         Insets insets = new Insets(2, 4, 2, 4);
-        form.add(left, new GridBagConstraints(0, row, 1, 1, 0, 0, GridBagConstraints.LINE_START,
-                GridBagConstraints.NONE, insets, 0, 0));
-        form.add(right, new GridBagConstraints(1, row, 1, 1, 1, 0, GridBagConstraints.CENTER,
-                GridBagConstraints.HORIZONTAL, insets, 0, 0));
+        form.add(left,
+                new GridBagConstraints(
+                        0, row, 1, 1, 0, 0, GridBagConstraints.LINE_START, GridBagConstraints.NONE, insets, 0, 0));
+        form.add(right,
+                new GridBagConstraints(
+                        1, row, 1, 1, 1, 0, GridBagConstraints.CENTER, GridBagConstraints.HORIZONTAL, insets, 0, 0));
     }
 
     private Panel awt() {
@@ -184,8 +186,8 @@ final class MainFrame {
     /** A renderer of the program's own. */
     static final class CountRenderer extends DefaultTableCellRenderer {
         @Override
-        public Component getTableCellRendererComponent(JTable table, Object value, boolean selected, boolean focused,
-                int row, int column) {
+        public Component getTableCellRendererComponent(
+                JTable table, Object value, boolean selected, boolean focused, int row, int column) {
             super.getTableCellRendererComponent(table, value, selected, focused, row, column);
             setForeground((Integer) value > 4 ? Color.RED : Color.BLUE);
             return this;

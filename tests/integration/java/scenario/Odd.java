@@ -55,44 +55,45 @@ final class Odd extends JPanel {
 
     @Override
     public String getName() {
-        return answer == null ? null : answer.get(); // null while the superclass is being made
+        return answer == null ? null :
+                answer.get(); // null while the superclass is being made
     }
 
     public String getText() {
-        return answer.get();
+            return answer.get();
     }
 
     public String getTitle() {
-        return answer.get();
+            return answer.get();
     }
 
     @Override
     public String getToolTipText() {
-        return answer.get();
+            return answer.get();
     }
 
     @Override
     public String getToolTipText(MouseEvent event) {
-        return null; // asked by Swing
+            return null; // asked by Swing
     }
 
     @Override
     public String toString() {
-        return answer.get();
+            return answer.get();
     }
 
     @Override
     public Component[] getComponents() {
-        if (hidesChildren) {
-            answer.get();
-            return null;
-        }
-        return super.getComponents();
+            if (hidesChildren) {
+                answer.get();
+                return null;
+            }
+            return super.getComponents();
     }
 
     @Override
     protected void paintComponent(Graphics graphics) {
-        graphics.setColor(java.awt.Color.ORANGE);
-        graphics.fillRect(0, 0, getWidth(), getHeight());
+            graphics.setColor(java.awt.Color.ORANGE);
+            graphics.fillRect(0, 0, getWidth(), getHeight());
     }
-}
+    }

@@ -94,10 +94,10 @@ final class Transients {
 
     String disposeAll() {
         for (Window window : Window.getWindows()) {
-            if (!Scenario.isInspectors(window)) {
-                window.dispose();
-            }
-        }
-        return "";
+                        if (!Scenario.isInspectors(window)) {
+                            window.dispose();
+                        }
+                    }
+                    return "";
     }
-}
+        }

@@ -17,18 +17,21 @@ final class Groups {
     private Groups() {
     }
 
-    /** A line for each direction: what stands in brackets comes after each other, what stands in braces side by side. */
+    /**
+     * A line for each direction: what stands in brackets comes after each other, what stands in braces side by side.
+     */
     static void describe(List<Row> rows, String group, GroupLayout layout) throws Throwable {
         if (HORIZONTAL == null || VERTICAL == null) {
-            rows.add(Row.of(group, "groups", "not seen").kind(Row.Kind.DIM)
-                    .explanation("GroupLayout keeps its groups to itself in this Java VM."));
+            rows.add(Row.of(group, "groups", "not seen")
+                             .kind(Row.Kind.DIM)
+                             .explanation("GroupLayout keeps its groups to itself in this Java VM."));
         } else {
             String how = "What stands in [ ] comes one after the other, what stands in { } in the same place.";
             rows.add(Row.of(group, "horizontally", text(HORIZONTAL.get(layout))).explanation(how));
             rows.add(Row.of(group, "vertically", text(VERTICAL.get(layout))).explanation(how));
         }
-        rows.add(Row.of(group, "automatic gaps", layout.getAutoCreateGaps() + " between, "
-                + layout.getAutoCreateContainerGaps() + " around"));
+        rows.add(Row.of(group, "automatic gaps",
+                layout.getAutoCreateGaps() + " between, " + layout.getAutoCreateContainerGaps() + " around"));
     }
 
     private static String text(Object spring) throws Throwable {

@@ -55,8 +55,9 @@ enum Machinery {
             return component.getClass().getName().contains("SharedOwnerFrame") ? BETWEEN : NO;
         }
         boolean scrolls = component instanceof JScrollBar && parent instanceof JScrollPane;
-        boolean arrow = component instanceof AbstractButton && (component instanceof UIResource
-                || parent instanceof JScrollBar || parent instanceof JComboBox || parent instanceof JSpinner);
+        boolean arrow = component instanceof AbstractButton
+                && (component instanceof UIResource || parent instanceof JScrollBar || parent instanceof JComboBox
+                        || parent instanceof JSpinner);
         return scrolls || arrow ? PART : NO;
     }
 

@@ -29,8 +29,8 @@ import javax.swing.ViewportLayout;
  */
 final class Managers {
     private static final List<String> ALIGNMENTS = Arrays.asList("LEFT", "CENTER", "RIGHT", "LEADING", "TRAILING");
-    private static final List<String> REGIONS = Arrays.asList(BorderLayout.NORTH, BorderLayout.SOUTH,
-            BorderLayout.WEST, BorderLayout.EAST, BorderLayout.CENTER, BorderLayout.PAGE_START, BorderLayout.PAGE_END,
+    private static final List<String> REGIONS = Arrays.asList(BorderLayout.NORTH, BorderLayout.SOUTH, BorderLayout.WEST,
+            BorderLayout.EAST, BorderLayout.CENTER, BorderLayout.PAGE_START, BorderLayout.PAGE_END,
             BorderLayout.LINE_START, BorderLayout.LINE_END);
 
     private Managers() {
@@ -44,13 +44,15 @@ final class Managers {
             return;
         }
         boolean programs = !Code.isMachinery(layout.getClass());
-        Row row = Row.of(group, "manager", Code.shortName(layout.getClass())).type(layout.getClass().getName())
-                .programs(programs);
+        Row row = Row.of(group, "manager", Code.shortName(layout.getClass()))
+                          .type(layout.getClass().getName())
+                          .programs(programs);
         rows.add(row);
         try {
             if (!parameters(rows, group, layout, container)) {
-                row.explanation(programs ? "A manager of the program's own, which tells nobody how it lays out."
-                        : "A manager inside of the toolkit, which knows the parts of this component and lays out those.");
+                row.explanation(programs
+                                ? "A manager of the program's own, which tells nobody how it lays out."
+                                : "A manager inside of the toolkit, which knows the parts of this component and lays out those.");
             }
         } catch (Throwable thrown) {
             rows.add(Row.of(group, "settings", Values.error(thrown)).kind(Row.Kind.ERROR));
@@ -105,8 +107,8 @@ final class Managers {
         } else if (layout instanceof GroupLayout) {
             Groups.describe(rows, group, (GroupLayout) layout);
         } else {
-            return layout instanceof SpringLayout || layout instanceof OverlayLayout
-                    || layout instanceof ViewportLayout || layout instanceof ScrollPaneLayout;
+            return layout instanceof SpringLayout || layout instanceof OverlayLayout || layout instanceof ViewportLayout
+                    || layout instanceof ScrollPaneLayout;
         }
         return true;
     }
@@ -133,12 +135,12 @@ final class Managers {
     private static boolean axis(BoxLayout layout, Container of) {
         boolean leftToRight = of.getComponentOrientation().isHorizontal();
         switch (layout.getAxis()) {
-        case BoxLayout.LINE_AXIS:
-            return leftToRight;
-        case BoxLayout.PAGE_AXIS:
-            return !leftToRight;
-        default:
-            return layout.getAxis() == BoxLayout.X_AXIS;
+            case BoxLayout.LINE_AXIS:
+                return leftToRight;
+            case BoxLayout.PAGE_AXIS:
+                return !leftToRight;
+            default:
+                return layout.getAxis() == BoxLayout.X_AXIS;
         }
     }
 
@@ -154,7 +156,8 @@ final class Managers {
             if (format != null) {
                 Object told = Constraints.of(child);
                 return told instanceof GridBagConstraints ? cell((GridBagConstraints) told)
-                        : told == null ? "" : format.write(told);
+                        : told == null                    ? ""
+                                                          : format.write(told);
             }
             if (layout instanceof SpringLayout && Code.getterOverrider(layout.getClass()) == null) {
                 SpringLayout.Constraints springs = ((SpringLayout) layout).getConstraints(child);
@@ -170,16 +173,18 @@ final class Managers {
     private static String cell(GridBagConstraints at) {
         String where = "column " + Constraints.relative(at.gridx) + ", row " + Constraints.relative(at.gridy);
         boolean one = at.gridwidth == 1 && at.gridheight == 1;
-        return one ? where : where + ", " + Constraints.relative(at.gridwidth) + " \u00d7 "
-                + Constraints.relative(at.gridheight) + " cells";
+        return one ? where
+                   : where + ", " + Constraints.relative(at.gridwidth) + " \u00d7 "
+                        + Constraints.relative(at.gridheight) + " cells";
     }
 
     private static String scrollPart(JScrollPane pane, Component child) {
-        return child == pane.getViewport() ? "viewport"
-                : child == pane.getRowHeader() ? "row header"
-                : child == pane.getColumnHeader() ? "column header"
-                : child == pane.getVerticalScrollBar() ? "vertical scroll bar"
-                : child == pane.getHorizontalScrollBar() ? "horizontal scroll bar" : "corner";
+        return child == pane.getViewport()               ? "viewport"
+                : child == pane.getRowHeader()           ? "row header"
+                : child == pane.getColumnHeader()        ? "column header"
+                : child == pane.getVerticalScrollBar()   ? "vertical scroll bar"
+                : child == pane.getHorizontalScrollBar() ? "horizontal scroll bar"
+                                                         : "corner";
     }
 
     /**
@@ -217,8 +222,9 @@ final class Managers {
             return along ? "BoxLayout shares out what is there" : "as its parent, up to the maximum";
         }
         if (layout instanceof ViewportLayout && parent instanceof JViewport) {
-            boolean follows = child instanceof Scrollable && (wide ? ((Scrollable) child).getScrollableTracksViewportWidth()
-                    : ((Scrollable) child).getScrollableTracksViewportHeight());
+            boolean follows = child instanceof Scrollable
+                    && (wide ? ((Scrollable) child).getScrollableTracksViewportWidth()
+                             : ((Scrollable) child).getScrollableTracksViewportHeight());
             return follows ? "it follows the viewport" : "at least as its viewport";
         }
         return name + " decides";
@@ -230,9 +236,9 @@ final class Managers {
             return "it has no region, and is not laid out";
         }
         boolean stretched = wide ? Arrays.asList("North", "South", "First", "Last").contains(region)
-                : Arrays.asList("West", "East", "Before", "After").contains(region);
+                                 : Arrays.asList("West", "East", "Before", "After").contains(region);
         return region.equals(BorderLayout.CENTER) ? "the CENTER gets what is left"
-                : stretched ? "this side goes from end to end"
-                : "BorderLayout gives this side what it prefers";
+                : stretched                       ? "this side goes from end to end"
+                                                  : "BorderLayout gives this side what it prefers";
     }
 }

@@ -158,6 +158,6 @@ public final class Highlighter {
     private static Rectangle screenOf(Window window) {
         GraphicsConfiguration configuration = window.getGraphicsConfiguration();
         return configuration == null ? new Rectangle(0, 0, Short.MAX_VALUE, Short.MAX_VALUE)
-                : configuration.getBounds();
+                                     : configuration.getBounds();
     }
 }

@@ -135,8 +135,8 @@ public final class Picker {
             return !beside && !mouse.isSettling() && keepMouse(source, mouseEvent);
         }
         if (event instanceof KeyEvent) {
-            return keys.keep((KeyEvent) event, Ours.isOurs(source), () -> keyPressed(source, (KeyEvent) event),
-                    () -> keyReleased((KeyEvent) event));
+            return keys.keep((KeyEvent) event, Ours.isOurs(source),
+                    () -> keyPressed(source, (KeyEvent) event), () -> keyReleased((KeyEvent) event));
         }
         return popups.keep(event);
     }

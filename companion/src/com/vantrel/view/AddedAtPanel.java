@@ -45,14 +45,14 @@ public final class AddedAtPanel extends JPanel {
     private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> refresh());
     private transient AddedAt shown = AddedAt.of(null);
 
-    private transient Consumer<Editor.Outcome> elsewhere = outcome -> { };
+    private transient Consumer<Editor.Outcome> elsewhere = outcome -> {};
 
-    private final Command open = new Command("Open in Editor", "ENTER", "Opens the line in your editor",
-            this::hasTrace, this::openSelected);
-    private final Command copy = new Command("Copy Line", "ctrl C", "Copies the line, so that it can become a link",
-            this::hasTrace, this::copySelected);
-    private final Command copyAll = new Command("Copy Stack", null, "Copies all lines", this::hasTrace,
-            () -> copy(shown.text(), "copied the stack"));
+    private final Command open =
+            new Command("Open in Editor", "ENTER", "Opens the line in your editor", this::hasTrace, this::openSelected);
+    private final Command copy = new Command(
+            "Copy Line", "ctrl C", "Copies the line, so that it can become a link", this::hasTrace, this::copySelected);
+    private final Command copyAll = new Command(
+            "Copy Stack", null, "Copies all lines", this::hasTrace, () -> copy(shown.text(), "copied the stack"));
 
     public AddedAtPanel(Selection selection) {
         super(new BorderLayout());
@@ -99,8 +99,8 @@ public final class AddedAtPanel extends JPanel {
         for (Command command : new Command[] {open, copy, copyAll}) {
             tools.add(FlatButton.of(command, null).named());
         }
-        Command toggle = new Command("Editor\u2026", "ctrl E", "Which editor opens lines, and where the sources are",
-                () -> true, () -> {
+        Command toggle = new Command(
+                "Editor\u2026", "ctrl E", "Which editor opens lines, and where the sources are", () -> true, () -> {
                     settings.setVisible(!settings.isVisible());
                     revalidate();
                 });

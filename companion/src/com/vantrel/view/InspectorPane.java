@@ -106,8 +106,8 @@ public final class InspectorPane extends JPanel {
         });
         Runnable atRow = () -> {
             Rectangle row = view.getCellBounds(view.getSelectedIndex(), view.getSelectedIndex());
-            Point at = new Point(TreeRowPainter.twistyAt(view.getSelectedValue()) + 2 * TreeRowPainter.TWISTY,
-                    row.y + row.height);
+            Point at = new Point(
+                    TreeRowPainter.twistyAt(view.getSelectedValue()) + 2 * TreeRowPainter.TWISTY, row.y + row.height);
             menu.show(view, at.x, at.y);
         };
         view.bind("CONTEXT_MENU", atRow);

@@ -43,8 +43,8 @@ final class RowPainter extends JComponent implements TableCellRenderer {
     }
 
     @Override
-    public Component getTableCellRendererComponent(JTable table, Object value, boolean isSelected, boolean focused,
-            int atLine, int atColumn) {
+    public Component getTableCellRendererComponent(
+            JTable table, Object value, boolean isSelected, boolean focused, int atLine, int atColumn) {
         selected = isSelected;
         line = atLine;
         column = atColumn;
@@ -77,8 +77,10 @@ final class RowPainter extends JComponent implements TableCellRenderer {
     /** Whether a cell's text is cut at its width, or at that of two where the note leaves its place to the value. */
     boolean isCut(Row row, int ofColumn) {
         boolean both = row.note().isEmpty() && ofColumn != RowsModel.NAME;
-        int width = both ? valueWidth + noteWidth
-                : ofColumn == RowsModel.VALUE ? valueWidth : ofColumn == RowsModel.NOTE ? noteWidth : nameWidth;
+        int width = both                      ? valueWidth + noteWidth
+                : ofColumn == RowsModel.VALUE ? valueWidth
+                : ofColumn == RowsModel.NOTE  ? noteWidth
+                                              : nameWidth;
         return wanted(row, both ? RowsModel.VALUE : ofColumn) > width;
     }
 
@@ -168,23 +170,25 @@ final class RowPainter extends JComponent implements TableCellRenderer {
 
     private static Color valueColor(Row row) {
         switch (row.kind()) {
-        case ERROR:
-            return Look.error();
-        case DIM:
-        case WAITING:
-            return Look.dim();
-        case ASK:
-            return Look.own();
-        default:
-            return row.isPrograms() ? Look.own() : Look.ink();
+            case ERROR:
+                return Look.error();
+            case DIM:
+            case WAITING:
+                return Look.dim();
+            case ASK:
+                return Look.own();
+            default:
+                return row.isPrograms() ? Look.own() : Look.ink();
         }
     }
 
     /** A colour for text, or that of selected text where it could not be read on a selection. */
     private Color textOn(Color back, Color wanted) {
         boolean readable = Math.abs(brightness(back) - brightness(wanted)) > 90;
-        return readable ? wanted : Math.abs(brightness(back) - brightness(Look.selectionForeground())) > 90
-                ? Look.selectionForeground() : brightness(back) > 128 ? Color.BLACK : Color.WHITE;
+        return readable                                                                    ? wanted
+                : Math.abs(brightness(back) - brightness(Look.selectionForeground())) > 90 ? Look.selectionForeground()
+                : brightness(back) > 128                                                   ? Color.BLACK
+                                                                                           : Color.WHITE;
     }
 
     private static double brightness(Color color) {

@@ -40,7 +40,7 @@ final class RowsModel extends AbstractTableModel {
 
         boolean isAbout(Line other) {
             return row == null ? other.row == null && group.equals(other.group)
-                    : other.row != null && row.isAbout(other.row);
+                               : other.row != null && row.isAbout(other.row);
         }
 
         boolean isSameAs(Line other) {
@@ -84,8 +84,7 @@ final class RowsModel extends AbstractTableModel {
             Line line = lines.get(i);
             if (!line.isSameAs(before.get(i))) {
                 if (flash && line.row != null && !line.row.saysSame(before.get(i).row)
-                        && before.get(i).row.kind() != Row.Kind.ASK
-                        && before.get(i).row.kind() != Row.Kind.WAITING) {
+                        && before.get(i).row.kind() != Row.Kind.ASK && before.get(i).row.kind() != Row.Kind.WAITING) {
                     changedAt.put(line.key(), System.nanoTime());
                 }
                 fireTableRowsUpdated(i, i);

@@ -33,7 +33,8 @@ import com.vantrel.model.Row;
 final class RowsPanel extends JPanel {
     private static final long serialVersionUID = 1L;
 
-    private static final String HINT = "Up and Down select a row, which is then told in full here. Typing filters the rows.";
+    private static final String HINT =
+            "Up and Down select a row, which is then told in full here. Typing filters the rows.";
     private static final int LINES_OF_STRIP = 3;
 
     private final RowsModel model = new RowsModel();
@@ -54,8 +55,8 @@ final class RowsPanel extends JPanel {
         filter.setName(name + ".filter");
         filter.setToolTipText("Words that a row has anywhere, in any order. Typing in the table comes here, too.");
         strip.setName(name + ".strip");
-        JScrollPane scroll = new JScrollPane(table, ScrollPaneConstants.VERTICAL_SCROLLBAR_ALWAYS,
-                ScrollPaneConstants.HORIZONTAL_SCROLLBAR_NEVER);
+        JScrollPane scroll = new JScrollPane(
+                table, ScrollPaneConstants.VERTICAL_SCROLLBAR_ALWAYS, ScrollPaneConstants.HORIZONTAL_SCROLLBAR_NEVER);
         scroll.setBorder(BorderFactory.createEmptyBorder());
         strip.setEditable(false);
         strip.setLineWrap(true);
@@ -133,7 +134,7 @@ final class RowsPanel extends JPanel {
         String type = row.type().isEmpty() ? "" : " : " + row.type();
         String value = row.value().isEmpty() || row.kind() == Row.Kind.ASK ? "" : row.value();
         String more = row.isEditable() ? "Enter or F2 " + (row.check() == null ? "edits" : "changes") + " it."
-                : row.explanation();
+                                       : row.explanation();
         return (row.name() + type + '\n' + value + (value.isEmpty() || more.isEmpty() ? "" : "\n") + more).trim();
     }
 
@@ -163,8 +164,10 @@ final class RowsPanel extends JPanel {
         table.addKeyListener(new KeyAdapter() {
             @Override
             public void keyTyped(KeyEvent event) {
-                boolean plain = (event.getModifiersEx() & (InputEvent.CTRL_DOWN_MASK | InputEvent.ALT_DOWN_MASK
-                        | InputEvent.META_DOWN_MASK)) == 0;
+                boolean plain =
+                        (event.getModifiersEx()
+                                & (InputEvent.CTRL_DOWN_MASK | InputEvent.ALT_DOWN_MASK | InputEvent.META_DOWN_MASK))
+                        == 0;
                 if (plain && event.getKeyChar() > ' ' && event.getKeyChar() != KeyEvent.VK_DELETE) {
                     event.consume();
                     filter.setText(filter.getText() + event.getKeyChar());

@@ -236,7 +236,9 @@ final class RowsTable extends JTable {
         widestNote = 0;
     }
 
-    /** Gives names and notes what they need, up to their share, and values the rest; they may go on where no note is. */
+    /**
+     * Gives names and notes what they need, up to their share, and values the rest; they may go on where no note is.
+     */
     private void fitColumns() {
         int width = getParent() instanceof JViewport ? getParent().getWidth() : getWidth();
         for (int line = 0; line < rows.getRowCount(); line++) {

@@ -14,7 +14,16 @@ import javax.swing.Icon;
 
 /** The drawings on the inspector's buttons, in lines, sharp at any scale, in the colour of the button's text. */
 enum ToolIcon implements Icon {
-    PICK, SEARCH, CLEAR, MACHINERY, BACK, FORWARD, UNDO, REDO, PREVIOUS, NEXT;
+    PICK,
+    SEARCH,
+    CLEAR,
+    MACHINERY,
+    BACK,
+    FORWARD,
+    UNDO,
+    REDO,
+    PREVIOUS,
+    NEXT;
 
     private static final int SIZE = 16;
 

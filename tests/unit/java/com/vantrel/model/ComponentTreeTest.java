@@ -128,15 +128,32 @@ public class ComponentTreeTest {
         ok.getAccessibleContext().setAccessibleName("Confirmation");
         form.setBackground(new java.awt.Color(1, 2, 3));
         String[][] cases = {
-            // typed, found
-            {"jbut", "ok"}, {"javax.swing.jb", "ok"}, {"swing", ""}, // a package only where it is meant
-            {"NOTES", "notes"}, {"accept", "ok"}, {"order", "ok"}, {"confirm", "ok"},
-            {"\"some lines\"", ""}, {"lines", "notes"},
-            {"jb accept", "ok"}, {"jb lines", ""},
-            {"enabled=false", "ok"}, {"enabled!=true", "ok"}, {"text=acc*", "ok"}, {"text=Acc", ""},
-            {"background=#010203", "form"}, {"background=1,2,3", "form"}, {"background.red<2 name=form", "form"},
-            {"layout=FlowLayout", "window form"}, {"rows>-1", "notes"}, {"rows>many", ""}, {"noSuchThing=1", ""},
-            {"name=ok enabled=true", ""}, {"toolTipText=null name=ok", ""}, {"class=", "window form ok scroll notes"},
+                // typed, found
+                {"jbut", "ok"},
+                {"javax.swing.jb", "ok"},
+                {"swing", ""}, // a package only where it is meant
+                {"NOTES", "notes"},
+                {"accept", "ok"},
+                {"order", "ok"},
+                {"confirm", "ok"},
+                {"\"some lines\"", ""},
+                {"lines", "notes"},
+                {"jb accept", "ok"},
+                {"jb lines", ""},
+                {"enabled=false", "ok"},
+                {"enabled!=true", "ok"},
+                {"text=acc*", "ok"},
+                {"text=Acc", ""},
+                {"background=#010203", "form"},
+                {"background=1,2,3", "form"},
+                {"background.red<2 name=form", "form"},
+                {"layout=FlowLayout", "window form"},
+                {"rows>-1", "notes"},
+                {"rows>many", ""},
+                {"noSuchThing=1", ""},
+                {"name=ok enabled=true", ""},
+                {"toolTipText=null name=ok", ""},
+                {"class=", "window form ok scroll notes"},
         };
         tree.refresh();
         String all = rows();

@@ -52,7 +52,7 @@ public class EditsTest {
     @Test
     public void undoPutsBackWhatWasThere() {
         JPanel parent = new JPanel();
-        JComponent plain = new JComponent() { };
+        JComponent plain = new JComponent() {};
         parent.add(plain);
         set(plain, "background", "#ff0000");
         set(plain, "name", "plain");
@@ -114,14 +114,19 @@ public class EditsTest {
 
     @Test
     public void readsGridBagConstraintsAsItWritesThem() {
-        for (String text : List.of("gridx=0 gridy=3", "gridx=RELATIVE gridy=1 gridwidth=2 weightx=0.5 anchor=LINE_START "
-                + "fill=BOTH insets=1,2,3,4 ipadx=5 ipady=6")) {
+        for (String text : List.of("gridx=0 gridy=3",
+                     "gridx=RELATIVE gridy=1 gridwidth=2 weightx=0.5 anchor=LINE_START "
+                             + "fill=BOTH insets=1,2,3,4 ipadx=5 ipady=6")) {
             assertEquals(text, gridBag(text));
         }
         assertEquals("gridx=1 gridy=RELATIVE gridwidth=0", gridBag(" gridwidth = REMAINDER  gridx=1"));
         String[][] wrong = {
-            {"gridx=-3", "not negative"}, {"gridz=1", "no \u201cgridz\u201d"}, {"anchor=UP", "not one of CENTER"},
-            {"weightx=-1", "0 or more"}, {"gridx=1 and more", "type gridx"}, {"insets=1,2", "type gridx"},
+                {"gridx=-3", "not negative"},
+                {"gridz=1", "no \u201cgridz\u201d"},
+                {"anchor=UP", "not one of CENTER"},
+                {"weightx=-1", "0 or more"},
+                {"gridx=1 and more", "type gridx"},
+                {"insets=1,2", "type gridx"},
         };
         for (String[] it : wrong) {
             Exception e = assertThrows(it[0], IllegalArgumentException.class, () -> gridBag(it[0]));

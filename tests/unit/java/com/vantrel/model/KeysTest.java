@@ -43,7 +43,9 @@ public class KeysTest {
     }
 
     private static String taker(List<Row> rows) {
-        return rows.stream().filter(row -> row.name().equals("taken by")).map(Row::value)
+        return rows.stream()
+                .filter(row -> row.name().equals("taken by"))
+                .map(Row::value)
                 .collect(Collectors.joining("; "));
     }
 
@@ -96,22 +98,28 @@ public class KeysTest {
         field.addPropertyChangeListener("text", event -> ran.add("named"));
         field.getDocument().addDocumentListener(new javax.swing.event.DocumentListener() {
             @Override
-            public void insertUpdate(javax.swing.event.DocumentEvent event) { }
+            public void insertUpdate(javax.swing.event.DocumentEvent event) {
+            }
 
             @Override
-            public void removeUpdate(javax.swing.event.DocumentEvent event) { }
+            public void removeUpdate(javax.swing.event.DocumentEvent event) {
+            }
 
             @Override
-            public void changedUpdate(javax.swing.event.DocumentEvent event) { }
+            public void changedUpdate(javax.swing.event.DocumentEvent event) {
+            }
         });
         List<Row> rows = Listeners.of(field);
-        List<String> programs = rows.stream().filter(Row::isPrograms)
-                .map(row -> row.group() + " | " + row.name() + " | " + row.value() + " | " + row.note())
-                .collect(Collectors.toList());
+        List<String> programs =
+                rows.stream()
+                        .filter(Row::isPrograms)
+                        .map(row -> row.group() + " | " + row.name() + " | " + row.value() + " | " + row.note())
+                        .collect(Collectors.toList());
         String own = KeysTest.class.getName();
         assertEquals(List.of("Action | lambda in KeysTest | " + own + " | ",
-                "Property change | lambda in KeysTest | " + own + " | of \"text\"",
-                "Document of its document | KeysTest$2 | " + own + "$2 | "), programs);
+                             "Property change | lambda in KeysTest | " + own + " | of \"text\"",
+                             "Document of its document | KeysTest$2 | " + own + "$2 | "),
+                programs);
         assertTrue("the toolkit listens, too", rows.stream().anyMatch(Row::isFolded));
     }
 }

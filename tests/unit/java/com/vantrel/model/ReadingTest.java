@@ -150,7 +150,7 @@ public class ReadingTest {
         JButton button = new JButton("OK");
         JPanel panel = new JPanel();
         panel.setName("panel");
-        JComponent plain = new JComponent() { };
+        JComponent plain = new JComponent() {};
         panel.add(button);
         panel.add(plain);
         assertEquals("Button.background", row(read(button), "background").note());
