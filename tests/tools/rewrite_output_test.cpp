@@ -174,6 +174,17 @@ TEST(Output, MayBeAPipe) {
     }
 }
 
+// What goes to a pipe is made in the folder for temporary files first.
+TEST(Output, ForAPipeNeedsAFolderForTemporaryFiles) {
+    const ScratchFolder scratch;
+    make_inputs(scratch.path);
+    const Finished done =
+        run(rewrite_command({"-o", "-", "a.jar"}), {.folder = scratch.path, .environment = {"TMPDIR=/no"}});
+    EXPECT_EQ(done.status, 2);
+    EXPECT_EQ(done.err, "vantrel-rewrite: TMPDIR names no folder for what goes to stdout: No such file or directory\n");
+    EXPECT_EQ(done.out, "");
+}
+
 // A name may hold whatever the map uses to tell its columns apart.
 TEST(Output, MapEscapesNames) {
     const ScratchFolder scratch;

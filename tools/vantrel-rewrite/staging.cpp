@@ -117,7 +117,12 @@ NewFile Staging::stage(const fs::path& target) {
 }
 
 NewFile Staging::stage_for_stdout() {
-    const HiddenFolder& folder = hidden_folder_in(fs::temp_directory_path(), fs::temp_directory_path());
+    std::error_code error;
+    const fs::path parent = fs::temp_directory_path(error);
+    if (error) {
+        throw command::Failure{"TMPDIR names no folder for what goes to stdout: " + error.message()};
+    }
+    const HiddenFolder& folder = hidden_folder_in(parent, parent);
     return results_.emplace_back(folder.path / std::to_string(results_.size()), kStdout);
 }
 
