@@ -11,7 +11,7 @@
 
 namespace vantrel_rewrite {
 
-// How many bytes of a file judge_header looks at.
+// How many bytes of a file class_version looks at.
 constexpr size_t kHeaderSize = 8;
 
 // The major version in a class file's header; 0 for what does not begin as a class file does.
@@ -28,12 +28,12 @@ struct ClassFile {
         std::uint16_t access;
         std::string name;
         std::string descriptor;
-        size_t end;  // behind its last attribute
+        size_t end;  // of its last attribute
     };
     std::uint16_t access;
     std::string name;
     std::string super_name;  // empty for java.lang.Object
-    size_t methods_begin;    // of their number, which stands before them
+    size_t methods_begin;    // where their number is, which stands before them
     std::vector<Method> methods;
     size_t end;  // of the class
 };

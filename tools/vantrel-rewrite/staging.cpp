@@ -71,13 +71,18 @@ void remove_abandoned(const fs::path& parent) {
     }
 }
 
-// The new file has the old one's owner, if this process may give files away, and permissions.
+// Gives a new file the permissions of the old one and, if this process may give files away, its owner. A program that
+// runs as its owner must not become one that runs as another one.
 void take_over(const fs::path& from, const fs::path& to) {
     struct stat old {};
     if (stat(from.c_str(), &old) == 0 && S_ISREG(old.st_mode)) {
-        static_cast<void>(chown(to.c_str(), old.st_uid, old.st_gid) == 0 || chown(to.c_str(), -1, old.st_gid) == 0);
-        constexpr mode_t kPermissions = 07777;
-        chmod(to.c_str(), old.st_mode & kPermissions);
+        constexpr mode_t kPermissions = 0777;
+        constexpr mode_t kAll = 07777;
+        const bool is_owners = chown(to.c_str(), old.st_uid, old.st_gid) == 0;
+        if (!is_owners) {
+            static_cast<void>(chown(to.c_str(), geteuid(), old.st_gid) == 0);  // the group at least, where it may
+        }
+        chmod(to.c_str(), old.st_mode & (is_owners ? kAll : kPermissions));
     }
 }
 
