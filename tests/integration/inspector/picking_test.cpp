@@ -167,6 +167,50 @@ TEST_P(Picking, OfCells) {
     let_go();
 }
 
+TEST_P(Picking, OfInternalFramesAndWhatIsInThem) {
+    start_picking();
+    ask("tab tabs 1");
+    ask("follow inner.button");
+    const Place inner = where("inner");
+    const Place button = where("inner.button");
+    const Place lower = where("lower.button");
+    ask("log");
+    hold();
+    for (const auto& [name, at] :
+         {std::pair{"inner.button", button}, {"lower.button", lower}, {"desktop", {inner.x - 5, inner.y, 2, 2}}}) {
+        SCOPED_TRACE(name);
+        click(at);
+        EXPECT_TRUE(selects(name)) << ask("selected");
+    }
+    // One lies over the other there, and the lower one has a glass pane as long as it is not the active one.
+    click({lower.x, lower.y, inner.x + inner.width - 15 - lower.x, 10});
+    EXPECT_TRUE(selects("inner.button")) << ask("selected");
+    keys.press({XK_Right});
+    expect_box(where("lower.button"));
+    point_at({inner.x + 40, inner.y + 8, 10, 10});
+    keys.press({XK_Up});
+    expect_box(inner);
+    keys.press({XK_Return});
+    EXPECT_TRUE(selects("inner")) << ask("selected");
+    let_go();
+    EXPECT_EQ(ask("log"), "");
+
+    // An icon stands for a frame that is in no window meanwhile.
+    ask("set inner icon true");
+    EXPECT_TRUE(
+        eventually([&] { return ask("inspector vantrel.tree").find("JDesktopIcon \"Inner\"") != std::string::npos; }));
+    const Place icon = where("inner.icon");
+    hold();
+    point_at(icon);
+    keys.press({XK_Up});
+    expect_box(icon);
+    keys.press({XK_Return});
+    EXPECT_TRUE(selects("inner.icon")) << ask("selected");
+    let_go();
+    EXPECT_THAT(ask("log"), Not(HasSubstr("MOUSE")));
+    take_picture("picking-internal");
+}
+
 TEST_P(Picking, OfPopupItemsAndTheyStayOpen) {
     start_picking();
     for (const char* kind : {"light", "heavy"}) {

@@ -192,6 +192,10 @@ final class Commands {
             things.get(words[0]).setBounds(numbers[0], numbers[1], numbers[2], numbers[3]);
             return "";
         });
+        commands.put("tab", words -> { // NAME INDEX: brings a tab to the front
+            things.get(words[0], JTabbedPane.class).setSelectedIndex(Integer.parseInt(words[1]));
+            return "";
+        });
         commands.put("add", words -> { // PARENT NAME: a label
             Container parent = things.get(words[0], Container.class);
             parent.add(things.named(words[1], new JLabel(words[1])));
