@@ -30,6 +30,7 @@ constexpr UnitTests kUnitTests[] = {
     {"util.ClassFileEditorTest", 6},
 };
 constexpr UnitTests kProgramsUnitTests[] = {
+    {"AgentTest", 1},
     {"model.EditsTest", 4},
     {"model.FormatsTest", 2},
     {"model.KeysTest", 3},

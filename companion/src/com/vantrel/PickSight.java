@@ -15,8 +15,8 @@ final class PickSight implements Sight {
     private final Picker picker;
 
     PickSight(Window owner, Selection selection) {
-        highlighter = new Highlighter(owner, Vantrel.getInstance()::highlight);
-        picker = new Picker(selection, highlighter, Vantrel::canHighlight);
+        highlighter = new Highlighter(owner, Agent::highlight);
+        picker = new Picker(selection, highlighter, Agent::canHighlight);
     }
 
     void start() {

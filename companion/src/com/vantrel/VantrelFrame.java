@@ -97,7 +97,7 @@ public final class VantrelFrame extends JFrame implements Ours {
     private void fill() {
         selection = new Selection();
         sight = new PickSight(this, selection);
-        Edits edits = new Edits(SwingContext::safeRun1, task -> SwingContext.safeRun1(this, task));
+        Edits edits = new Edits(Agent::run, task -> Agent.run(this, task));
         pane = new InspectorPane(selection, edits, sight, this::dispose);
         setRootPane(createRootPane()); // one of the look and feel that the program has now
         setContentPane(pane);

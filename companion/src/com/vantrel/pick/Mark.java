@@ -21,6 +21,7 @@ class Mark extends Window implements Ours {
     Mark(Window owner, String name, Color color) {
         super(owner, owner.getGraphicsConfiguration());
         setName(name);
+        setType(Type.POPUP);
         setBackground(color);
         setFocusableWindowState(false);
         setAlwaysOnTop(true);
