@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <set>
 
 #include "scenario.h"
 
@@ -39,6 +40,16 @@ class Picking : public Scenario {
         return lines_of(run({"convert", picture, "-depth", "8", "-format", format, "info:"}).out);
     }
     std::string colour_at(int across, int down) { return colours_at({{across, down}}).at(0); }
+
+    // The colours along the middle of the button that picks: no other place has the same.
+    std::vector<std::string> colours_of_button() {
+        const Place button = where("vantrel.pick");
+        std::vector<std::pair<int, int>> places;
+        for (int across = 4; across < button.width; across += 2) {
+            places.emplace_back(button.x + across, button.y + button.height / 2);
+        }
+        return colours_at(places);
+    }
 
     // A box one pixel wide, exactly on the bounds.
     void expect_box(const Place& place) {
@@ -150,6 +161,37 @@ TEST_P(Picking, NeverDrawsOverTheInspector) {
     EXPECT_TRUE(eventually([&] { return colour_at(form.x + 2, line) == kBox; })) << "beside the inspector";
     EXPECT_THAT(colours_at({{form.x + form.width - 2, line}, {form.x + form.width - 1, form.y + form.height / 2}}),
                 Not(Contains(kBox)));
+}
+
+// A click brings a window to the front, whoever the click was for.
+TEST_P(Picking, InAProgramInFullScreenAndTheInspectorStaysInSight) {
+    start_picking();
+    const std::vector<std::string> button = colours_of_button();
+    EXPECT_GT(std::set(button.begin(), button.end()).size(), 2U);
+    const auto is_in_sight = [&] { return colours_of_button() == button; };
+    ask("fullscreen on");
+    ASSERT_TRUE(eventually([&] { return where("main").width > 1700; }));
+    const auto unseen = [&] {
+        click({100, 1050, 10, 10});
+        return eventually([&] { return ask("focus").find("inspector") == std::string::npos && !is_in_sight(); });
+    };
+    EXPECT_TRUE(unseen()) << "the program lies over it";
+    take_picture("full-screen-1");
+    keys.press({XK_Control_L, XK_F12});
+    EXPECT_TRUE(eventually([&] { return is_in_sight(); })) << "the key brings it to the front";
+    take_picture("full-screen-2");
+    hold();
+    click(where("notes"));
+    EXPECT_TRUE(selects("notes")) << ask("selected");
+    let_go();
+    std::this_thread::sleep_for(milliseconds(1200));
+    EXPECT_TRUE(is_in_sight()) << "after picking";
+    take_picture("full-screen-3");
+    EXPECT_TRUE(unseen());
+    keys.press({XK_Control_L, XK_F12});
+    EXPECT_TRUE(eventually([&] { return is_in_sight(); }));
+    close_inspector();
+    ask("fullscreen off");
 }
 
 TEST_P(Picking, OfCells) {

@@ -84,10 +84,12 @@ public final class VantrelFrame extends JFrame implements Ours {
         }
     }
 
-    /** Shows the window, brings it back if it is minimised, and otherwise hides it. */
+    /** Shows the window, or brings it back where nobody can see it; hides it otherwise. */
     void toggle() {
         if (isVisible() && (getExtendedState() & ICONIFIED) != 0) {
             setExtendedState(getExtendedState() & ~ICONIFIED);
+            toFront();
+        } else if (isVisible() && Cover.liesOver(this)) {
             toFront();
         } else {
             setVisible(!isVisible());

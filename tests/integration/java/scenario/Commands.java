@@ -58,6 +58,7 @@ final class Commands {
         commands.put("combo", words -> transients.combo(words[0])); // open, closed
         commands.put("dialog", words -> transients.dialog(words[0])); // modeless, document, application, toolkit, none
         commands.put("frame", words -> transients.frame(words[0])); // a second frame: its name, which is its title
+        commands.put("fullscreen", words -> transients.fullScreen(words[0])); // on, off
         commands.put("glass", words -> transients.glass(words[0])); // on, off
         commands.put("odd", words -> Odd.add(things, words[0])); // throwing, blocking, null, lying: adds one to "room"
         commands.put(
