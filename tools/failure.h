@@ -4,9 +4,16 @@
 
 #include <string>
 
+namespace command {
+
 // One line for the user, without the command's name: what is wrong and, where that is not plain, what to do about it.
 struct Failure {
     std::string line;
 };
+
+}  // namespace command
+
+// For the commands that have no namespace of their own.
+using command::Failure;
 
 #endif

@@ -43,7 +43,7 @@ TEST_P(Refusal, IsOneLineAndLeavesAllAsItWas) {
 
     Words command{kRewrite};
     command.insert(command.end(), GetParam().arguments.begin(), GetParam().arguments.end());
-    const Finished refused = run(command, {.folder = folder, .environment = {}});
+    const Finished refused = run_in(folder, command);
 
     EXPECT_EQ(refused.status, 2);
     EXPECT_EQ(refused.out, "");

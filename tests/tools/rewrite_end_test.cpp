@@ -103,7 +103,7 @@ TEST_P(FullDisk, LeavesNothing) {
     Words command{"bash", "-c", "ulimit -f 100; exec \"$@\"", "bash"};
     const Words rewriting = rewrite_command({"-o", "out", GetParam()});
     command.insert(command.end(), rewriting.begin(), rewriting.end());
-    const Finished failed = run(command, {.folder = scratch.path, .environment = {}});
+    const Finished failed = run_in(scratch.path, command);
     EXPECT_EQ(failed.status, 2);
     EXPECT_THAT(lines_of(failed.err), SizeIs(1));
     EXPECT_THAT(failed.err, AllOf(StartsWith("vantrel-rewrite: cannot write "), HasSubstr(": File too large")));
@@ -119,7 +119,7 @@ TEST(Progress, IsShownOnATerminalOnly) {
         command += word + " ";
     }
     const auto on_terminal = [&](const std::string& line) {
-        return run({"script", "-qec", line, "/dev/null"}, {.folder = scratch.path, .environment = {}});
+        return run_in(scratch.path, {"script", "-qec", line, "/dev/null"});
     };
     const Finished shown = on_terminal(command + "shown");
     EXPECT_EQ(shown.status, 0);

@@ -56,7 +56,7 @@ TEST(Jar, OfOtherToolsKeepsTheRecordsOfItsEntries) {
     const ScratchFolder scratch;
     write(scratch.path / "files/Program.class", program_class());
     write(scratch.path / "files/text", std::string(1000, 'x'));
-    ASSERT_EQ(run({"zip", "-qr", "../in.jar", "."}, {.folder = scratch.path / "files", .environment = {}}).status, 0);
+    ASSERT_EQ(run_in(scratch.path / "files", {"zip", "-qr", "../in.jar", "."}).status, 0);
     ASSERT_EQ(rewrite({"-o", "out.jar", "in.jar"}, scratch.path).status, 0);
     const auto record = [&](const std::string& jar, const std::string& entry) {
         std::string kept;
@@ -156,8 +156,7 @@ TEST(Jar, ThatWasSignedWorksUnsigned) {
     ASSERT_EQ(jarsigner.status, 0) << jarsigner.out << jarsigner.err;
     ASSERT_THAT(entry_names(scratch.path / "in.jar"), AllOf(Contains("META-INF/ME.SF"), Contains("META-INF/ME.EC")));
 
-    const Finished done =
-        run({kRewrite, "--tracker", "Program", "-o", "out.jar", "in.jar"}, {.folder = scratch.path, .environment = {}});
+    const Finished done = run_in(scratch.path, {kRewrite, "--tracker", "Program", "-o", "out.jar", "in.jar"});
 
     EXPECT_EQ(done.status, 0);
     EXPECT_EQ(done.err, "in.jar: signed; the result is not (2 signature files dropped)\n");

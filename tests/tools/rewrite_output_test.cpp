@@ -160,7 +160,7 @@ TEST(Output, IsTheSameWithAnyNumberOfThreads) {
         EXPECT_EQ(more.out, one.out);
         EXPECT_EQ(more.err, one.err);
         EXPECT_EQ(contents(scratch.path / ("map" + workers)), contents(scratch.path / "map1"));
-        const Finished diff = run({"diff", "-r", "out1", "out" + workers}, {.folder = scratch.path, .environment = {}});
+        const Finished diff = run_in(scratch.path, {"diff", "-r", "out1", "out" + workers});
         EXPECT_EQ(diff.status, 0) << diff.out;
     }
 }

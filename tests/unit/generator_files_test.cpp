@@ -9,10 +9,14 @@
 #include <vector>
 
 #include "CodeGenerater/CodeGenerater.h"
+#include "CodeGenerater/generator.h"
 #include "fake_vm.h"
 #include "own_folder.h"
 
 namespace fs = std::filesystem;
+using generator::kPrivate;
+using generator::kProtected;
+using generator::kStatic;
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;

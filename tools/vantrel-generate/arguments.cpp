@@ -27,7 +27,7 @@ Examples:
 
 }  // namespace
 
-std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
+std::variant<generate::Arguments, std::string> generate::parse_arguments(int argc, char** argv) {
     Arguments arguments;
     CLI::App app(kDescription, "vantrel-generate");
     app.footer(kFooter);

@@ -6,6 +6,8 @@
 #include <variant>
 #include <vector>
 
+namespace generate {
+
 struct Arguments {
     std::string java_home;  // empty: to be found
     std::string class_path;
@@ -17,5 +19,7 @@ struct Arguments {
 
 // The arguments, or the text that --help or --version prints. Throws Failure if they make no sense.
 std::variant<Arguments, std::string> parse_arguments(int argc, char** argv);
+
+}  // namespace generate
 
 #endif

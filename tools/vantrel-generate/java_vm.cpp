@@ -61,7 +61,7 @@ extern "C" JNIEXPORT jint JNICALL Agent_OnLoad_vantrel_generate(JavaVM* vm, char
     return JNI_OK;
 }
 
-RunningVm start_vm(const std::string& java_home, const std::vector<std::string>& options) {
+generate::RunningVm generate::start_vm(const std::string& java_home, const std::vector<std::string>& options) {
     const fs::path home = find_home(java_home);
     const fs::path path = find_library(home);
     void* library = dlopen(path.c_str(), RTLD_NOW | RTLD_GLOBAL);

@@ -11,11 +11,12 @@
 #include <vector>
 
 #include "arguments.h"
+#include "class_output.h"
 #include "failure.h"
-#include "generation.h"
 #include "java_vm.h"
 
 namespace fs = std::filesystem;
+using generate::Arguments;
 
 namespace {
 
@@ -59,7 +60,7 @@ void make_folder(const fs::path& folder) {
 }
 
 int generate_all(const Arguments& arguments) {
-    const RunningVm vm = start_vm(arguments.java_home, vm_options(arguments));
+    const generate::RunningVm vm = generate::start_vm(arguments.java_home, vm_options(arguments));
     if (!arguments.list) {
         make_folder(arguments.out);
     }
@@ -69,7 +70,7 @@ int generate_all(const Arguments& arguments) {
     for (const std::string& name : arguments.classes) {
         show_progress(++number, arguments.classes.size(), name);
         try {
-            generate(vm, name, arguments.out, written);
+            generate::write_or_list(vm, name, arguments.out, written);
         } catch (const Failure& failure) {
             report(failure.line);
             status = kClassFailed;
@@ -81,7 +82,7 @@ int generate_all(const Arguments& arguments) {
 
 int run(int argc, char** argv) {
     try {
-        const auto parsed = parse_arguments(argc, argv);
+        const auto parsed = generate::parse_arguments(argc, argv);
         if (const auto* text = std::get_if<std::string>(&parsed)) {
             fputs(text->c_str(), stdout);
             return kAllWell;

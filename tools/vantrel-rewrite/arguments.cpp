@@ -8,6 +8,8 @@
 #include "command_line.h"
 #include "failure.h"
 
+namespace vantrel_rewrite {
+
 namespace {
 
 constexpr unsigned kMostWorkers = 256;
@@ -45,16 +47,17 @@ std::string class_name(std::string name) {
     const bool empty_part =
         name.empty() || name.front() == '/' || name.back() == '/' || name.find("//") != std::string::npos;
     if (empty_part || name.find_first_of(";[") != std::string::npos) {
-        throw Failure{"--tracker: '" + given + "' is not a class name; write it like com.x.Tracker or com/x/Tracker"};
+        throw command::Failure{"--tracker: '" + given +
+                               "' is not a class name; write it like com.x.Tracker or com/x/Tracker"};
     }
     return name;
 }
 
 void check_method_name(const char* option, const std::optional<std::string>& name) {
     if (name && (name->empty() || name->find_first_of(".;[/<>()") != std::string::npos)) {
-        throw Failure{std::string(option) + ": '" + *name +
-                      "' is not a method's name; write the name only, without "
-                      "class and parameters"};
+        throw command::Failure{std::string(option) + ": '" + *name +
+                               "' is not a method's name; write the name only, without "
+                               "class and parameters"};
     }
 }
 
@@ -62,7 +65,7 @@ void check_method_name(const char* option, const std::optional<std::string>& nam
 
 std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
     Arguments arguments;
-    Tracker& tracker = arguments.tracker;
+    TrackerCalls& tracker = arguments.tracker;
     CLI::App app(kDescription, "vantrel-rewrite");
     app.footer(kFooter);
     app.set_help_flag("-h,--help", "Print this text and exit");
@@ -86,7 +89,7 @@ std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
         ->type_name("N");
     app.add_option("-o,--output", arguments.output, "What to write")->required()->type_name("OUT");
     app.add_option("IN", arguments.inputs, "What to rewrite")->required()->type_name("");
-    if (auto text = parse_command_line(app, argc, argv)) {
+    if (auto text = command::parse_command_line(app, argc, argv)) {
         return *std::move(text);
     }
     tracker.class_name = class_name(tracker.class_name);
@@ -97,3 +100,5 @@ std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
     check_method_name("--new-array", tracker.new_array);
     return arguments;
 }
+
+}  // namespace vantrel_rewrite

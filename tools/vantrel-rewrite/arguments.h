@@ -8,8 +8,11 @@
 #include <variant>
 #include <vector>
 
-// What is injected: the tracker class, and its methods' names where one is wanted.
-struct Tracker {
+namespace vantrel_rewrite {
+
+// Which calls are injected: of which class, and of which of its methods. A call whose method has no name is not
+// wanted.
+struct TrackerCalls {
     std::string class_name;  // in internal form
     std::string signature;   // the same as a descriptor
     std::optional<std::string> call;
@@ -20,7 +23,7 @@ struct Tracker {
 };
 
 struct Arguments {
-    Tracker tracker;
+    TrackerCalls tracker;
     std::vector<std::filesystem::path> inputs;
     std::filesystem::path output;
     std::filesystem::path map;  // empty where none is wanted
@@ -30,5 +33,7 @@ struct Arguments {
 
 // What the command line asks for, or a text for stdout where it asks for that (--help, --version). Throws a Failure.
 std::variant<Arguments, std::string> parse_arguments(int argc, char** argv);
+
+}  // namespace vantrel_rewrite
 
 #endif

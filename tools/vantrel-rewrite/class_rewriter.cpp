@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+namespace vantrel_rewrite {
+
 namespace {
 
 constexpr int kNewestVersion = 52;
@@ -48,7 +50,7 @@ void append_escaped(std::string& text, std::string_view name) {
     }
 }
 
-void note_methods(unsigned class_number, const char** names, const char** descriptors, int count) {
+void add_map_lines(unsigned class_number, const char** names, const char** descriptors, int count) {
     std::string& lines = current_map->lines;
     for (int method = 0; method < count; ++method) {
         lines += std::to_string(class_number) + '\t' + std::to_string(method);
@@ -81,7 +83,7 @@ RewrittenClass not_rewritten(Outcome outcome, std::string reason) {
 
 }  // namespace
 
-RewrittenClass rewrite_class(const Tracker& tracker, unsigned number, BytesView image) {
+RewrittenClass rewrite_class(const TrackerCalls& tracker, unsigned number, BytesView image) {
     if (image.empty()) {
         return not_rewritten(Outcome::Failed, "the file is empty");
     }
@@ -104,7 +106,7 @@ RewrittenClass rewrite_class(const Tracker& tracker, unsigned number, BytesView 
         java_crw_demo(number, name.get(), image.data(), length, tracker.system_class ? 1 : 0,
                       tracker.class_name.c_str(), tracker.signature.c_str(), or_null(tracker.call), kCallSignature,
                       or_null(tracker.return_), kCallSignature, or_null(tracker.object_init), kObjectSignature,
-                      or_null(tracker.new_array), kObjectSignature, &new_image, &new_length, fail, note_methods);
+                      or_null(tracker.new_array), kObjectSignature, &new_image, &new_length, fail, add_map_lines);
         RewrittenClass result;
         result.image.reset(new_image);
         result.size = static_cast<size_t>(new_length);
@@ -112,9 +114,11 @@ RewrittenClass rewrite_class(const Tracker& tracker, unsigned number, BytesView 
             return not_rewritten(Outcome::Failed, "the rewriter made nothing of it");
         }
         result.outcome = Outcome::Rewritten;
-        result.map = std::move(map.lines);
+        result.map_lines = std::move(map.lines);
         return result;
     } catch (const RewriteFailed& failure) {
         return not_rewritten(Outcome::Failed, failure.message);
     }
 }
+
+}  // namespace vantrel_rewrite

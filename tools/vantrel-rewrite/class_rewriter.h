@@ -7,7 +7,9 @@
 #include <string>
 
 #include "arguments.h"
-#include "file.h"
+#include "file_io.h"
+
+namespace vantrel_rewrite {
 
 enum class Outcome { Rewritten, TooNew, Failed };
 
@@ -17,8 +19,8 @@ struct FreeImage {
 
 struct RewrittenClass {
     Outcome outcome = Outcome::Failed;
-    std::string reason;  // why it was not rewritten
-    std::string map;     // the map's lines for its methods; empty where it was not rewritten
+    std::string reason;     // why it was not rewritten
+    std::string map_lines;  // of its methods; empty where it was not rewritten
     std::unique_ptr<unsigned char, FreeImage> image;
     size_t size = 0;
 
@@ -26,6 +28,8 @@ struct RewrittenClass {
 };
 
 // Any number of threads may rewrite at the same time.
-RewrittenClass rewrite_class(const Tracker& tracker, unsigned number, BytesView image);
+RewrittenClass rewrite_class(const TrackerCalls& tracker, unsigned number, BytesView image);
+
+}  // namespace vantrel_rewrite
 
 #endif

@@ -4,20 +4,22 @@
 #include <csignal>
 #include <cstdlib>
 
+namespace vantrel_rewrite::interrupt {
+
 namespace {
 
 std::atomic<int> received{0};
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler writes it");
 
-void note(int number) {
+void remember(int number) {
     received = number;
 }
 
 }  // namespace
 
-void interrupt::watch() {
+void watch() {
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-        if (std::signal(number, note) == SIG_IGN) {
+        if (std::signal(number, remember) == SIG_IGN) {
             std::signal(number, SIG_IGN);  // a job in the background, or below nohup
         }
     }
@@ -25,18 +27,20 @@ void interrupt::watch() {
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
-bool interrupt::requested() {
+bool requested() {
     return received != 0;
 }
 
-void interrupt::check() {
+void check() {
     if (requested()) {
         throw Interrupted{};
     }
 }
 
-void interrupt::end_by_signal() {
+void end_by_signal() {
     std::signal(received, SIG_DFL);
     std::raise(received);
     std::abort();  // not reached
 }
+
+}  // namespace vantrel_rewrite::interrupt

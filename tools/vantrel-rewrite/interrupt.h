@@ -2,7 +2,7 @@
 #ifndef VANTREL_REWRITE_INTERRUPT_H
 #define VANTREL_REWRITE_INTERRUPT_H
 
-namespace interrupt {
+namespace vantrel_rewrite::interrupt {
 
 // Thrown where the mark is seen.
 struct Interrupted {};
@@ -19,6 +19,6 @@ void check();
 // Ends the process by the signal that left the mark, as its parent expects.
 [[noreturn]] void end_by_signal();
 
-}  // namespace interrupt
+}  // namespace vantrel_rewrite::interrupt
 
 #endif

@@ -5,8 +5,9 @@
 #include "arguments.h"
 #include "failure.h"
 #include "interrupt.h"
-#include "jar_file.h"
 #include "run.h"
+
+namespace vantrel_rewrite {
 
 namespace {
 
@@ -23,16 +24,15 @@ int print_summary(const Summary& summary, bool verbose) {
     return summary.failed > 0 ? kSomeFailed : kAllRewritten;
 }
 
-int run(int argc, char** argv) {
+int run_command(int argc, char** argv) {
     const auto parsed = parse_arguments(argc, argv);
     if (const auto* text = std::get_if<std::string>(&parsed)) {
         std::cout << *text << std::flush;
         return kAllRewritten;
     }
     interrupt::watch();
-    use_exact_zip_times();
     const auto& arguments = std::get<Arguments>(parsed);
-    return print_summary(rewrite(arguments), arguments.verbose);
+    return print_summary(run(arguments), arguments.verbose);
 }
 
 int report(const std::string& line) {
@@ -42,16 +42,18 @@ int report(const std::string& line) {
 
 }  // namespace
 
+}  // namespace vantrel_rewrite
+
 int main(int argc, char** argv) {
     try {
-        return run(argc, argv);
-    } catch (const Failure& failure) {
-        return report(failure.line);
-    } catch (const interrupt::Interrupted&) {
-        interrupt::end_by_signal();
+        return vantrel_rewrite::run_command(argc, argv);
+    } catch (const command::Failure& failure) {
+        return vantrel_rewrite::report(failure.line);
+    } catch (const vantrel_rewrite::interrupt::Interrupted&) {
+        vantrel_rewrite::interrupt::end_by_signal();
     } catch (const std::bad_alloc&) {
-        return report("there is not enough memory for this; fewer threads (-j 1) need less");
+        return vantrel_rewrite::report("there is not enough memory for this; fewer threads (-j 1) need less");
     } catch (const std::exception& failure) {
-        return report(failure.what());
+        return vantrel_rewrite::report(failure.what());
     }
 }

@@ -7,16 +7,11 @@
 #include <vector>
 
 #include "arguments.h"
-#include "jar.h"
+#include "input_kind.h"
+#include "rewritten_jar.h"
 #include "staging.h"
 
-enum class Kind {
-    ClassFile,
-    Jar,
-    Folder,
-    Link,  // in a folder; carried over as a link
-    Other
-};
+namespace vantrel_rewrite {
 
 // One file or folder that is made.
 struct Piece {
@@ -36,5 +31,7 @@ struct Plan {
 // Looks at the inputs and at what is there under the results' names, stages the results, and numbers the classes. A
 // Failure is thrown for what cannot be done; nothing has been written then.
 Plan make_plan(const Arguments& arguments, Staging& staging);
+
+}  // namespace vantrel_rewrite
 
 #endif

@@ -9,6 +9,8 @@
 
 namespace fs = std::filesystem;
 
+namespace vantrel_rewrite {
+
 Staging::~Staging() {
     for (const Result& result : results_) {
         std::error_code left_behind;  // nothing more can be done about it
@@ -36,8 +38,10 @@ void Staging::put_in_place() {
         }
         fs::rename(result.temporary, result.target, error);
         if (error) {
-            throw Failure{"cannot write " + result.target.string() + ": " + error.message()};
+            throw command::Failure{"cannot write " + result.target.string() + ": " + error.message()};
         }
     }
     results_.clear();
 }
+
+}  // namespace vantrel_rewrite

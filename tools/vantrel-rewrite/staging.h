@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <vector>
 
+namespace vantrel_rewrite {
+
 // Gives each result (a file or a folder) a temporary name beside the place that it is for, so that putting it there is
 // one renaming. Whatever has not been put in place is removed at the end.
 class Staging {
@@ -28,5 +30,7 @@ class Staging {
     };
     std::vector<Result> results_;
 };
+
+}  // namespace vantrel_rewrite
 
 #endif

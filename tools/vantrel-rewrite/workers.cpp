@@ -7,6 +7,8 @@
 
 #include "interrupt.h"
 
+namespace vantrel_rewrite {
+
 void for_each_index(unsigned workers, size_t count, const std::function<void(unsigned, size_t)>& work) {
     std::atomic<size_t> next{0};
     std::vector<std::exception_ptr> thrown(workers);
@@ -34,3 +36,5 @@ void for_each_index(unsigned workers, size_t count, const std::function<void(uns
         }
     }
 }
+
+}  // namespace vantrel_rewrite

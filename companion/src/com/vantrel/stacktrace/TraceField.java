@@ -47,7 +47,8 @@ final class TraceField {
     /** The accessors only read and write a field. */
     private static RuntimeException unexpected(Throwable e) {
         if (e instanceof Error) {
-            throw(Error) e;
+            Error error = (Error) e;
+            throw error;
         }
         return new IllegalStateException(e);
     }

@@ -64,7 +64,7 @@ final class ClassFileEditor {
         poolCount = u2(POOL_COUNT_AT);
         constantAt = new int[poolCount];
         poolEnd = indexConstants(POOL_COUNT_AT + 2);
-        int interfaceCountAt = poolEnd + 6; // behind access_flags, this_class and super_class
+        int interfaceCountAt = poolEnd + 6; // after access_flags, this_class and super_class
         fieldsAt = interfaceCountAt + 2 + 2 * u2(interfaceCountAt);
         fieldCount = u2(fieldsAt);
         fieldsEnd = membersEnd(fieldsAt, fieldCount);
@@ -136,7 +136,7 @@ final class ClassFileEditor {
         for (int i = u2(fieldsEnd); i > 0; i--) {
             int code = codeAttribute(at);
             if (code != 0 && isUtf8(u2(at + 2), method) && isUtf8(u2(at + 4), descriptor)) {
-                byte[] edited = MovedCode.behind(this, code, head, maxStack, jumps);
+                byte[] edited = MovedCode.withHead(this, code, head, maxStack, jumps);
                 splices.put(code, new Splice(attributeEnd(code) - code, edited));
                 return true;
             }
@@ -192,7 +192,7 @@ final class ClassFileEditor {
         return out.copy(image, at, image.limit()).toByteArray();
     }
 
-    /** A new value for a count, behind other bytes. */
+    /** A new value for a count, after other bytes. */
     private static Splice count(ByteSink bytes, int count, String what) {
         if (count > MAX_U2) {
             throw new IllegalArgumentException("The class has no room for more " + what);
@@ -274,7 +274,7 @@ final class ClassFileEditor {
                 && isUtf8(u2(nameAndType + 3), descriptor);
     }
 
-    /** The position behind the field or method (4.5, 4.6) that begins at a position. */
+    /** The position after the field or method (4.5, 4.6) that begins at a position. */
     private int memberEnd(int at) {
         int end = at + 8;
         for (int i = u2(at + 6); i > 0; i--) {

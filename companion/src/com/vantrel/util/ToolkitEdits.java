@@ -96,33 +96,18 @@ final class ToolkitEdits {
         int trace = container.fieldRef(COMPONENT, TRACE, "Ljava/lang/Object;");
         int branch = 15;
         int end = 25;
-        // clang-format off: an instruction, or a few that belong together, to a line
+        // An instruction, or a few that belong together, to a line.
+        // clang-format off
         byte[] code = new ByteSink()
-                              // Hooks.moving(component, component.parent, parent);
-                              // clang-format on
-                              .u1(ALOAD_0)
-                              .u1(ALOAD_0)
-                              .u1(GETFIELD)
-                              .u2(field)
-                              .u1(ALOAD_1)
-                              .u1(INVOKESTATIC)
-                              .u2(moving)
-                              // component.parent = parent;
-                              .u1(ALOAD_0)
-                              .u1(ALOAD_1)
-                              .u1(PUTFIELD)
-                              .u2(field)
-                              // if (parent != null) component.vantrel$trace = StackTraceManager.take();
-                              .u1(ALOAD_1)
-                              .u1(IFNULL)
-                              .u2(end - branch)
-                              .u1(ALOAD_0)
-                              .u1(INVOKESTATIC)
-                              .u2(take)
-                              .u1(PUTFIELD)
-                              .u2(trace)
-                              .u1(RETURN)
-                              .toByteArray();
+                // Hooks.moving(component, component.parent, parent);
+                .u1(ALOAD_0).u1(ALOAD_0).u1(GETFIELD).u2(field).u1(ALOAD_1).u1(INVOKESTATIC).u2(moving)
+                // component.parent = parent;
+                .u1(ALOAD_0).u1(ALOAD_1).u1(PUTFIELD).u2(field)
+                // if (parent != null) component.vantrel$trace = StackTraceManager.take();
+                .u1(ALOAD_1).u1(IFNULL).u2(end - branch)
+                .u1(ALOAD_0).u1(INVOKESTATIC).u2(take).u1(PUTFIELD).u2(trace)
+                .u1(RETURN).toByteArray();
+        // clang-format on
         container.replaceWrites(COMPONENT, "parent", PARENT_TYPE, container.methodRef(CONTAINER, name, descriptor));
         container.addMethod(ACC_PRIVATE | ACC_STATIC | ACC_SYNTHETIC, name, descriptor, 3, 2, code, end);
         tellOfChanges(container, "setComponentZOrder", "(Ljava/awt/Component;I)V", Hooks.ORDER);
@@ -146,19 +131,10 @@ final class ToolkitEdits {
     /** {@code if (Hooks.event(this, event)) return;} before all that happens to an event. */
     private static void filterEvents(ClassFileEditor component) {
         int event = component.methodRef(HOOKS, "event", "(Ljava/awt/Component;Ljava/awt/AWTEvent;)Z");
-        // clang-format off: an instruction, or a few that belong together, to a line
-        byte[] head = new ByteSink()
-                              .u1(ALOAD_0)
-                              .u1(ALOAD_1)
-                              .u1(INVOKESTATIC)
-                              .u2(event)
-                              .u1(NOP)
-                              .u1(NOP)
-                              .u1(NOP)
-                              .u1(IFEQ)
-                              .u2(4)
-                              .u1(RETURN)
-                              .toByteArray();
+        // An instruction, or a few that belong together, to a line.
+        // clang-format off
+        byte[] head = new ByteSink().u1(ALOAD_0).u1(ALOAD_1).u1(INVOKESTATIC).u2(event)
+                .u1(NOP).u1(NOP).u1(NOP).u1(IFEQ).u2(4).u1(RETURN).toByteArray();
         // clang-format on
         if (!component.insertAtHead("dispatchEvent", "(Ljava/awt/AWTEvent;)V", head, 2, true)) {
             throw new IllegalArgumentException("Component has no dispatchEvent");
@@ -189,22 +165,13 @@ final class ToolkitEdits {
         int getModule = component.methodRef("java/lang/Class", "getModule", "()Ljava/lang/Module;");
         int addOpens = component.methodRef(
                 "java/lang/Module", "addOpens", "(Ljava/lang/String;Ljava/lang/Module;)Ljava/lang/Module;");
-        // clang-format off: an instruction, or a few that belong together, to a line
+        // An instruction, or a few that belong together, to a line.
+        // clang-format off
         byte[] code = new ByteSink()
-                              .u1(LDC_W)
-                              .u2(component.classRef(COMPONENT))
-                              .u1(INVOKEVIRTUAL)
-                              .u2(getModule)
-                              .u1(ALOAD_0)
-                              .u1(LDC_W)
-                              .u2(component.classRef(HOOKS))
-                              .u1(INVOKEVIRTUAL)
-                              .u2(getModule)
-                              .u1(INVOKEVIRTUAL)
-                              .u2(addOpens)
-                              .u1(POP)
-                              .u1(RETURN)
-                              .toByteArray();
+                .u1(LDC_W).u2(component.classRef(COMPONENT)).u1(INVOKEVIRTUAL).u2(getModule)
+                .u1(ALOAD_0)
+                .u1(LDC_W).u2(component.classRef(HOOKS)).u1(INVOKEVIRTUAL).u2(getModule)
+                .u1(INVOKEVIRTUAL).u2(addOpens).u1(POP).u1(RETURN).toByteArray();
         // clang-format on
         int flags = ACC_PUBLIC | ACC_STATIC | ACC_SYNTHETIC;
         component.addMethod(flags, "vantrel$open", "(Ljava/lang/String;)V", 3, 1, code, NO_FRAME);

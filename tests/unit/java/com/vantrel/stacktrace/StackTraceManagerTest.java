@@ -71,119 +71,116 @@ public class StackTraceManagerTest {
 
     @Test
     public void everyWayOfGettingAParentIsSeen() throws Exception {
-        // clang-format off: it tears lambdas in tables apart
-        Object[][] cases = {{"addImpl", (Way) (container, component) -> container.add(component)},
-                {"addImpl", (Way) (container, component) -> container.add("name", component)},
-                {"addImpl", (Way) (container, component) -> {container.add(component, "constraint", 0);
-        return component;
+        assertSeen("addImpl", (container, component) -> container.add(component));
+        assertSeen("addImpl", (container, component) -> container.add("name", component));
+        assertSeen("addImpl", (container, component) -> {
+            container.add(component, "constraint", 0);
+            return component;
+        });
+        assertSeen("addDelicately", (container, component) -> {
+            container.setComponentZOrder(component, 0);
+            return component;
+        });
+        assertSeen("addDelicately", (container, component) -> {
+            new Container().add(component);
+            container.setComponentZOrder(component, 0);
+            return component;
+        });
+        assertSeen("readObject", (container, component) -> {
+            container.add(component);
+            return ((Container) copy(container)).getComponent(0);
+        });
     }
-}
-, {"addDelicately", (Way) (container, component) -> {container.setComponentZOrder(component, 0);
-return component;
-}
-}
-, {"addDelicately", (Way) (container, component) -> {new Container().add(component);
-container.setComponentZOrder(component, 0);
-return component;
-}
-}
-, {"readObject", (Way) (container, component) -> {container.add(component);
-return ((Container) copy(container)).getComponent(0);
-}
-}
-,
-}
-;
-// clang-format on
-for (int i = 0; i < cases.length; i++) {
-    Component added = ((Way) cases[i][1]).add(new Container(), new Plain());
-    StackTraceElement[] expected = new Throwable().getStackTrace();
-    StackTraceElement[] trace = StackTraceManager.getStackTrace(added);
-    assertTrue("case " + i, trace.length > expected.length);
-    assertEquals("java.awt.Container." + cases[i][0], trace[0].getClassName() + "." + trace[0].getMethodName());
-    assertTrue(trace[0].toString(), trace[0].getLineNumber() > 0);
-    StackTraceElement here = trace[trace.length - expected.length];
-    assertEquals(expected[0].getMethodName(), here.getMethodName());
-    assertEquals(expected[0].getLineNumber() - 1, here.getLineNumber());
-    assertEquals(expected[expected.length - 1], trace[trace.length - 1]);
 
-    StackTraceElement[] again = StackTraceManager.getStackTrace(added);
-    assertArrayEquals(trace, again);
-    assertNotSame("callers get copies", trace, again);
-}
-}
+    /** @param method the container's, in which the component gets its parent */
+    private static void assertSeen(String method, Way way) throws Exception {
+        Component added = way.add(new Container(), new Plain());
+        StackTraceElement[] expected = new Throwable().getStackTrace();
+        StackTraceElement[] trace = StackTraceManager.getStackTrace(added);
+        assertTrue(method, trace.length > expected.length);
+        assertEquals("java.awt.Container." + method, trace[0].getClassName() + "." + trace[0].getMethodName());
+        assertTrue(trace[0].toString(), trace[0].getLineNumber() > 0);
+        StackTraceElement here = trace[trace.length - expected.length];
+        assertEquals(expected[0].getMethodName(), here.getMethodName());
+        assertEquals(expected[0].getLineNumber() - 1, here.getLineNumber());
+        assertEquals(expected[expected.length - 1], trace[trace.length - 1]);
 
-@Test
-public void whatGivesNoParentChangesNoTrace() {
-    Container parent = new JPanel();
-    Container child = new JPanel();
-    parent.add(child);
-    StackTraceElement[] trace = StackTraceManager.getStackTrace(child);
-    assertEquals("addImpl", trace[0].getMethodName());
-    assertThrows(IllegalArgumentException.class, () -> child.add(child));
-    assertThrows(IllegalArgumentException.class, () -> child.add(parent));
-    assertThrows(IllegalArgumentException.class, () -> parent.add(child, 7));
-    assertThrows(NullPointerException.class, () -> parent.add((Component) null));
-    parent.add(new Plain());
-    parent.setComponentZOrder(child, 1);
-    assertArrayEquals(trace, StackTraceManager.getStackTrace(child));
-    assertEquals(0, StackTraceManager.getStackTrace(parent).length);
-    parent.remove(child);
-    assertArrayEquals("where it was last added", trace, StackTraceManager.getStackTrace(child));
-    parent.add(child);
-    parent.removeAll();
-    assertEquals(null, child.getParent());
-}
-
-@Test(timeout = 20_000)
-public void aTraceGoesWithItsComponent() throws Exception {
-    List<WeakReference<Object>> gone = new ArrayList<>();
-    for (int i = 0; i < 100; i++) {
-        Component component = new Plain();
-        new Container().add(component);
-        if (i % 2 == 0) {
-            StackTraceManager.getStackTrace(component);
-        }
-        gone.add(new WeakReference<>(component));
-        gone.add(new WeakReference<>(TraceField.get(component)));
-        assertNotNull(gone.get(gone.size() - 1).get());
+        StackTraceElement[] again = StackTraceManager.getStackTrace(added);
+        assertArrayEquals(trace, again);
+        assertNotSame("callers get copies", trace, again);
     }
-    for (WeakReference<Object> reference : gone) {
-        while (reference.get() != null) {
-            System.gc();
-            Thread.sleep(10);
-        }
-    }
-}
 
-/** Each thread moves components of all threads, and asks for the traces of those that another one is moving. */
-@Test(timeout = 60_000)
-public void anyThreadMayAddAndAsk() throws Exception {
-    List<Component> shared = new ArrayList<>();
-    for (int i = 0; i < 50; i++) {
-        shared.add(new Plain());
+    @Test
+    public void whatGivesNoParentChangesNoTrace() {
+        Container parent = new JPanel();
+        Container child = new JPanel();
+        parent.add(child);
+        StackTraceElement[] trace = StackTraceManager.getStackTrace(child);
+        assertEquals("addImpl", trace[0].getMethodName());
+        assertThrows(IllegalArgumentException.class, () -> child.add(child));
+        assertThrows(IllegalArgumentException.class, () -> child.add(parent));
+        assertThrows(IllegalArgumentException.class, () -> parent.add(child, 7));
+        assertThrows(NullPointerException.class, () -> parent.add((Component) null));
+        parent.add(new Plain());
+        parent.setComponentZOrder(child, 1);
+        assertArrayEquals(trace, StackTraceManager.getStackTrace(child));
+        assertEquals(0, StackTraceManager.getStackTrace(parent).length);
+        parent.remove(child);
+        assertArrayEquals("where it was last added", trace, StackTraceManager.getStackTrace(child));
+        parent.add(child);
+        parent.removeAll();
+        assertEquals(null, child.getParent());
     }
-    Callable<Void> work = () -> {
-        Container container = new Container();
-        for (int round = 0; round < 1_000; round++) {
-            for (Component component : shared) {
-                container.add(component);
+
+    @Test(timeout = 20_000)
+    public void aTraceGoesWithItsComponent() throws Exception {
+        List<WeakReference<Object>> gone = new ArrayList<>();
+        for (int i = 0; i < 100; i++) {
+            Component component = new Plain();
+            new Container().add(component);
+            if (i % 2 == 0) {
+                StackTraceManager.getStackTrace(component);
             }
-            for (Component component : shared) {
-                StackTraceElement[] trace = StackTraceManager.getStackTrace(component);
-                assertEquals("addImpl", trace[0].getMethodName());
-                assertEquals("run", trace[trace.length - 1].getMethodName());
+            gone.add(new WeakReference<>(component));
+            gone.add(new WeakReference<>(TraceField.get(component)));
+            assertNotNull(gone.get(gone.size() - 1).get());
+        }
+        for (WeakReference<Object> reference : gone) {
+            while (reference.get() != null) {
+                System.gc();
+                Thread.sleep(10);
             }
         }
-        return null;
-    };
-    ExecutorService pool = Executors.newFixedThreadPool(4);
-    try {
-        for (Future<Void> result : pool.invokeAll(Collections.nCopies(4, work))) {
-            result.get();
-        }
-    } finally {
-        pool.shutdownNow();
     }
-}
+
+    /** Each thread moves components of all threads, and asks for the traces of those that another one is moving. */
+    @Test(timeout = 60_000)
+    public void anyThreadMayAddAndAsk() throws Exception {
+        List<Component> shared = new ArrayList<>();
+        for (int i = 0; i < 50; i++) {
+            shared.add(new Plain());
+        }
+        Callable<Void> work = () -> {
+            Container container = new Container();
+            for (int round = 0; round < 1_000; round++) {
+                for (Component component : shared) {
+                    container.add(component);
+                }
+                for (Component component : shared) {
+                    StackTraceElement[] trace = StackTraceManager.getStackTrace(component);
+                    assertEquals("addImpl", trace[0].getMethodName());
+                    assertEquals("run", trace[trace.length - 1].getMethodName());
+                }
+            }
+            return null;
+        };
+        ExecutorService pool = Executors.newFixedThreadPool(4);
+        try {
+            for (Future<Void> result : pool.invokeAll(Collections.nCopies(4, work))) {
+                result.get();
+            }
+        } finally {
+            pool.shutdownNow();
+        }
+    }
 }

@@ -1,4 +1,4 @@
-#include "file.h"
+#include "file_io.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -12,13 +12,16 @@
 
 namespace fs = std::filesystem;
 
+namespace vantrel_rewrite {
+
 namespace {
 
 constexpr size_t kBlock = size_t{1} << 16;
 
 [[noreturn]] void fail(const char* what, const fs::path& path) {
     const int error = errno;
-    throw Failure{std::string("cannot ") + what + " " + path.string() + ": " + std::generic_category().message(error)};
+    throw command::Failure{std::string("cannot ") + what + " " + path.string() + ": " +
+                           std::generic_category().message(error)};
 }
 
 struct stat state_of(int descriptor, const fs::path& path) {
@@ -126,3 +129,5 @@ void copy_whole_file(const fs::path& from, const fs::path& to) {
     }
     output.close();
 }
+
+}  // namespace vantrel_rewrite

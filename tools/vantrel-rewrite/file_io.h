@@ -1,6 +1,6 @@
 // Whole files, read and written with every error noticed. All throw a Failure that names the file.
-#ifndef VANTREL_REWRITE_FILE_H
-#define VANTREL_REWRITE_FILE_H
+#ifndef VANTREL_REWRITE_FILE_IO_H
+#define VANTREL_REWRITE_FILE_IO_H
 
 #include <sys/types.h>
 
@@ -10,6 +10,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace vantrel_rewrite {
 
 using Bytes = std::vector<unsigned char>;
 using BytesView = std::span<const unsigned char>;
@@ -56,5 +58,7 @@ class OutputFile {
 
 Bytes read_file(const std::filesystem::path& path);
 void copy_whole_file(const std::filesystem::path& from, const std::filesystem::path& to);
+
+}  // namespace vantrel_rewrite
 
 #endif
