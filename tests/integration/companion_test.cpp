@@ -33,7 +33,7 @@ constexpr UnitTests kProgramsUnitTests[] = {
     {"AgentTest", 1},
     {"model.EditsTest", 4},
     {"model.FormatsTest", 2},
-    {"model.KeysTest", 3},
+    {"model.KeysTest", 4},
     {"model.ReadingTest", 4},
 };
 // clang-format on

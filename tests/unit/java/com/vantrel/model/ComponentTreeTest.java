@@ -186,6 +186,11 @@ public class ComponentTreeTest {
         assertEquals("JPanel \"window\" > JPanel \"form\" > JLabel[1]", Description.pathText(second));
         assertEquals("JPanel \"window\" > JPanel \"form\" > JScrollPane \"scroll\" > JTextArea \"notes\"",
                 Description.pathText(scroll.getViewport().getView()));
+        JButton icon = named("icon", new JButton());
+        icon.setToolTipText("Saves it");
+        form.add(icon);
+        tree.refresh();
+        assertEquals("JButton icon \"Saves it\" (in no window)", node(icon).toString());
         assertTrue(Description.of(second), Description.of(second).contains("text     second"));
     }
 }

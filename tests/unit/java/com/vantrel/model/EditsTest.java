@@ -64,9 +64,12 @@ public class EditsTest {
         assertFalse(edits.canUndo());
         edits.redo();
         assertEquals(Color.RED, plain.getBackground());
+        set(plain, "preferredSize", "10 x 20");
+        edits.undo();
+        assertFalse("computed again", plain.isPreferredSizeSet());
         set(plain, "enabled", "false");
         assertFalse("what was undone is forgotten", edits.canRedo());
-        assertEquals("all went well", java.util.Collections.nCopies(3, null), told);
+        assertEquals("all went well", java.util.Collections.nCopies(4, null), told);
     }
 
     @Test
@@ -78,7 +81,7 @@ public class EditsTest {
             @Override
             public void setText(String text) {
                 super.setText(text);
-                if ("bad".equals(text) || locked != null && locked[0]) {
+                if ("bad".equals(text) || locked[0]) {
                     throw new IllegalArgumentException("no such text");
                 }
             }

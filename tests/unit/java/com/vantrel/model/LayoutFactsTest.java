@@ -138,6 +138,11 @@ public class LayoutFactsTest {
                 "manager: BoxLayout", "axis: vertical", "0  JButton \"one\": 0, 0, 80 × 30 (this one)",
                 "1  Filler: 0, 30, 300 × 7 (alignmentX 0.5)", "2  JButton \"two\": 0, 37, 80 × 30 (alignmentX 0.0)");
 
+        JPanel line = panel(null);
+        line.setLayout(new BoxLayout(line, BoxLayout.LINE_AXIS));
+        assertTrue(told(line, one), told(line, one).contains("axis: horizontal\n0  JButton \"one\": 0, 35, 80 × 30"));
+        assertEquals(one.getBaseline(80, 30), Boxes.of(reading(one)).baseline());
+
         SpringLayout springs = new SpringLayout();
         JPanel sprung = panel(springs);
         springs.putConstraint(SpringLayout.WEST, one, 5, SpringLayout.WEST, sprung);
