@@ -16,6 +16,7 @@ using testing::Not;
 namespace {
 
 const std::string kBox = "FC7E00";
+const std::string kLabel = "26282B";
 
 class Picking : public Scenario {
   protected:
@@ -122,6 +123,10 @@ TEST_P(Picking, DrawsABoxAndWalksByWheelAndArrows) {
     keys.press({XK_Up});
     keys.press({XK_Return});
     EXPECT_TRUE(selects("form")) << ask("selected");
+    const Place file = where("file");
+    point_at(file);
+    EXPECT_TRUE(eventually([&] { return colour_at(file.x + 2, file.y + file.height + 2) == kLabel; }))
+        << "below the box where there is no room above it";
     let_go();
     EXPECT_TRUE(eventually([&] { return colour_at(ok.x, ok.y) != kBox; }));
     EXPECT_EQ(ask("log"), "");
@@ -208,8 +213,15 @@ TEST_P(Picking, OfCells) {
     for (const auto& [owner, at] : {std::pair{"table", "table 1 1"}, {"tree", "tree 0"}, {"list", "list 2"}}) {
         SCOPED_TRACE(at);
         const Place place = cell(at);
+        // Only the cell is tinted, and not what lies below it.
+        const std::vector<std::pair<int, int>> inside = {{place.x + place.width - 3, place.y + 3}};
+        const std::vector<std::pair<int, int>> outside = {{place.x + place.width - 3, place.y + place.height + 3}};
+        const std::vector<std::string> plain = colours_at(inside);
+        const std::vector<std::string> beside = colours_at(outside);
         point_at(place);
         expect_box(place);
+        EXPECT_TRUE(eventually([&] { return colours_at(inside) != plain; })) << "the tint";
+        EXPECT_EQ(colours_at(outside), beside);
         take_picture("picking-" + std::string(owner));
         keys.click();
         EXPECT_TRUE(selects(owner)) << ask("selected");

@@ -96,9 +96,10 @@ public class EditsTest {
         locked[0] = true;
         edits.undo();
         assertTrue("" + complaints, complaints.get(0).contains("cannot be set back: The component refuses it: "));
+        assertEquals("the undo that failed can be tried again", "text of JLabel", edits.whatToUndo().replace("$1", ""));
         locked[0] = false;
         edits.undo();
-        assertEquals("the undo that failed can be tried again", "before", label.getText());
+        assertEquals("before", label.getText());
 
         JPanel panel = new JPanel(new BorderLayout());
         JButton north = new JButton("north");
