@@ -96,7 +96,7 @@ public class EditsTest {
         locked[0] = true;
         edits.undo();
         assertTrue("" + complaints, complaints.get(0).contains("cannot be set back: The component refuses it: "));
-        assertEquals("the undo that failed can be tried again", "text of JLabel", edits.whatToUndo().replace("$1", ""));
+        assertTrue("the undo that failed can be tried again", edits.whatToUndo().startsWith("text of "));
         locked[0] = false;
         edits.undo();
         assertEquals("before", label.getText());
