@@ -156,6 +156,29 @@ TEST_P(InspectorDetails, FollowTheProgramAndLeaveTheUserInPeace) {
     EXPECT_THAT(shown(), HasSubstr("* columns | 8 | "));
     EXPECT_THAT(ask("inspector-dump"), Not(HasSubstr("vantrel.complaint")));
 
+    // Rows are copied, numbers counted up, and line feeds kept.
+    keys.press({XK_Control_L, XK_c});
+    EXPECT_TRUE(eventually([&] { return ask("clipboard") == "8"; })) << ask("clipboard");
+    find_property("bounds");
+    const std::string bounds = shown().substr(shown().find("* bounds | ") + 11);
+    keys.press({XK_F2});
+    expect_focus("vantrel.value");
+    keys.press({XK_Home});
+    keys.press({XK_Up});
+    const std::string counted = std::to_string(std::stoi(bounds) + 1) + bounds.substr(bounds.find(','));
+    EXPECT_TRUE(eventually([&] { return counted.starts_with(ask("inspector vantrel.value")); }))
+        << ask("inspector vantrel.value");
+    keys.press({XK_Escape});
+    select("JTextArea notes");
+    find_property("longer");
+    keys.press({XK_F2});
+    expect_focus("vantrel.value");
+    keys.press({XK_End});
+    keys.type("!");
+    keys.press({XK_Return});
+    EXPECT_TRUE(shows("\"Notes that are longer than one line!\"", "vantrel.tree")) << "with its line feed";
+    select("JTextField amount");
+
     // The component goes while it is selected, has been changed, and can be changed back.
     find_property("border");
     edit("none");
