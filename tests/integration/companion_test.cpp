@@ -24,11 +24,13 @@ constexpr UnitTests kUnitTests[] = {
     {"model.AddedAtTest", 4},
     {"model.ComponentTreeTest", 5},
     {"model.EditorTest", 4},
+    {"model.LayoutFactsTest", 2},
     {"pick.HotKeyTest", 2},
     {"stacktrace.StackTraceManagerTest", 5},
     {"util.ClassFileEditorTest", 6},
 };
 constexpr UnitTests kProgramsUnitTests[] = {
+    {"AgentTest", 1},
     {"model.EditsTest", 4},
     {"model.FormatsTest", 2},
     {"model.KeysTest", 3},
@@ -57,7 +59,7 @@ INSTANTIATE_TEST_SUITE_P(OnJdk, Companion, testing::ValuesIn(kReleases), testing
 // companion's own classes, or they would not be in the same packages.
 TEST_P(Companion, PassesItsUnitTests) {
     SKIP_WITHOUT_JDK(GetParam());
-    const std::string boot_path = (kTestFolder / "companion-tests.jar").string() + ":" + VANTREL_JUNIT_JARS;
+    const std::string boot_path = (kTestFolder / "companion-tests.jar").string() + ":" + VANTREL_UNIT_TEST_JARS;
     expect_to_pass(kUnitTests, [&](const Arguments& options) {
         return java_under_agent(GetParam(), Arguments{"-Xbootclasspath/a:" + boot_path} + options);
     });
@@ -67,7 +69,7 @@ TEST_P(Companion, PassesItsUnitTests) {
 TEST_P(Companion, PassesItsUnitTestsAsAProgram) {
     SKIP_WITHOUT_JDK(GetParam());
     const std::string class_path =
-        (kTestFolder / "companion-tests.jar").string() + ":" + kCompanionJar.string() + ":" + VANTREL_JUNIT_JARS;
+        (kTestFolder / "companion-tests.jar").string() + ":" + kCompanionJar.string() + ":" + VANTREL_UNIT_TEST_JARS;
     expect_to_pass(kProgramsUnitTests, [&](const Arguments& options) {
         return Arguments{*find_jdk(GetParam()) / "bin" / "java", "-cp", class_path} + options;
     });

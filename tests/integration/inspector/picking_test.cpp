@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <set>
 
 #include "scenario.h"
 
@@ -39,6 +40,16 @@ class Picking : public Scenario {
         return lines_of(run({"convert", picture, "-depth", "8", "-format", format, "info:"}).out);
     }
     std::string colour_at(int across, int down) { return colours_at({{across, down}}).at(0); }
+
+    // The colours along the middle of the button that picks: no other place has the same.
+    std::vector<std::string> colours_of_button() {
+        const Place button = where("vantrel.pick");
+        std::vector<std::pair<int, int>> places;
+        for (int across = 4; across < button.width; across += 2) {
+            places.emplace_back(button.x + across, button.y + button.height / 2);
+        }
+        return colours_at(places);
+    }
 
     // A box one pixel wide, exactly on the bounds.
     void expect_box(const Place& place) {
@@ -152,6 +163,37 @@ TEST_P(Picking, NeverDrawsOverTheInspector) {
                 Not(Contains(kBox)));
 }
 
+// A click brings a window to the front, whoever the click was for.
+TEST_P(Picking, InAProgramInFullScreenAndTheInspectorStaysInSight) {
+    start_picking();
+    const std::vector<std::string> button = colours_of_button();
+    EXPECT_GT(std::set(button.begin(), button.end()).size(), 2U);
+    const auto is_in_sight = [&] { return colours_of_button() == button; };
+    ask("fullscreen on");
+    ASSERT_TRUE(eventually([&] { return where("main").width > 1700; }));
+    const auto unseen = [&] {
+        click({100, 1050, 10, 10});
+        return eventually([&] { return ask("focus").find("inspector") == std::string::npos && !is_in_sight(); });
+    };
+    EXPECT_TRUE(unseen()) << "the program lies over it";
+    take_picture("full-screen-1");
+    keys.press({XK_Control_L, XK_F12});
+    EXPECT_TRUE(eventually([&] { return is_in_sight(); })) << "the key brings it to the front";
+    take_picture("full-screen-2");
+    hold();
+    click(where("notes"));
+    EXPECT_TRUE(selects("notes")) << ask("selected");
+    let_go();
+    std::this_thread::sleep_for(milliseconds(1200));
+    EXPECT_TRUE(is_in_sight()) << "after picking";
+    take_picture("full-screen-3");
+    EXPECT_TRUE(unseen());
+    keys.press({XK_Control_L, XK_F12});
+    EXPECT_TRUE(eventually([&] { return is_in_sight(); }));
+    close_inspector();
+    ask("fullscreen off");
+}
+
 TEST_P(Picking, OfCells) {
     start_picking();
     hold();
@@ -165,6 +207,50 @@ TEST_P(Picking, OfCells) {
         EXPECT_TRUE(selects(owner)) << ask("selected");
     }
     let_go();
+}
+
+TEST_P(Picking, OfInternalFramesAndWhatIsInThem) {
+    start_picking();
+    ask("tab tabs 1");
+    ask("follow inner.button");
+    const Place inner = where("inner");
+    const Place button = where("inner.button");
+    const Place lower = where("lower.button");
+    ask("log");
+    hold();
+    for (const auto& [name, at] :
+         {std::pair{"inner.button", button}, {"lower.button", lower}, {"desktop", {inner.x - 5, inner.y, 2, 2}}}) {
+        SCOPED_TRACE(name);
+        click(at);
+        EXPECT_TRUE(selects(name)) << ask("selected");
+    }
+    // One lies over the other there, and the lower one has a glass pane as long as it is not the active one.
+    click({lower.x, lower.y, inner.x + inner.width - 15 - lower.x, 10});
+    EXPECT_TRUE(selects("inner.button")) << ask("selected");
+    keys.press({XK_Right});
+    expect_box(where("lower.button"));
+    point_at({inner.x + 40, inner.y + 8, 10, 10});
+    keys.press({XK_Up});
+    expect_box(inner);
+    keys.press({XK_Return});
+    EXPECT_TRUE(selects("inner")) << ask("selected");
+    let_go();
+    EXPECT_EQ(ask("log"), "");
+
+    // An icon stands for a frame that is in no window meanwhile.
+    ask("set inner icon true");
+    EXPECT_TRUE(
+        eventually([&] { return ask("inspector vantrel.tree").find("JDesktopIcon \"Inner\"") != std::string::npos; }));
+    const Place icon = where("inner.icon");
+    hold();
+    point_at(icon);
+    keys.press({XK_Up});
+    expect_box(icon);
+    keys.press({XK_Return});
+    EXPECT_TRUE(selects("inner.icon")) << ask("selected");
+    let_go();
+    EXPECT_THAT(ask("log"), Not(HasSubstr("MOUSE")));
+    take_picture("picking-internal");
 }
 
 TEST_P(Picking, OfPopupItemsAndTheyStayOpen) {

@@ -84,10 +84,12 @@ public final class VantrelFrame extends JFrame implements Ours {
         }
     }
 
-    /** Shows the window, brings it back if it is minimised, and otherwise hides it. */
+    /** Shows the window, or brings it back where nobody can see it; hides it otherwise. */
     void toggle() {
         if (isVisible() && (getExtendedState() & ICONIFIED) != 0) {
             setExtendedState(getExtendedState() & ~ICONIFIED);
+            toFront();
+        } else if (isVisible() && Cover.liesOver(this)) {
             toFront();
         } else {
             setVisible(!isVisible());
@@ -97,7 +99,7 @@ public final class VantrelFrame extends JFrame implements Ours {
     private void fill() {
         selection = new Selection();
         sight = new PickSight(this, selection);
-        Edits edits = new Edits(SwingContext::safeRun1, task -> SwingContext.safeRun1(this, task));
+        Edits edits = new Edits(Agent::run, task -> Agent.run(this, task));
         pane = new InspectorPane(selection, edits, sight, this::dispose);
         setRootPane(createRootPane()); // one of the look and feel that the program has now
         setContentPane(pane);

@@ -131,17 +131,16 @@ public final class AddedAtPanel extends JPanel {
         bind(new Command("Open Fold", "RIGHT", "", this::hasTrace, () -> setOpen(true)));
         bind(new Command("Close Fold", "LEFT", "", this::hasTrace, () -> setOpen(false)));
         list.addMouseListener(new MouseAdapter() {
+            private final DoubleClick doubleClick = new DoubleClick();
+
             @Override
             public void mousePressed(MouseEvent event) {
                 int row = list.locationToIndex(event.getPoint());
-                if (row < 0 || !list.getCellBounds(row, row).contains(event.getPoint())) {
-                    return;
-                }
-                if (SwingUtilities.isRightMouseButton(event) && !list.isSelectedIndex(row)) {
-                    list.setSelectedIndex(row); // what the menu is about
-                } else if (SwingUtilities.isLeftMouseButton(event) && event.getClickCount() % 2 == 0) {
-                    // A quick click somewhere else before counts, too, so that a double click may end with a four.
+                boolean on = row >= 0 && list.getCellBounds(row, row).contains(event.getPoint());
+                if (doubleClick.isEndedBy(event, on ? row : null)) {
                     openSelected();
+                } else if (on && SwingUtilities.isRightMouseButton(event) && !list.isSelectedIndex(row)) {
+                    list.setSelectedIndex(row); // what the menu is about
                 }
             }
         });

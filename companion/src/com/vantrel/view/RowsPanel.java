@@ -23,6 +23,7 @@ import javax.swing.KeyStroke;
 import javax.swing.ScrollPaneConstants;
 import javax.swing.event.DocumentEvent;
 import javax.swing.event.DocumentListener;
+import javax.swing.plaf.basic.BasicTextAreaUI;
 
 import com.vantrel.model.Row;
 
@@ -39,7 +40,7 @@ final class RowsPanel extends JPanel {
 
     private final RowsModel model = new RowsModel();
     private final RowsTable table;
-    private final JTextArea strip = new JTextArea();
+    private final JTextArea strip = new Strip();
     private final JScrollPane stripScroll = new JScrollPane(strip);
     private final JTextField filter;
     private final JPanel top = new JPanel(new BorderLayout(Look.GAP, 0));
@@ -195,6 +196,16 @@ final class RowsPanel extends JPanel {
                 task.run();
             }
         });
+    }
+
+    /** A text on whatever is behind it. Some looks and feels would fill a text area all the same. */
+    private static final class Strip extends JTextArea {
+        private static final long serialVersionUID = 1L;
+
+        @Override
+        public void updateUI() {
+            setUI(new BasicTextAreaUI());
+        }
     }
 
     /** A text field that says what it is for while it is empty. */

@@ -48,6 +48,7 @@ final class RowsTable extends JTable {
 
     private final RowsModel rows;
     private final RowPainter painter;
+    private final transient DoubleClick doubleClick = new DoubleClick();
     private final Timer fades = new Timer(MILLIS_BETWEEN_FADES, event -> fade());
     private final JLabel complaint = new JLabel();
     private final Timer complaintEnds = new Timer(MILLIS_OF_COMPLAINT, event -> complain(-1, null));
@@ -363,6 +364,7 @@ final class RowsTable extends JTable {
 
     private void pressed(MouseEvent event) {
         int line = rowAtPoint(event.getPoint());
+        boolean doubled = doubleClick.isEndedBy(event, rows.key(line));
         if (line < 0) {
             return;
         }
@@ -375,7 +377,7 @@ final class RowsTable extends JTable {
         if (row == null) {
             fold(!rows.isOpen(rows.group(line)));
         } else if (onValue && (row.kind() == Row.Kind.ASK || row.check() != null && isOnCheck(event.getX()))
-                || event.getClickCount() == 2) {
+                || doubled) {
             activate();
         }
     }
