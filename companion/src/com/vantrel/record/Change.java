@@ -20,10 +20,12 @@ public final class Change {
     /** A Throwable, never thrown, in which the VM has noted the stack; then the CallTree.Call that it is; or null. */
     private Object stack;
     private final History history;
-    /** The one before, of the same property; the oldest that is kept has none. Guarded by the history. */
-    Change before;
-    /** How many changes this one stands for. Guarded by the history. */
+    /** How many changes in a row this one stands for; the history's, as are the next two. */
     int times = 1;
+    /** The one before, of the same property, among those that are kept. */
+    Change before;
+    /** The one after it, of the same property, among those that wait. */
+    Change after;
 
     /**
      * @param history that it is to be kept in
@@ -72,18 +74,17 @@ public final class Change {
      * Has the stack take the form in which it is kept: far smaller, but it costs some ten times what noting it has
      * cost, so that it is not for the thread that sets the property.
      */
-    void settle() {
+    void findStack() {
         call();
-        history.settled(this);
     }
 
-    synchronized boolean isSettled() {
+    synchronized boolean isStackKnown() {
         return !(stack instanceof Throwable);
     }
 
-    /** Whether the same calls on the same thread have made another change, as far as that is known yet. */
-    boolean isSameAs(Change other) {
-        return isSettled() && other.isSettled() && call() == other.call() && thread.equals(other.thread);
+    /** Whether the same calls on the same thread have made another change. */
+    boolean isLike(Change other) {
+        return call() == other.call() && thread.equals(other.thread);
     }
 
     private synchronized CallTree.Call call() {

@@ -23,7 +23,9 @@ import com.vantrel.model.Ours;
  * that what waits is bounded.
  */
 public final class ChangeRecorder {
-    private static final int MOST_WAITING = 4_096;
+    /** How many properties may wait for the daemon at once, and how many changes each of them. */
+    private static final int MOST_PROPERTIES = 1_024;
+    private static final int MOST_CHANGES = 16;
 
     /** Layouts become invalid with nearly every change, and are made valid again: nobody has set anything. */
     private static final String NOT_SET = Hooks.VALID;
@@ -34,7 +36,7 @@ public final class ChangeRecorder {
     private static final List<ChangeRecorder> RUNNING = new CopyOnWriteArrayList<>();
 
     private final Predicate<Component> which;
-    private final BlockingQueue<Change> waiting = new ArrayBlockingQueue<>(MOST_WAITING);
+    private final BlockingQueue<Runnable> waiting = new ArrayBlockingQueue<>(MOST_PROPERTIES);
     private final ChangeListener listener = new ChangeListener() {
         @Override
         public void changing(Component component, String what) {
@@ -80,10 +82,10 @@ public final class ChangeRecorder {
             return;
         }
         History history = history(component);
-        Change change = new Change(history, what, new Throwable());
-        history.add(change);
-        if (!waiting.offer(change)) {
-            change.settle();
+        int count = history.add(new Change(history, what, new Throwable()));
+        boolean isTaken = count > 1 || waiting.offer(() -> history.settle(what));
+        if (!isTaken || count >= MOST_CHANGES) {
+            history.settle(what);
         }
     }
 
@@ -113,11 +115,11 @@ public final class ChangeRecorder {
     private void settle() {
         try {
             while (true) {
-                waiting.take().settle();
+                waiting.take().run();
             }
         } catch (InterruptedException e) {
-            for (Change change = waiting.poll(); change != null; change = waiting.poll()) {
-                change.settle();
+            for (Runnable task = waiting.poll(); task != null; task = waiting.poll()) {
+                task.run();
             }
         }
     }

@@ -34,7 +34,7 @@ public final class Recording {
     }
 
     /** Components of a class with such a name, or in one. */
-    static Predicate<Component> within(String pattern) {
+    public static Predicate<Component> within(String pattern) {
         List<String> parts = new ArrayList<>();
         for (String part : pattern.split("\\*", -1)) {
             parts.add(Pattern.quote(part));
