@@ -10,6 +10,7 @@
 using std::chrono::milliseconds;
 using testing::Contains;
 using testing::HasSubstr;
+using testing::MatchesRegex;
 using testing::Not;
 
 namespace {
@@ -23,7 +24,14 @@ class Picking : public Scenario {
         start(options);
         open_inspector();
         click(where("room"));
-        EXPECT_TRUE(eventually([this] { return ask("focus").find("inspector") == std::string::npos; }));
+        EXPECT_TRUE(program_gets_focus());
+    }
+    // Between two windows, nobody has it.
+    bool program_gets_focus() {
+        return eventually([this] {
+            const std::string focus = ask("focus");
+            return focus != "none" && focus.find("inspector") == std::string::npos;
+        });
     }
     void hold() { keys.down(XK_Control_L); }
     void let_go() { keys.up(XK_Control_L); }
@@ -173,7 +181,7 @@ TEST_P(Picking, InAProgramInFullScreenAndTheInspectorStaysInSight) {
     ASSERT_TRUE(eventually([&] { return where("main").width > 1700; }));
     const auto unseen = [&] {
         click({100, 1050, 10, 10});
-        return eventually([&] { return ask("focus").find("inspector") == std::string::npos && !is_in_sight(); });
+        return program_gets_focus() && eventually([&] { return !is_in_sight(); });
     };
     EXPECT_TRUE(unseen()) << "the program lies over it";
     take_picture("full-screen-1");
@@ -300,6 +308,77 @@ TEST_P(Picking, OfWhatIsInDialogsBehindThemAndBelowAGlassPane) {
     click(where("ok"));
     EXPECT_TRUE(selects("ok")) << ask("selected");
     let_go();
+}
+
+TEST_P(Picking, TheTreeShowsWhatItsRowsStandFor) {
+    start_picking();
+    const Place ok = where("ok");
+    const Place label = where("amount.label");
+    const auto is_boxed = [&](const Place& it) {
+        return eventually([&] { return colour_at(it.x + it.width / 2, it.y + it.height - 1) == kBox; });
+    };
+    const auto is_plain = [&](const Place& it) {
+        return eventually([&] { return colour_at(it.x + it.width / 2, it.y + it.height - 1) != kBox; });
+    };
+    click(place("inspector-row vantrel.tree JButton cancel"));
+    EXPECT_TRUE(eventually([this] { return ask("focus") == "inspector vantrel.tree"; })) << ask("focus");
+    ask("log");
+    point_at(place("inspector-row vantrel.tree JButton ok"));
+    expect_box(ok);
+    point_at(where("vantrel.search"));
+    EXPECT_TRUE(is_plain(ok));
+
+    // The row's menu, by the right button.
+    const auto choose = [&](const std::string& row, const std::string& item) {
+        click(place("inspector-row vantrel.tree " + row), 3);
+        EXPECT_TRUE(eventually([&] { return ask("inspector-dump").find("JPopupMenu") != std::string::npos; }));
+        take_picture("row-menu");
+        click(place("inspector-button " + item));
+    };
+    const auto copies = [&](const std::string& text) { return eventually([&] { return ask("clipboard") == text; }); };
+    const std::string path = R"(JFrame "main" > JSplitPane "split" > JPanel "top" > JPanel "form" > )";
+    choose("JLabel amount.label", "Copy Path");
+    EXPECT_TRUE(copies(path + R"(JLabel "amount.label")")) << ask("clipboard");
+    EXPECT_EQ(ask("selected"), "amount.label");
+    choose("JTextField amount", "Copy Class");
+    EXPECT_TRUE(copies("javax.swing.JTextField")) << ask("clipboard");
+    choose("JTextField amount", "Copy Description");
+    EXPECT_TRUE(eventually([&] { return ask("clipboard").starts_with("JTextField \"amount\"\n"); }));
+    EXPECT_THAT(ask("clipboard"),
+                MatchesRegex("JTextField \"amount\"\n"
+                             "  class    javax.swing.JTextField\n"
+                             "  path     " +
+                             path +
+                             "JTextField \"amount\"\n"
+                             "  text     12.50\n"
+                             "  tooltip  What it costs\n"
+                             "  bounds   [0-9]+, [0-9]+, " +
+                             std::to_string(where("amount").width) + " x " + std::to_string(where("amount").height) +
+                             "\n"
+                             "  state    showing, enabled\n"
+                             "  added    at [^\n]*java.awt.Container.add[^\n]*\n"
+                             "(           at [^\n]+\n)*"
+                             "           and [0-9]+ more"));
+    choose("JTextField amount", "Select Parent");
+    EXPECT_TRUE(selects("form")) << ask("selected");
+
+    // What is shown on demand stays while the pointer goes elsewhere, until something else is selected.
+    choose("JLabel amount.label", "Show in Program");
+    keys.point_at(1700, 1080);
+    EXPECT_TRUE(is_boxed(label));
+    keys.press({XK_Alt_L, XK_Return});
+    EXPECT_TRUE(is_plain(label)) << "the same again takes it away";
+    keys.press({XK_Alt_L, XK_Return});
+    EXPECT_TRUE(is_boxed(label));
+    keys.press({XK_Down});
+    EXPECT_TRUE(is_plain(label));
+    ask("set amount visible false");
+    choose("JTextField amount", "Show in Program");
+    EXPECT_TRUE(eventually([&] {
+        return ask("inspector vantrel.path").find("JTextField \"amount\" cannot be seen: invisible.") !=
+               std::string::npos;
+    })) << ask("inspector vantrel.path");
+    EXPECT_EQ(ask("log"), "") << "the program has seen nothing of all that";
 }
 
 TEST_P(Picking, LeavesAProgramsOwnDragAndKeysAlone) {

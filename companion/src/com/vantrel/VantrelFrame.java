@@ -19,6 +19,7 @@ import com.vantrel.model.Selection;
 import com.vantrel.record.ChangeRecorder;
 import com.vantrel.view.InspectorPane;
 import com.vantrel.view.Placement;
+import com.vantrel.view.WindowIcon;
 
 /**
  * The inspector's window. A window that exists, shown or not, keeps the event thread and with it the VM alive, so this
@@ -108,6 +109,7 @@ public final class VantrelFrame extends JFrame implements Ours {
         setRootPane(createRootPane()); // one of the look and feel that the program has now
         setContentPane(pane);
         setJMenuBar(pane.menus());
+        setIconImages(WindowIcon.images());
         Placement.place(this);
         selection.select(toSelect.get());
         toSelect.clear();

@@ -141,6 +141,8 @@ final class Commands {
             Component view = Inspector.find(words[0]);
             return onScreen(view, Inspector.row(view, words.length == 3 ? words[1] + " " + words[2] : words[1]));
         });
+        // inspector-button TEXT: where the button or menu item with the text is
+        commands.put("inspector-button", words -> onScreen(Inspector.button(String.join(" ", words)), null));
         // inspector-tab TITLE: where the tab of the details is
         commands.put("inspector-tab", words -> {
             JTabbedPane tabs = (JTabbedPane) Inspector.find("vantrel.details");

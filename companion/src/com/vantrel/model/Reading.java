@@ -248,7 +248,8 @@ public final class Reading {
 
     private Row row(Slot slot, Component component, Object value) {
         Property property = slot.property;
-        String text = value != null && property.format() != null ? Values.cut(property.format().write(value)) : "";
+        String text = value != null && property.format() != null ? Values.cut(property.format().write(value))
+                                                                 : Values.text(value);
         if (text.isEmpty() && !(value instanceof String)) {
             text = Values.text(value); // an object that can only be replaced by what is typed
         }

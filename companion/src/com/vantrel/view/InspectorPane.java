@@ -65,7 +65,7 @@ public final class InspectorPane extends JPanel {
         edits.onChange(this::update);
         sight.onChange(this::update);
         tree.onLook(this::update);
-        tree.view().onHover(node -> sight.outline(node == null ? null : node.component()));
+        tree.view().onHover(node -> sight.outline(node == null ? commands.shown() : node.component()));
         rowMenu(tree.view(), Menus.ofRow(commands));
         tree.tree().showMachinery(Boolean.parseBoolean(Settings.get(MACHINERY, "")));
         update();

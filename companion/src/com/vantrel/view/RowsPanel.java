@@ -6,6 +6,7 @@ import java.awt.Component;
 import java.awt.Dimension;
 import java.awt.Graphics;
 import java.awt.Graphics2D;
+import java.awt.Insets;
 import java.awt.event.ActionEvent;
 import java.awt.event.InputEvent;
 import java.awt.event.KeyAdapter;
@@ -54,6 +55,7 @@ final class RowsPanel extends JPanel {
         table = new RowsTable(name, model);
         filter = new PromptField(prompt);
         filter.setName(name + ".filter");
+        filter.setMargin(new Insets(3, 4, 3, 4));
         filter.setToolTipText("Words that a row has anywhere, in any order. Typing in the table comes here, too.");
         strip.setName(name + ".strip");
         JScrollPane scroll = new JScrollPane(
@@ -80,6 +82,7 @@ final class RowsPanel extends JPanel {
         int height = LINES_OF_STRIP * getFontMetrics(Look.font()).getHeight() + 2 * Look.GAP + 1;
         stripScroll.setPreferredSize(new Dimension(10, height));
         stripScroll.setBorder(BorderFactory.createMatteBorder(1, 0, 0, 0, Look.line()));
+        stripScroll.setViewportBorder(BorderFactory.createEmptyBorder()); // or some looks and feels draw one
         stripScroll.setOpaque(false);
         stripScroll.getViewport().setOpaque(false);
     }

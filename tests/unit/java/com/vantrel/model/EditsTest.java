@@ -71,13 +71,14 @@ public class EditsTest {
 
     @Test
     public void aRefusedValueLeavesTheOldOne() {
+        boolean[] locked = {false};
         JLabel label = new JLabel("before") {
             private static final long serialVersionUID = 1L;
 
             @Override
             public void setText(String text) {
                 super.setText(text);
-                if ("bad".equals(text)) {
+                if ("bad".equals(text) || locked != null && locked[0]) {
                     throw new IllegalArgumentException("no such text");
                 }
             }
@@ -86,6 +87,15 @@ public class EditsTest {
         assertEquals(List.of("The component refuses it: IllegalArgumentException: no such text."), told);
         assertEquals("before", label.getText());
         assertFalse(edits.canUndo());
+        List<String> complaints = new ArrayList<>();
+        edits.onComplaint(complaints::add);
+        set(label, "text", "good");
+        locked[0] = true;
+        edits.undo();
+        assertTrue("" + complaints, complaints.get(0).contains("cannot be set back: The component refuses it: "));
+        locked[0] = false;
+        edits.undo();
+        assertEquals("the undo that failed can be tried again", "before", label.getText());
 
         JPanel panel = new JPanel(new BorderLayout());
         JButton north = new JButton("north");
@@ -93,7 +103,7 @@ public class EditsTest {
         panel.add(north, BorderLayout.NORTH);
         panel.add(center);
         set(center, "constraints", "NORTH");
-        assertTrue(told.get(1), told.get(1).contains("JButton is there already"));
+        assertTrue(told.get(2), told.get(2).contains("JButton is there already"));
         set(center, "constraints", "SOUTH");
         assertEquals(BorderLayout.SOUTH, ((BorderLayout) panel.getLayout()).getConstraints(center));
         edits.undo();
