@@ -42,6 +42,7 @@ final class ChangesPanel extends JPanel {
         this.selection = selection;
         Split split = new Split(JSplitPane.VERTICAL_SPLIT, rows, stack);
         split.setResizeWeight(0.5);
+        rows.hideStrip();
         add(split);
         rows.table().getSelectionModel().addListSelectionListener(event -> showStack());
         rows.table().onActivate(row -> {

@@ -104,6 +104,11 @@ final class RowsPanel extends JPanel {
         return model;
     }
 
+    /** Tells nothing below the table, where something else tells of the selected row. */
+    void hideStrip() {
+        stripScroll.setVisible(false);
+    }
+
     /** Adds something beside the filter field. */
     void addTool(Component tool) {
         top.add(tool, BorderLayout.LINE_END);
