@@ -20,21 +20,22 @@ struct UnitTests {
 };
 // clang-format off
 constexpr UnitTests kUnitTests[] = {
-    {"hooks.HooksTest", 4},
-    {"model.AddedAtTest", 4},
-    {"model.ComponentTreeTest", 5},
-    {"model.EditorTest", 4},
-    {"model.LayoutFactsTest", 2},
-    {"pick.HotKeyTest", 2},
-    {"stacktrace.StackTraceManagerTest", 5},
-    {"util.ClassFileEditorTest", 6},
+    {"com.vantrel.hooks.HooksTest", 4},
+    {"com.vantrel.model.AddedAtTest", 4},
+    {"com.vantrel.model.ComponentTreeTest", 5},
+    {"com.vantrel.model.EditorTest", 4},
+    {"com.vantrel.model.LayoutFactsTest", 2},
+    {"com.vantrel.pick.HotKeyTest", 2},
+    {"com.vantrel.stacktrace.StackTraceManagerTest", 5},
+    {"com.vantrel.util.ClassFileEditorTest", 6},
+    {"program.ChangesTest", 5},
 };
 constexpr UnitTests kProgramsUnitTests[] = {
-    {"AgentTest", 1},
-    {"model.EditsTest", 4},
-    {"model.FormatsTest", 2},
-    {"model.KeysTest", 4},
-    {"model.ReadingTest", 4},
+    {"com.vantrel.AgentTest", 1},
+    {"com.vantrel.model.EditsTest", 4},
+    {"com.vantrel.model.FormatsTest", 2},
+    {"com.vantrel.model.KeysTest", 4},
+    {"com.vantrel.model.ReadingTest", 4},
 };
 // clang-format on
 
@@ -44,7 +45,7 @@ void expect_to_pass(const Tests& classes, const Command& command) {
     Arguments options = {"-Djava.awt.headless=true", "org.junit.runner.JUnitCore"};
     int count = 0;
     for (const auto& [name, tests] : classes) {
-        options.push_back("com.vantrel." + std::string(name));
+        options.emplace_back(name);
         count += tests;
     }
     const Finished finished = run(command(options));

@@ -90,6 +90,29 @@ class InspectorDetails : public Scenario {
 };
 INSTANTIATE_TEST_SUITE_P(OnJdk, InspectorDetails, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
 
+// The program's line beside the property that it has set, and on demand the whole stack.
+TEST_P(InspectorDetails, TellWhoHasSetAProperty) {
+    start();
+    open_inspector();
+    select("JLabel amount.label");
+    EXPECT_THAT(shown(), HasSubstr("text | "));
+    EXPECT_THAT(shown(), Not(HasSubstr("Commands.java:")));
+    ask("text amount.label Price");
+    const std::string line = "Commands.java:" + std::to_string(line_of("Commands.java", ".invoke(component"));
+    EXPECT_TRUE(shows("text | Price | " + line)) << shown();
+
+    // What is set here is not the program's doing.
+    find_property("text");
+    edit("Ours");
+    EXPECT_TRUE(shows("text | Ours | this window")) << shown();
+
+    ask("text amount.label Theirs");
+    EXPECT_TRUE(shows("text | Theirs | " + line)) << shown();
+    keys.press({XK_F4});
+    EXPECT_TRUE(shows("* Commands.call(" + line + ")", "vantrel.changes.stack.list"))
+        << shown("vantrel.changes.stack.list");
+}
+
 TEST_P(InspectorDetails, EditsAreSeenInTheProgramAndCanBeUndone) {
     start();
     open_inspector();

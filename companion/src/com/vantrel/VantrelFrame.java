@@ -16,6 +16,7 @@ import javax.swing.WindowConstants;
 import com.vantrel.model.Edits;
 import com.vantrel.model.Ours;
 import com.vantrel.model.Selection;
+import com.vantrel.record.ChangeRecorder;
 import com.vantrel.view.InspectorPane;
 import com.vantrel.view.Placement;
 import com.vantrel.view.WindowIcon;
@@ -38,6 +39,8 @@ public final class VantrelFrame extends JFrame implements Ours {
     private static VantrelFrame instance;
 
     private transient volatile Selection selection;
+    /** Who sets what while the window is shown. */
+    private final transient ChangeRecorder recorder = new ChangeRecorder(component -> true);
     private transient PickSight sight;
     private InspectorPane pane;
     /** What somebody has selected while the window was not shown. */
@@ -78,6 +81,7 @@ public final class VantrelFrame extends JFrame implements Ours {
         } else if (pane == null) {
             fill();
             sight.start();
+            recorder.start();
             super.setVisible(true);
             pane.first().requestFocusInWindow();
             pane.start();
@@ -128,6 +132,7 @@ public final class VantrelFrame extends JFrame implements Ours {
             pane.remember();
             pane.clear();
             sight.stop();
+            recorder.stop();
             sight = null;
             pane = null;
             selection = null;

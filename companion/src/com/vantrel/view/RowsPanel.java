@@ -104,6 +104,11 @@ final class RowsPanel extends JPanel {
         return model;
     }
 
+    /** Tells nothing below the table, where something else tells of the selected row. */
+    void hideStrip() {
+        stripScroll.setVisible(false);
+    }
+
     /** Adds something beside the filter field. */
     void addTool(Component tool) {
         top.add(tool, BorderLayout.LINE_END);
@@ -137,8 +142,9 @@ final class RowsPanel extends JPanel {
     private static String text(Row row) {
         String type = row.type().isEmpty() ? "" : " : " + row.type();
         String value = row.value().isEmpty() || row.kind() == Row.Kind.ASK ? "" : row.value();
-        String more = row.isEditable() ? "Enter or F2 " + (row.check() == null ? "edits" : "changes") + " it."
+        String edit = row.isEditable() ? "Enter or F2 " + (row.check() == null ? "edits" : "changes") + " it."
                                        : row.explanation();
+        String more = row.setBy() == null ? edit : (row.setBy().sentence() + " F4 shows the stack. " + edit).trim();
         return (row.name() + type + '\n' + value + (value.isEmpty() || more.isEmpty() ? "" : "\n") + more).trim();
     }
 
