@@ -110,6 +110,18 @@ bool Scenario::eventually(const std::function<bool()>& condition, milliseconds l
     return true;
 }
 
+int Scenario::line_of(const std::string& file, const std::string& text) {
+    std::ifstream source(std::filesystem::path(VANTREL_SCENARIO_SOURCES) / "scenario" / file);
+    std::string line;
+    for (int number = 1; std::getline(source, line); ++number) {
+        if (line.find(text) != std::string::npos) {
+            return number;
+        }
+    }
+    ADD_FAILURE() << file << " has no line with " << text;
+    return 0;
+}
+
 void Scenario::take_picture(const std::string& name) {
     const std::filesystem::path pictures = kTestFolder / "pictures";
     std::filesystem::create_directories(pictures);

@@ -64,6 +64,9 @@ class Scenario : public OnEachJdk {
     static bool eventually(const std::function<bool()>& condition,
                            std::chrono::milliseconds limit = std::chrono::seconds(10));
 
+    // The number of the line with a text in a source file of the program, found there, so that it may move.
+    static int line_of(const std::string& file, const std::string& text);
+
     // Writes a picture of the screen beside the other products of the tests, for people to look at.
     void take_picture(const std::string& name);
 

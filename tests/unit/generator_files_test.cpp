@@ -358,7 +358,7 @@ TEST(GeneratorMacros, HaveLettersInUpperCase) {
         std::string name = c.name;
         char macro[kClassNameSize] = "X";
         GetHeaderMacro(macro, name.data());
-        EXPECT_EQ(macro, std::string("X") + c.macro) << "behind what is there";
+        EXPECT_EQ(macro, std::string("X") + c.macro) << "added to what is there";
     }
 }
 
