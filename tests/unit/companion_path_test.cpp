@@ -19,7 +19,7 @@ struct CompanionPath : testing::Test {
     void TearDown() override { gb_data.libraryPath = library; }
 
     // What GetVantrelCassPath makes of a library path: the path written, and whether the jar exists. Nothing may be
-    // written behind `size` bytes, and all bytes behind the path must be zero.
+    // written past `size` bytes, and all bytes after the path must be zero.
     bool find(const char* library_path, unsigned long size = 1024) {
         gb_data.libraryPath = library_path;
         std::string buffer(size + 64, '#');
@@ -27,7 +27,7 @@ struct CompanionPath : testing::Test {
         EXPECT_EQ(buffer.substr(size), std::string(64, '#'));
         const size_t length = std::min(buffer.find('\0'), size);
         path = buffer.substr(0, length);
-        EXPECT_GE(buffer.find_first_not_of('\0', length), size) << "all zero behind the path";
+        EXPECT_GE(buffer.find_first_not_of('\0', length), size) << "all zero after the path";
         return found;
     }
 

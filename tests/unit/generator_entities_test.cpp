@@ -225,7 +225,7 @@ TEST(GeneratorOverloads, CollideByNameAndNumberOfArguments) {
     EXPECT_EQ(IsMethodEntityFuncNameExists(c.methods, 3, c.methods[0]), 1);
     EXPECT_EQ(IsMethodEntityFuncNameExists(c.methods, 3, c.methods[1]), 1);
     EXPECT_EQ(IsMethodEntityFuncNameExists(c.methods, 3, c.methods[2]), 0);
-    EXPECT_EQ(IsMethodEntityFuncNameExists(c.methods, 1, c.methods[0]), 0) << "what lies behind the count is not seen";
+    EXPECT_EQ(IsMethodEntityFuncNameExists(c.methods, 1, c.methods[0]), 0) << "what comes after the count is not seen";
 }
 
 // What the texts of a proxy do not show of the records; the texts are compared to the byte in generator_files_test.cpp.

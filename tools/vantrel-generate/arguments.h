@@ -14,6 +14,8 @@ struct Arguments {
     std::vector<std::string> vm_options;
     std::string out;
     bool list = false;
+    bool literal = false;
+    bool force = false;
     std::vector<std::string> classes;  // as they were given, with dots or slashes
 };
 

@@ -38,6 +38,18 @@ fs::path find_library(const fs::path& home) {
     throw Failure{"there is no Java VM in " + home.string()};
 }
 
+// A VM without the class library ends the process before it takes note of the abort hook. It looks for the classes from
+// where its own library is, links followed: in `modules`, or in `rt.jar` up to Java 8.
+void check_class_library(const fs::path& home, const fs::path& library) {
+    fs::path folder = fs::canonical(library).parent_path();
+    for (int up = 0; up < 4; ++up, folder = folder.parent_path()) {
+        if (fs::exists(folder / "modules") || fs::exists(folder / "rt.jar")) {
+            return;
+        }
+    }
+    throw Failure{"there is no whole Java in " + home.string() + ": it has a VM, but no classes"};
+}
+
 // The command itself leaves without the handlers of exit(), so whoever gets here is the VM: it could not start and has
 // said why, or a class's initialiser has called System.exit.
 void vm_ended_the_process() {
@@ -64,6 +76,7 @@ extern "C" JNIEXPORT jint JNICALL Agent_OnLoad_vantrel_generate(JavaVM* vm, char
 generate::RunningVm generate::start_vm(const std::string& java_home, const std::vector<std::string>& options) {
     const fs::path home = find_home(java_home);
     const fs::path path = find_library(home);
+    check_class_library(home, path);
     void* library = dlopen(path.c_str(), RTLD_NOW | RTLD_GLOBAL);
     if (library == nullptr) {
         throw Failure{"cannot load the Java VM: " + std::string(dlerror())};

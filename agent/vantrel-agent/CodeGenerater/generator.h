@@ -39,7 +39,8 @@ struct Argument {
 struct Field {
     std::string name;
     std::string descriptor;
-    int modifiers = 0;  // Java's access flags
+    int modifiers = 0;          // Java's access flags
+    std::string cpp_name = {};  // its part of its variable's name, where that is not `name`
 };
 
 // A method or constructor.
@@ -52,15 +53,28 @@ struct Method {
     bool is_void = false;
     Type result;  // a constructor's is "jobject"
     std::vector<Argument> arguments;
+    std::string cpp_name = {};  // its part of its variable's name, where that is not `name`
 };
 
 // What a proxy holds of its class. A method's number is its place in `methods`.
+// Names are the VM's, in modified UTF-8, and stand as they are in the files, until make_compilable has seen to them.
 struct Proxy {
     std::string class_name;     // the simple name, "Container"
     std::string internal_name;  // "java/awt/Container"
     std::vector<Field> fields;
     std::vector<Method> methods;
+
+    // What make_compilable sets; empty names are made of class_name.
+    bool is_compilable = false;
+    std::string cpp_name = {};       // in the names of variables
+    std::string cpp_namespace = {};  // "NSContainer"
+    std::string guard = {};          // the header's macro, "CONTAINER_H"
 };
+
+template <typename Member>
+bool is_static(const Member& member) {
+    return (member.modifiers & kStatic) != 0;
+}
 
 // What follows the last '/' of an internal name.
 std::string_view simple_name(std::string_view internal_name);
@@ -84,6 +98,25 @@ void rename_overloads(std::string_view class_name, std::vector<Method>& methods)
 
 // The three steps above, for what a proxy has.
 Proxy read_proxy(jvmtiEnv* jvmti, jclass clazz, std::string_view internal_name);
+
+// A name that make_compilable has changed.
+struct Renaming {
+    enum Kind { kClass, kField, kMethod, kWrapper, kParameter };
+    Kind kind;
+    size_t member;     // the place of the field or method in the proxy
+    std::string from;  // in UTF-8, as all that follows
+    std::string to;
+    std::string reason;
+};
+
+// Whether a character that is not of ASCII may stand in a name of C++, or begin one.
+using IsLetter = std::function<bool(char32_t character, bool begins)>;
+
+// Changes the names with which the files would be no C++, and only these: Java's names may be words of C++, macros,
+// types that the proxy uses, or nothing that C++ takes for a name, and wrappers may differ in nothing that C++ sees. A
+// word gets an underscore, one of two equal wrappers its number, and what cannot stand in a name becomes an underscore.
+// The files are in UTF-8 then.
+std::vector<Renaming> make_compilable(Proxy& proxy, const IsLetter& is_letter);
 
 // The texts of a proxy's files.
 std::string header_text(const Proxy& proxy);

@@ -24,9 +24,8 @@ std::string name_with_arguments(const Method& method) {
 // Two classes have a static method beside an instance method of the same name, which has one argument less. To C++ both
 // wrappers have the same parameters, for the instance method's has its object in front.
 bool is_special_case(string_view class_name, const Method& method) {
-    return (method.modifiers & generator::kStatic) != 0 &&
-           ((class_name == "Component" && method.wrapper == "getContainingWindow") ||
-            (class_name == "JComponent" && method.wrapper == "computeVisibleRect"));
+    return generator::is_static(method) && ((class_name == "Component" && method.wrapper == "getContainingWindow") ||
+                                            (class_name == "JComponent" && method.wrapper == "computeVisibleRect"));
 }
 
 }  // namespace
