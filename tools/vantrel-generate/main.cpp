@@ -60,7 +60,7 @@ void make_folder(const fs::path& folder) {
     std::error_code error;
     fs::create_directories(folder, error);
     if (error) {
-        throw Failure{"cannot make the folder " + folder.string() + ": " + error.message()};
+        throw command::Failure{"cannot make the folder " + folder.string() + ": " + error.message()};
     }
 }
 
@@ -88,7 +88,7 @@ int generate_all(const Arguments& arguments) {
             if (done.insert(internal_name).second) {
                 generate::write_or_list(vm, internal_name, output);
             }
-        } catch (const Failure& failure) {
+        } catch (const command::Failure& failure) {
             report(failure.line);
             status = kClassFailed;
         } catch (const std::system_error& error) {
@@ -116,7 +116,7 @@ int run(int argc, char** argv) {
             return print(*text);
         }
         return generate_all(std::get<Arguments>(parsed));
-    } catch (const Failure& failure) {
+    } catch (const command::Failure& failure) {
         report(failure.line);
     } catch (const std::exception& error) {
         report(error.what());
