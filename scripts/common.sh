@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # For the scripts beside it: where the project is, and how they speak. Sourced, not run.
 
 set -euo pipefail

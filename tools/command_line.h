@@ -17,7 +17,7 @@ std::optional<std::string> parse_command_line(CLI::App& app, int argc, char** ar
 
 }  // namespace command
 
-// For the commands that have no namespace of their own.
+// vantrel-generate names it without its namespace.
 using command::parse_command_line;
 
 #endif

@@ -13,7 +13,7 @@ struct Failure {
 
 }  // namespace command
 
-// For the commands that have no namespace of their own.
+// vantrel-generate names it without its namespace.
 using command::Failure;
 
 #endif

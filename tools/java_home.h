@@ -21,9 +21,8 @@ std::optional<std::filesystem::path> find_vm_library(const std::filesystem::path
 
 }  // namespace command
 
-// For the commands that have no namespace of their own.
+// vantrel-generate names them without their namespace.
 using command::find_java_home;
-using command::find_on_path;
 using command::find_vm_library;
 
 #endif

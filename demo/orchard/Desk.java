@@ -13,6 +13,7 @@ import javax.swing.JScrollPane;
 import javax.swing.JTextArea;
 
 /** Windows within the window: notes, the weather, and a chart. */
+@SuppressWarnings("serial")
 final class Desk extends JDesktopPane {
     private static final Color GREEN = new Color(0xDFE8D8);
 

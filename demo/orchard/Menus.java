@@ -10,6 +10,7 @@ import javax.swing.JOptionPane;
 import javax.swing.KeyStroke;
 
 /** The window's menus. */
+@SuppressWarnings("serial")
 final class Menus extends JMenuBar {
     private final Window window;
 

@@ -12,6 +12,7 @@ import javax.swing.JProgressBar;
 import javax.swing.ListCellRenderer;
 
 /** A month, and how much of the whole harvest it brings: a renderer that is made of several components. */
+@SuppressWarnings("serial")
 final class MonthRenderer extends JPanel implements ListCellRenderer<String> {
     private final JLabel month = new JLabel();
     private final JProgressBar share = new JProgressBar();

@@ -13,6 +13,7 @@ import javax.swing.JTextField;
 import javax.swing.WindowConstants;
 
 /** Asks for a new order. */
+@SuppressWarnings("serial")
 final class OrderDialog extends JDialog {
     private static final double PRICE_PER_KILOGRAM = 1.9;
 

@@ -20,6 +20,7 @@ import javax.swing.JTextField;
 import javax.swing.SpinnerNumberModel;
 
 /** One order to look at and change, as labels and fields in two columns. */
+@SuppressWarnings("serial")
 final class OrderForm extends JPanel {
     private final JTextField customer = new JTextField(12);
     private final JComboBox<String> variety = new JComboBox<>(Varieties.names());

@@ -6,6 +6,7 @@ import java.util.List;
 import javax.swing.table.AbstractTableModel;
 
 /** All orders, as a table shows them. */
+@SuppressWarnings("serial")
 final class Orders extends AbstractTableModel {
     static final int CUSTOMER = 0;
     static final int PRICE = 3;

@@ -8,6 +8,7 @@ import javax.swing.SwingConstants;
 import javax.swing.table.DefaultTableCellRenderer;
 
 /** A value with room at its sides; numbers stand at the end of their column. */
+@SuppressWarnings("serial")
 class PaddedRenderer extends DefaultTableCellRenderer {
     private static final int PADDING = 8;
 

@@ -11,6 +11,7 @@ import javax.swing.SwingConstants;
 import javax.swing.table.DefaultTableCellRenderer;
 
 /** A state as a coloured label with round ends. */
+@SuppressWarnings("serial")
 final class StateRenderer extends DefaultTableCellRenderer {
     private static final int MARGIN = 4;
 

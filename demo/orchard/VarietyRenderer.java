@@ -8,6 +8,7 @@ import javax.swing.tree.DefaultTreeCellRenderer;
 import javax.swing.tree.TreePath;
 
 /** A variety, or a kind, with a dot in the colour of its kind. */
+@SuppressWarnings("serial")
 final class VarietyRenderer extends DefaultTreeCellRenderer {
     @Override
     public Component getTreeCellRendererComponent(JTree tree, Object value, boolean isSelected, boolean isExpanded,

@@ -23,27 +23,13 @@ using testing::StartsWith;
 
 namespace {
 
-const fs::path kPrograms = kTestFolder / "test-programs.jar";
-
-class Agent : public testing::TestWithParam<int> {
+class Agent : public OnEachJdk {
   protected:
-    void SetUp() override { SKIP_WITHOUT_JDK(GetParam()); }
-
-    static fs::path tool(const char* name) { return *find_jdk(GetParam()) / "bin" / name; }
-
     static Arguments java(const Arguments& arguments, const fs::path& library = kLibrary) {
         return java_under_agent(GetParam(), arguments, library);
     }
-
-    // The agent and its jar, copied to another folder; the jar is one of the tests' own where it is named.
-    static fs::path copy_agent(const fs::path& folder, const fs::path& jar = kCompanionJar) {
-        fs::create_directories(folder);
-        fs::copy(kLibrary, folder);
-        fs::copy(jar, folder);
-        return folder / kLibrary.filename();
-    }
 };
-INSTANTIATE_TEST_SUITE_P(OnJdk, Agent, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
+ON_EACH_JDK(Agent);
 
 const ProcessOptions kNoDisplay = {.folder = {}, .environment = {"DISPLAY="}};
 

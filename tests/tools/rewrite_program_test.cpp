@@ -40,9 +40,15 @@ std::string tracker_of_manual() {
 TEST(RewrittenProgram, IsCountedByTheManualsTracker) {
     const ScratchFolder scratch;
     compile_tracker(scratch.path, tracker_of_manual());
-    const Finished done =
-        rewrite({"--return", "left", "--new-array", "made", "-o", "tracked.jar", kProgramJar}, scratch.path);
+    // The tracker is in the input, too; it must not call itself.
+    std::vector<Entry> entries = entries_of(kProgramJar);
+    entries.push_back({"com/x/Tracker.class", contents(scratch.path / "tracker/com/x/Tracker.class")});
+    make_jar(scratch.path / "program.jar", entries);
+    const Finished done = rewrite({"--return", "left", "--new-array", "made", "--tracker-path", "program.jar:tracker",
+                                   "-o", "tracked.jar", "program.jar"},
+                                  scratch.path);
     ASSERT_EQ(done.status, 0) << done.err;
+    fs::remove_all(scratch.path / "tracker");
     const Finished program = run_program(scratch.path);
     EXPECT_EQ(program.status, 0);
     EXPECT_EQ(program.out, "24 55 4\n");
@@ -86,6 +92,61 @@ TEST(RewrittenProgram, IsReadWithTheMap) {
     expected.emplace_back("Program$Square\t<init>\t()V");
     expected.emplace_back("Program$Square\tcorners\t()I");
     EXPECT_THAT(entered, ElementsAreArray(expected));
+}
+
+// Letters outside of the basic plane are two characters in a class file.
+TEST(RewrittenProgram, CallsATrackerOfAnyName) {
+    const ScratchFolder scratch;
+    const std::vector<std::string> locale{"LC_ALL=C.UTF-8"};
+    write(scratch.path / "Tracker.java",
+          "package \xC3\xA9; public class \xF0\x9D\x92\x9C {"
+          "public static void \xF0\x9D\x92\x9Ez(int type, int method) { System.err.println(\"called\"); } }");
+    fs::rename(scratch.path / "Tracker.java", scratch.path / "\xF0\x9D\x92\x9C.java");
+    const Finished javac = run({kJdk / "bin/javac", "-encoding", "UTF-8", "--release", "8", "-Xlint:-options", "-d",
+                                "tracker", "\xF0\x9D\x92\x9C.java"},
+                               {.folder = scratch.path, .environment = locale});
+    ASSERT_EQ(javac.status, 0) << javac.out << javac.err;
+    const Finished done =
+        run_in(scratch.path, {kRewrite, "--tracker", "\xC3\xA9.\xF0\x9D\x92\x9C", "--tracker-path", "tracker", "--call",
+                              "\xF0\x9D\x92\x9Ez", "-o", "tracked.jar", kProgramJar});
+    ASSERT_EQ(done.status, 0) << done.err;
+    const Finished program = run({kJdk / "bin/java", "-cp", "tracked.jar:tracker", "Program"},
+                                 {.folder = scratch.path, .environment = locale});
+    EXPECT_EQ(program.out, "24 55 4\n");
+    EXPECT_EQ(lines_of(program.err), std::vector<std::string>(23, "called"));
+}
+
+// Methods may be in a class that the tracker extends.
+TEST(Tracker, IsCheckedWhereItsPathIsKnown) {
+    const ScratchFolder scratch;
+    compile_tracker(scratch.path,
+                    "package com.x;\n"
+                    "class Base {\n"
+                    "    public static void entered(int type, int method) { }\n"
+                    "}\n"
+                    "public final class Tracker extends Base {\n"
+                    "    public void unbound(int type, int method) { }\n"
+                    "    static void hidden(Object array) { }\n"
+                    "    public static void made(Object array) { }\n"
+                    "}\n");
+    const struct {
+        Words calls;
+        std::string says;
+    } cases[] = {
+        {{"--new-array", "made", "--object-init", "made"}, ""},
+        {{"--return", "unbound"}, "the method unbound(II)V of com.x.Tracker is not static"},
+        {{"--new-array", "hidden"}, "the method hidden(Ljava/lang/Object;)V of com.x.Tracker is not public"},
+        {{"--object-init", "none"}, "com.x.Tracker has no method none(Ljava/lang/Object;)V"},
+        {{"--return", "made"}, "com.x.Tracker has no method made(II)V; there is made(Ljava/lang/Object;)V"},
+    };
+    for (const auto& c : cases) {
+        Words arguments{"--tracker-path", "tracker", "-o", "out.jar", kProgramJar};
+        arguments.insert(arguments.end(), c.calls.begin(), c.calls.end());
+        const Finished done = rewrite(arguments, scratch.path);
+        EXPECT_EQ(done.status, c.says.empty() ? 0 : 2);
+        EXPECT_EQ(done.err, c.says.empty() ? "" : "vantrel-rewrite: --tracker-path: " + c.says + "\n");
+        EXPECT_EQ(fs::remove(scratch.path / "out.jar"), c.says.empty());
+    }
 }
 
 // Each option names what it names, the tracker with dots or with slashes, and what is not asked for is not there.

@@ -21,7 +21,7 @@ namespace {
 
 enum Kind { CONSTRUCTOR, METHOD, STATIC_METHOD, FIELD, STATIC_FIELD };
 
-struct Member {
+struct ProxyMember {
     const char* class_name;
     Kind kind;
     const char* name;
@@ -30,7 +30,7 @@ struct Member {
 };
 
 // All members of the agent's proxies, in the order of their numbers.
-constexpr Member kMembers[] = {
+constexpr ProxyMember kMembers[] = {
 #define PROXY(C, CLASS)
 #define PROXY_FIELD(C, CLASS, KIND, NAME, DESCRIPTOR) {CLASS, KIND, #NAME, DESCRIPTOR, ""},
 #define PROXY_WRAPPER(C, CLASS, KIND, NAME, DESCRIPTOR, VARIABLE, FUNCTION, ...) \
@@ -117,7 +117,7 @@ generator::Proxy generate(const std::string& class_name) {
     FakeVm vm;
     const jclass clazz = vm.add_class(class_name);
     std::vector<std::string> functions;
-    for (const Member& member : kMembers) {
+    for (const ProxyMember& member : kMembers) {
         if (class_name != member.class_name) {
             continue;
         }
@@ -168,7 +168,7 @@ void PrintTo(const Counts& counts, std::ostream* out) {
 
 Counts counts_of(const std::string& class_name) {
     Counts counts;
-    for (const Member& member : kMembers) {
+    for (const ProxyMember& member : kMembers) {
         if (class_name == member.class_name) {
             counts.constructors += member.kind == CONSTRUCTOR ? 1 : 0;
             counts.methods += member.kind == METHOD || member.kind == STATIC_METHOD ? 1 : 0;

@@ -14,7 +14,7 @@ Zip ArchiveTransfer::open(const fs::path& path) {
     if (!zip) {
         zip_source_free(source);
         rethrow_failure();
-        fail_on_zip("read", path, zip_error_strerror(&error));
+        fail_on_zip("read", path, &error);
     }
     zip_error_fini(&error);
     return zip;

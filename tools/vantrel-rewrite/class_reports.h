@@ -2,20 +2,25 @@
 #ifndef VANTREL_REWRITE_CLASS_REPORTS_H
 #define VANTREL_REWRITE_CLASS_REPORTS_H
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
 
 #include "class_rewriter.h"
 #include "file_io.h"
-#include "progress.h"
 
 namespace vantrel_rewrite {
 
-struct Summary {
-    size_t classes = 0;
-    size_t too_new = 0;
-    size_t failed = 0;
+// How many classes came to each outcome.
+class Summary {
+  public:
+    void count(Outcome outcome) { ++counts_[static_cast<size_t>(outcome)]; }
+    [[nodiscard]] size_t of(Outcome outcome) const { return counts_[static_cast<size_t>(outcome)]; }
+    [[nodiscard]] size_t classes() const;
+
+  private:
+    std::array<size_t, 4> counts_{};
 };
 
 // What became of one class.
@@ -25,29 +30,33 @@ struct ClassReport {
     std::string map_lines;
 };
 
-// Takes reports in the order of the classes' numbers, one thread at a time: counts them, and writes the map and the
-// notes.
+// Takes reports in the order of the classes' numbers, one thread at a time: counts them, writes the map, and keeps
+// notes until all is done, for a run that fails says one thing only. Classes that failed and those that were kept are
+// named, up to ten of each; if it is to be verbose, all are that were not rewritten.
 class ClassReports {
   public:
-    //   map       where the map is made; empty where none is wanted
-    //   verbose   whether to name each class that is not rewritten
-    //   progress  is taken away for a note
-    ClassReports(const std::filesystem::path& map, bool verbose, const Progress& progress);
+    //   map   where the map is made; nothing where none is wanted
+    ClassReports(const std::optional<NewFile>& map, bool verbose);
 
     //   where   the class's file, and its entry if that is a jar
     void add(const std::string& where, const ClassReport& report);
 
-    // Writes a line to stderr.
-    void note(const std::string& line) const;
+    // Adds a line to the notes. What a terminal would act upon is taken out of it.
+    void note(const std::string& line);
 
     // When all are there. Throws a Failure if the map cannot be written.
     Summary finish();
 
+    // Lines for stderr, once all is finished.
+    [[nodiscard]] const std::string& notes() const { return notes_; }
+
   private:
+    [[nodiscard]] bool is_named(Outcome outcome) const;
+
     std::optional<OutputFile> map_;
     const bool verbose_;
-    const Progress& progress_;
     Summary summary_;
+    std::string notes_;
 };
 
 }  // namespace vantrel_rewrite

@@ -1,5 +1,7 @@
 #include "destination.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <map>
 #include <string>
@@ -54,6 +56,9 @@ fs::path resolved(const fs::path& path) {
     if (error) {
         throw command::Failure{"cannot write " + path.string() + ": " + error.message()};
     }
+    if (fs::is_symlink(fs::symlink_status(real, error))) {
+        throw command::Failure{"cannot write " + path.string() + ": it is a link to something that is not there"};
+    }
     const fs::path parent = real.parent_path();
     if (!fs::is_directory(parent, error)) {
         throw command::Failure{"cannot write " + path.string() + ": " + parent.string() +
@@ -73,9 +78,24 @@ void check_map(const fs::path& map, const std::vector<Result>& results) {
     }
 }
 
-}  // namespace
+// The one result that goes to stdout.
+Result result_for_stdout(const Arguments& arguments) {
+    const fs::path& input = arguments.inputs.front();
+    const Kind kind = kind_of_input(input);
+    if (arguments.inputs.size() > 1 || kind == Kind::Folder) {
+        throw command::Failure{"-o -: only one class file or one jar can go to stdout"};
+    }
+    if (isatty(STDOUT_FILENO) != 0) {
+        throw command::Failure{"-o -: stdout is a terminal; send it to a file or a pipe"};
+    }
+    if (arguments.map == kStdout) {
+        throw command::Failure{"--map -: the result goes to stdout already"};
+    }
+    return {kind, input, kStdout};
+}
 
-Destinations find_destinations(const Arguments& arguments) {
+// Results that go to files or folders.
+void find_places(const Arguments& arguments, Destinations& destinations) {
     const fs::path& out = arguments.output;
     const fs::file_status out_status = status_of(out);
     const bool out_is_folder = fs::is_directory(out_status);
@@ -85,7 +105,6 @@ Destinations find_destinations(const Arguments& arguments) {
     }
     const fs::path real_out = resolved(out);
 
-    Destinations destinations;
     std::map<fs::path, fs::path> sources;
     for (const fs::path& input : arguments.inputs) {
         const Kind kind = kind_of_input(input);
@@ -103,7 +122,20 @@ Destinations find_destinations(const Arguments& arguments) {
     if (into_folder && !out_is_folder) {
         destinations.new_folder = real_out;
     }
-    if (!arguments.map.empty()) {
+}
+
+}  // namespace
+
+Destinations find_destinations(const Arguments& arguments) {
+    Destinations destinations;
+    if (arguments.output == kStdout) {
+        destinations.results.push_back(result_for_stdout(arguments));
+    } else {
+        find_places(arguments, destinations);
+    }
+    if (arguments.map == kStdout) {
+        destinations.map = kStdout;
+    } else if (!arguments.map.empty()) {
         destinations.map = resolved(arguments.map);
         check_map(destinations.map, destinations.results);
     }

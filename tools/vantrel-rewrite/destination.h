@@ -23,8 +23,8 @@ struct Destinations {
     std::filesystem::path map;         // empty where none is wanted
 };
 
-// Looks at what is there under the results' names. Targets are absolute, and links are seen through, so that what a
-// link leads to is replaced and not the link. Throws a Failure for what cannot be done; nothing is written.
+// Looks at what is there under the results' names. Targets are absolute, or kStdout, and links are seen through, so
+// that what a link leads to is replaced and not the link. Throws a Failure for what cannot be done; nothing is written.
 Destinations find_destinations(const Arguments& arguments);
 
 }  // namespace vantrel_rewrite

@@ -10,12 +10,13 @@ namespace fs = std::filesystem;
 
 namespace vantrel_rewrite {
 
-void carry_times_over(const InputFile& source, OutputFile& target, const fs::path& path) {
-    ZipDirectory before = read_zip_directory(source, path);
-    ZipDirectory after = read_zip_directory(InputFile(path), path);
+void carry_times_over(const fs::path& source, OutputFile& target, const NewFile& file) {
+    ZipDirectory before = read_zip_directory(InputFile(source), source);
+    ZipDirectory after = read_zip_directory(InputFile(file.path), file.final);
     std::erase_if(before.entries, [](const ZipDirectoryEntry& entry) { return is_signature_file(entry.name); });
     if (before.entries.size() != after.entries.size()) {
-        throw command::Failure{"cannot write " + path.string() + ": its entries are not those that it is to have"};
+        throw command::Failure{"cannot write " + file.final.string() +
+                               ": its entries are not those that it is to have"};
     }
     for (size_t index = 0; index < after.entries.size(); ++index) {
         const unsigned char* time = &before.bytes[before.entries[index].time];

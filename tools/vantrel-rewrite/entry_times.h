@@ -16,10 +16,10 @@ namespace vantrel_rewrite {
 //
 //   source   the jar as it was
 //   target   the jar as libzip has written it, of all entries in their order, but without signature files
-//   path     the target's
+//   file     the target's
 //
 // Throws a Failure.
-void carry_times_over(const InputFile& source, OutputFile& target, const std::filesystem::path& path);
+void carry_times_over(const std::filesystem::path& source, OutputFile& target, const NewFile& file);
 
 }  // namespace vantrel_rewrite
 

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <system_error>
 
@@ -63,6 +64,13 @@ size_t InputFile::read_at(off_t position, unsigned char* to, size_t size) const 
     return count;
 }
 
+Bytes InputFile::read(off_t position, size_t at_most) const {
+    const off_t rest = std::max<off_t>(size() - position, 0);
+    Bytes bytes(std::min(at_most, static_cast<size_t>(rest)));
+    bytes.resize(read_at(position, bytes.data(), bytes.size()));
+    return bytes;
+}
+
 off_t InputFile::size() const {
     return state_of(descriptor_, path_).st_size;
 }
@@ -71,10 +79,10 @@ mode_t InputFile::permissions() const {
     return state_of(descriptor_, path_).st_mode & 0777;
 }
 
-OutputFile::OutputFile(const fs::path& path, mode_t permissions)
-    : path_(path), descriptor_(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions)) {
+OutputFile::OutputFile(const NewFile& file, mode_t permissions)
+    : final_(file.final), descriptor_(open(file.path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions)) {
     if (descriptor_ < 0) {
-        fail("write", path_);
+        fail("write", final_);
     }
 }
 
@@ -92,7 +100,7 @@ void OutputFile::write_at(off_t position, BytesView bytes) {
     while (!bytes.empty()) {
         const ssize_t now = pwrite(descriptor_, bytes.data(), bytes.size(), position);
         if (now < 0 && errno != EINTR) {
-            fail("write", path_);
+            fail("write", final_);
         }
         if (now > 0) {
             bytes = bytes.subspan(static_cast<size_t>(now));
@@ -106,18 +114,16 @@ void OutputFile::close() {
     const int descriptor = descriptor_;
     descriptor_ = -1;
     if (::close(descriptor) != 0) {
-        fail("write", path_);
+        fail("write", final_);
     }
 }
 
 Bytes read_file(const fs::path& path) {
     const InputFile file(path);
-    Bytes bytes(static_cast<size_t>(file.size()));
-    bytes.resize(file.read_at(0, bytes.data(), bytes.size()));
-    return bytes;
+    return file.read(0, static_cast<size_t>(file.size()));
 }
 
-void copy_whole_file(const fs::path& from, const fs::path& to) {
+void copy_whole_file(const fs::path& from, const NewFile& to) {
     const InputFile input(from);
     OutputFile output(to, input.permissions());
     Bytes block(kBlock);

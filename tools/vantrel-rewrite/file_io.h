@@ -28,6 +28,8 @@ class InputFile {
 
     // As many bytes from a position as there are, at most `size`.
     size_t read_at(off_t position, unsigned char* to, size_t size) const;
+    // The same, for a size that may be much larger than the file.
+    [[nodiscard]] Bytes read(off_t position, size_t at_most) const;
     [[nodiscard]] off_t size() const;
     [[nodiscard]] mode_t permissions() const;
 
@@ -36,11 +38,17 @@ class InputFile {
     int descriptor_;
 };
 
+// A new file that is made in one place and is meant for another one.
+struct NewFile {
+    std::filesystem::path path;   // where it is made
+    std::filesystem::path final;  // where it is put when all is done; for messages
+};
+
 // A new file that is open for writing. It is there when the constructor returns, with the permissions that `cp` would
 // give to a copy of a file that has those given.
 class OutputFile {
   public:
-    explicit OutputFile(const std::filesystem::path& path, mode_t permissions = 0666);
+    explicit OutputFile(const NewFile& file, mode_t permissions = 0666);
     ~OutputFile();
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
@@ -51,13 +59,13 @@ class OutputFile {
     void close();
 
   private:
-    std::filesystem::path path_;
+    std::filesystem::path final_;
     int descriptor_;
     off_t end_ = 0;
 };
 
 Bytes read_file(const std::filesystem::path& path);
-void copy_whole_file(const std::filesystem::path& from, const std::filesystem::path& to);
+void copy_whole_file(const std::filesystem::path& from, const NewFile& to);
 
 }  // namespace vantrel_rewrite
 

@@ -15,14 +15,35 @@ void remember(int number) {
     received = number;
 }
 
+void watch_for(int number) {
+    struct sigaction action {};
+    struct sigaction before {};
+    action.sa_handler = remember;  // without SA_RESTART: what waits for a pipe is to come back
+    sigemptyset(&action.sa_mask);
+    if (sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN) {
+        sigaction(number, &action, nullptr);
+    }  // ignored in a job in the background, or below nohup, it stays so
+}
+
+// All that end a process but those that tell of its own faults.
+constexpr int kEnding[] = {
+    SIGHUP, SIGINT, SIGQUIT,   SIGUSR1, SIGUSR2, SIGALRM, SIGTERM, SIGXCPU, SIGVTALRM, SIGPROF,
+#ifdef __linux__
+    SIGIO,  SIGPWR, SIGSTKFLT,
+#endif
+};
+
 }  // namespace
 
 void watch() {
-    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-        if (std::signal(number, remember) == SIG_IGN) {
-            std::signal(number, SIG_IGN);  // a job in the background, or below nohup
-        }
+    for (const int number : kEnding) {
+        watch_for(number);
     }
+#ifdef __linux__
+    for (int number = SIGRTMIN; number <= SIGRTMAX; ++number) {
+        watch_for(number);
+    }
+#endif
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
 }

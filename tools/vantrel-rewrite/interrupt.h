@@ -7,8 +7,9 @@ namespace vantrel_rewrite::interrupt {
 // Thrown where the mark is seen.
 struct Interrupted {};
 
-// From now on SIGINT, SIGTERM and SIGHUP leave the mark, unless they were ignored before; a closed pipe and a file that
-// grows too large are errors of writing and no longer end the process.
+// From now on all signals that would end the process leave the mark, unless they were ignored before; not KILL, which
+// cannot, nor those that tell of faults, as SEGV does. A closed pipe and a file that
+// grows too large are errors of writing, and no longer end the process.
 void watch();
 
 bool requested();

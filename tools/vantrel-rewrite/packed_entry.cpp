@@ -96,12 +96,11 @@ void replace_entry(zip_t* zip, const PackedEntry& entry, const fs::path& path) {
         state.release();  // NOLINT(bugprone-unused-return-value): the source's now
     }
     if (source == nullptr || zip_file_replace(zip, entry.index, source, 0) != 0) {
-        const std::string reason = zip_strerror(zip);
         zip_source_free(source);
-        fail_on_zip("change", path, reason);
+        fail_on_zip("change", path, zip_get_error(zip));
     }
     if (zip_set_file_compression(zip, entry.index, entry.method, 0) != 0) {
-        fail_on_zip("change", path, zip_strerror(zip));
+        fail_on_zip("change", path, zip_get_error(zip));
     }
 }
 

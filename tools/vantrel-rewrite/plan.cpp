@@ -34,13 +34,15 @@ std::vector<Result> contents_of(const Result& folder) {
 }
 
 // Adds a result to the plan, with all that is in it.
-void add(Plan& plan, Result result) {
-    std::vector<Result> rest{std::move(result)};
+//   made   where the result is made
+void add(Plan& plan, const Result& result, const fs::path& made) {
+    std::vector<Result> rest{result};
     while (!rest.empty()) {
         interrupt::check();
         const Result next = std::move(rest.back());
         rest.pop_back();
-        Piece piece{next.kind, next.source, next.target, plan.class_count, {}};
+        const fs::path below = next.target.lexically_relative(result.target);
+        Piece piece{next.kind, next.source, {below == "." ? made : made / below, next.target}, plan.class_count, {}};
         if (next.kind == Kind::ClassFile) {
             ++plan.class_count;
         } else if (next.kind == Kind::Jar) {
@@ -55,24 +57,28 @@ void add(Plan& plan, Result result) {
     }
 }
 
+NewFile stage(Staging& staging, const fs::path& target) {
+    return target == kStdout ? staging.stage_for_stdout() : staging.stage(target);
+}
+
 }  // namespace
 
 Plan make_plan(const Arguments& arguments, Staging& staging) {
     const Destinations destinations = find_destinations(arguments);
     Plan plan;
     if (!destinations.new_folder.empty()) {
-        const fs::path folder = staging.stage(destinations.new_folder);
+        const NewFile folder = staging.stage(destinations.new_folder);
         plan.pieces.push_back({Kind::Folder, {}, folder, 0, {}});
         for (const Result& result : destinations.results) {
-            add(plan, {result.kind, result.source, folder / result.target.filename()});
+            add(plan, result, folder.path / result.target.filename());
         }
     } else {
         for (const Result& result : destinations.results) {
-            add(plan, {result.kind, result.source, staging.stage(result.target)});
+            add(plan, result, stage(staging, result.target).path);
         }
     }
     if (!destinations.map.empty()) {
-        plan.map = staging.stage(destinations.map);
+        plan.map = stage(staging, destinations.map);
     }
     return plan;
 }

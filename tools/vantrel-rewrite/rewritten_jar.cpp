@@ -31,7 +31,7 @@ size_t drop_signatures(zip_t* zip, const fs::path& source) {
     for (zip_uint64_t index = 0; index < entry_count(zip); ++index) {
         if (is_signature_file(entry_name(zip, index))) {
             if (zip_delete(zip, index) != 0) {
-                fail_on_zip("change", source, zip_strerror(zip));
+                fail_on_zip("change", source, zip_get_error(zip));
             }
             ++dropped;
         }
@@ -70,7 +70,7 @@ std::vector<JarClass> classes_of_jar(const fs::path& path) {
     return classes;
 }
 
-size_t write_rewritten_jar(const fs::path& source, const fs::path& target, const std::vector<PackedEntry>& changes) {
+size_t write_rewritten_jar(const fs::path& source, const NewFile& target, const std::vector<PackedEntry>& changes) {
     if (changes.empty()) {
         copy_whole_file(source, target);
         return 0;
@@ -93,10 +93,12 @@ size_t write_rewritten_jar(const fs::path& source, const fs::path& target, const
     if (zip_close(zip.get()) != 0) {
         interrupt::check();
         transfer.rethrow_failure();
-        fail_on_zip("write", target, zip_strerror(zip.get()));
+        // What went wrong while it was written is a failure of the transfer. This is an entry that cannot be carried
+        // over.
+        fail_on_zip("read", source, zip_get_error(zip.get()));
     }
     zip.release();  // NOLINT(bugprone-unused-return-value): closed
-    carry_times_over(input, output, target);
+    carry_times_over(source, output, target);
     output.close();
     return dropped;
 }

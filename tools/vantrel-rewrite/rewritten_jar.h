@@ -24,7 +24,7 @@ std::vector<JarClass> classes_of_jar(const std::filesystem::path& path);
 // Writes a jar with other contents of some entries. All else is carried over as it is: order, times (entry_times.h),
 // attributes, comments; but signatures are dropped (jar_signature.h), and their number is returned. A jar whose classes
 // all stay is copied, with its signatures. Throws a Failure, or Interrupted.
-size_t write_rewritten_jar(const std::filesystem::path& source, const std::filesystem::path& target,
+size_t write_rewritten_jar(const std::filesystem::path& source, const NewFile& target,
                            const std::vector<PackedEntry>& changes);
 
 }  // namespace vantrel_rewrite

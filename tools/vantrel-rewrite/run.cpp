@@ -1,6 +1,7 @@
 #include "run.h"
 
 #include <algorithm>
+#include <iostream>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -11,6 +12,8 @@
 #include "interrupt.h"
 #include "plan.h"
 #include "progress.h"
+#include "standard_output.h"
+#include "tracker_check.h"
 #include "workers.h"
 #include "zip_archive.h"
 
@@ -29,23 +32,23 @@ struct Run {
 
 void check(const std::error_code& error, const Piece& piece) {
     if (error) {
-        throw command::Failure{"cannot write " + piece.target.string() + ": " + error.message()};
+        throw command::Failure{"cannot write " + piece.target.final.string() + ": " + error.message()};
     }
 }
 
 void make_folder(const Piece& piece) {
     std::error_code error;
-    fs::create_directory(piece.target, error);
+    fs::create_directory(piece.target.path, error);
     if (!error && !piece.source.empty()) {
         const fs::perms permissions = fs::status(piece.source, error).permissions();
-        fs::permissions(piece.target, permissions | fs::perms::owner_all, error);
+        fs::permissions(piece.target.path, permissions | fs::perms::owner_all, error);
     }
     check(error, piece);
 }
 
 void copy_link(const Piece& piece) {
     std::error_code error;
-    fs::copy_symlink(piece.source, piece.target, error);
+    fs::copy_symlink(piece.source, piece.target.path, error);
     check(error, piece);
 }
 
@@ -55,11 +58,19 @@ ClassReport report_on(RewrittenClass result) {
 
 ClassReport make_class_file(const Run& run, const Piece& piece) {
     const InputFile input(piece.source);
-    const Bytes image = read_file(piece.source);
-    RewrittenClass result = rewrite_class(run.arguments.tracker, static_cast<unsigned>(piece.first_class), image);
-    OutputFile output(piece.target, input.permissions());
-    output.write(result.outcome == Outcome::Rewritten ? result.bytes() : BytesView(image));
-    output.close();
+    off_t position = 0;
+    RewrittenClass result = rewrite_class(run.arguments, static_cast<unsigned>(piece.first_class), [&](size_t at_most) {
+        Bytes bytes = input.read(position, at_most);
+        position += static_cast<off_t>(bytes.size());
+        return bytes;
+    });
+    if (result.outcome == Outcome::Rewritten) {
+        OutputFile output(piece.target, input.permissions());
+        output.write(result.image);
+        output.close();
+    } else {
+        copy_whole_file(piece.source, piece.target);
+    }
     return report_on(std::move(result));
 }
 
@@ -87,17 +98,17 @@ struct EntryResult {
 
 EntryResult rewrite_entry(const Run& run, const Piece& piece, size_t index, zip_t* jar) {
     const JarClass& entry = piece.classes[index];
-    Bytes image;
+    RewrittenClass result;
     try {
-        image = read_entry(jar, entry.index, piece.source);
+        EntryReader reader(jar, entry.index, piece.source);
+        result = rewrite_class(run.arguments, static_cast<unsigned>(piece.first_class + index),
+                               [&](size_t at_most) { return reader.read(at_most); });
     } catch (const command::Failure& failure) {
         return {{Outcome::Failed, failure.line, {}}, std::nullopt};  // carried over, as damaged as it is
     }
-    RewrittenClass result =
-        rewrite_class(run.arguments.tracker, static_cast<unsigned>(piece.first_class + index), image);
     EntryResult made;
     if (result.outcome == Outcome::Rewritten) {
-        made.packed = pack_entry(entry.index, entry.method, result.bytes());
+        made.packed = pack_entry(entry.index, entry.method, result.image);
     }
     made.report = report_on(std::move(result));
     return made;
@@ -155,14 +166,22 @@ void make_pieces(Run& run, const std::vector<Piece>& pieces) {
 }  // namespace
 
 Summary run(const Arguments& arguments) {
+    if (!arguments.tracker_path.empty()) {
+        check_tracker(arguments.tracker_path, arguments.tracker);
+    }
+    if (arguments.output == kStdout || arguments.map == kStdout) {
+        standard_output::reserve();
+    }
     Staging staging;
     const Plan plan = make_plan(arguments, staging);
     Progress progress(plan.class_count);
-    Run run{arguments, progress, ClassReports(plan.map, arguments.verbose, progress)};
+    Run run{arguments, progress, ClassReports(plan.map, arguments.verbose)};
     make_pieces(run, plan.pieces);
     const Summary summary = run.reports.finish();
     interrupt::check();
     staging.put_in_place();
+    progress.clear();
+    std::cerr << run.reports.notes();
     return summary;
 }
 

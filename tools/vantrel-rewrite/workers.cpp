@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <exception>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -26,7 +27,11 @@ void for_each_index(unsigned workers, size_t count, const std::function<void(uns
     {
         std::vector<std::jthread> threads;
         for (unsigned worker = 1; worker < workers && worker < count; ++worker) {
-            threads.emplace_back(run, worker);
+            try {
+                threads.emplace_back(run, worker);
+            } catch (const std::system_error&) {
+                break;  // there can be no more of them; those that are there do the work
+            }
         }
         run(0);
     }

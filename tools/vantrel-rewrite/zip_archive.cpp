@@ -1,6 +1,8 @@
 #include "zip_archive.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "failure.h"
 
@@ -8,19 +10,39 @@ namespace fs = std::filesystem;
 
 namespace vantrel_rewrite {
 
-void fail_on_zip(const char* what, const fs::path& path, const std::string& reason) {
-    throw command::Failure{std::string("cannot ") + what + " " + path.string() + ": " + reason};
+namespace {
+
+std::string reason_of(zip_error_t* error) {
+    switch (zip_error_code_zip(error)) {
+        case ZIP_ER_NOZIP:
+            return "Not a zip archive (is it a whole jar, with nothing before it?)";
+        case ZIP_ER_INCONS:
+            return "Zip archive inconsistent (is it a whole jar, with nothing before it?)";
+        // Positions and sizes that lead nowhere. libzip adds whatever error the system had last.
+        case ZIP_ER_SEEK:
+        case ZIP_ER_READ:
+        case ZIP_ER_INVAL:
+        case ZIP_ER_EOF:
+            return "what it says of its entries is wrong";
+        default:
+            return zip_error_strerror(error);
+    }
+}
+
+}  // namespace
+
+void fail_on_zip(const char* what, const fs::path& path, zip_error_t* error) {
+    throw command::Failure{std::string("cannot ") + what + " " + path.string() + ": " + reason_of(error)};
 }
 
 Zip open_archive(const fs::path& path) {
+    const InputFile readable(path);  // libzip would not tell why it is not
     int code = 0;
     Zip zip(zip_open(path.c_str(), ZIP_RDONLY, &code));
     if (!zip) {
         zip_error_t error;
         zip_error_init_with_code(&error, code);
-        const std::string reason = zip_error_strerror(&error);
-        zip_error_fini(&error);
-        fail_on_zip("read", path, reason + " (is it a whole jar, with nothing before it?)");
+        fail_on_zip("read", path, &error);
     }
     return zip;
 }
@@ -34,28 +56,37 @@ std::string entry_name(zip_t* zip, zip_uint64_t index) {
     return name == nullptr ? "" : name;
 }
 
-Bytes read_entry(zip_t* zip, zip_uint64_t index, const fs::path& path) {
-    struct CloseEntry {
-        void operator()(zip_file_t* file) const { zip_fclose(file); }
-    };
-    constexpr size_t kBlock = size_t{1} << 16;
-    const std::unique_ptr<zip_file_t, CloseEntry> file(zip_fopen_index(zip, index, 0));
-    if (!file) {
-        fail_on_zip("read", path, zip_strerror(zip));
+EntryReader::EntryReader(zip_t* zip, zip_uint64_t index, fs::path path)
+    : path_(std::move(path)), file_(zip_fopen_index(zip, index, 0)) {
+    if (!file_) {
+        fail_on_zip("read", path_, zip_get_error(zip));
     }
-    // What the archive says about the size need not be true.
+}
+
+Bytes EntryReader::read(size_t at_most) {
+    constexpr size_t kBlock = size_t{1} << 16;
     Bytes contents;
     std::array<unsigned char, kBlock> block;
-    for (;;) {
-        const zip_int64_t count = zip_fread(file.get(), block.data(), block.size());
+    while (contents.size() < at_most) {
+        const zip_int64_t count = zip_fread(file_.get(), block.data(), std::min(kBlock, at_most - contents.size()));
         if (count < 0) {
-            fail_on_zip("read", path, zip_file_strerror(file.get()));
+            fail_on_zip("read", path_, zip_file_get_error(file_.get()));
         }
         if (count == 0) {
-            return contents;
+            break;
         }
         contents.insert(contents.end(), block.begin(), block.begin() + count);
     }
+    return contents;
+}
+
+Bytes read_entry(zip_t* zip, zip_uint64_t index, const fs::path& path) {
+    constexpr size_t kSmall = size_t{256} << 20U;
+    Bytes contents = EntryReader(zip, index, path).read(kSmall);
+    if (contents.size() == kSmall) {
+        throw command::Failure{"cannot read " + path.string() + ": " + entry_name(zip, index) + " is too large"};
+    }
+    return contents;
 }
 
 }  // namespace vantrel_rewrite

@@ -102,11 +102,11 @@ std::optional<std::uint64_t> header_of(const unsigned char* record) {
     return std::nullopt;
 }
 
-// As libzip tells it, that is, up to a zero byte.
 std::string name_of(const unsigned char* record) {
-    const std::string name(reinterpret_cast<const char*>(record + directory_entry::kSize),
-                           u2(record + directory_entry::kNameSize));
-    return name.c_str();  // NOLINT(readability-redundant-string-cstr)
+    std::string name(reinterpret_cast<const char*>(record + directory_entry::kSize),
+                     u2(record + directory_entry::kNameSize));
+    std::replace(name.begin(), name.end(), '\0', ' ');
+    return name;
 }
 
 // Nothing where there is no directory of that many entries.

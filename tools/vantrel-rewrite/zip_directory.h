@@ -17,7 +17,7 @@ namespace vantrel_rewrite {
 constexpr size_t kZipTimeSize = 4;
 
 struct ZipDirectoryEntry {
-    std::string name;           // as libzip tells it, that is, up to a zero byte
+    std::string name;           // as libzip tells it, with a space for each zero byte
     size_t time;                // where in the directory's bytes
     std::uint64_t header_time;  // where in the file
 };

@@ -58,6 +58,7 @@ final class Commands {
         commands.put("combo", words -> transients.combo(words[0])); // open, closed
         commands.put("dialog", words -> transients.dialog(words[0])); // modeless, document, application, toolkit, none
         commands.put("frame", words -> transients.frame(words[0])); // a second frame: its name, which is its title
+        commands.put("fullscreen", words -> transients.fullScreen(words[0])); // on, off
         commands.put("glass", words -> transients.glass(words[0])); // on, off
         commands.put("odd", words -> Odd.add(things, words[0])); // throwing, blocking, null, lying: adds one to "room"
         commands.put(
@@ -140,6 +141,8 @@ final class Commands {
             Component view = Inspector.find(words[0]);
             return onScreen(view, Inspector.row(view, words.length == 3 ? words[1] + " " + words[2] : words[1]));
         });
+        // inspector-button TEXT: where the button or menu item with the text is
+        commands.put("inspector-button", words -> onScreen(Inspector.button(String.join(" ", words)), null));
         // inspector-tab TITLE: where the tab of the details is
         commands.put("inspector-tab", words -> {
             JTabbedPane tabs = (JTabbedPane) Inspector.find("vantrel.details");
@@ -190,6 +193,10 @@ final class Commands {
         commands.put("place", words -> { // NAME X Y WIDTH HEIGHT: until its parent lays it out again
             int[] numbers = numbers(words[1] + " " + words[2]);
             things.get(words[0]).setBounds(numbers[0], numbers[1], numbers[2], numbers[3]);
+            return "";
+        });
+        commands.put("tab", words -> { // NAME INDEX: brings a tab to the front
+            things.get(words[0], JTabbedPane.class).setSelectedIndex(Integer.parseInt(words[1]));
             return "";
         });
         commands.put("add", words -> { // PARENT NAME: a label

@@ -13,6 +13,7 @@ import javax.swing.JPanel;
  * Components that must not be trusted: whatever they are asked, they throw, take a second, or answer null; and one
  * that does not tell its children. All of them work as long as nobody but Swing asks.
  */
+@SuppressWarnings("serial")
 final class Odd extends JPanel {
     private static final int MILLIS = 1000;
 

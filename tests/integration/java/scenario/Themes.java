@@ -74,6 +74,7 @@ final class Themes {
         }
     }
 
+    @SuppressWarnings("serial")
     private static final class Bare extends MetalLookAndFeel {
         @Override
         public UIDefaults getDefaults() {

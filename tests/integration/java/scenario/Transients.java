@@ -92,6 +92,13 @@ final class Transients {
         return "";
     }
 
+    /** Has the screen to itself with the main window, as the toolkit does that. */
+    String fullScreen(String state) {
+        JFrame main = things.get("main", JFrame.class);
+        main.getGraphicsConfiguration().getDevice().setFullScreenWindow(state.equals("on") ? main : null);
+        return "";
+    }
+
     String disposeAll() {
         for (Window window : Window.getWindows()) {
                         if (!Scenario.isInspectors(window)) {

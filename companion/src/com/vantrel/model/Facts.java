@@ -139,6 +139,10 @@ public final class Facts {
         if (component instanceof JInternalFrame) {
             return text(component, "getTitle", Fields.INTERNAL_TITLE, () -> ((JInternalFrame) component).getTitle());
         }
+        if (component instanceof JInternalFrame.JDesktopIcon && toolkits(component, "getInternalFrame")) {
+            JInternalFrame frame = ((JInternalFrame.JDesktopIcon) component).getInternalFrame();
+            return frame == null ? null : textOf(frame);
+        }
         if (component instanceof JTextComponent) {
             return documentText((JTextComponent) component);
         }

@@ -2,6 +2,7 @@ package com.vantrel.model;
 
 import java.awt.Component;
 import java.lang.reflect.Field;
+import java.util.ArrayList;
 import java.util.List;
 
 import javax.swing.GroupLayout;
@@ -61,6 +62,31 @@ final class Groups {
         }
         Field component = field(spring, "component");
         text.append(component == null ? "gap" : Code.describe((Component) component.get(spring)));
+        text.append(sizes(spring));
+    }
+
+    /** The sizes that the program has given: the smallest, preferred and largest; empty where it has given none. */
+    private static String sizes(Object spring) throws IllegalAccessException {
+        List<String> sizes = new ArrayList<>();
+        boolean given = false;
+        for (String name : new String[] {"min", "pref", "max"}) {
+            Field field = field(spring, name);
+            if (field == null || field.getType() != int.class) {
+                return "";
+            }
+            int size = field.getInt(spring);
+            given |= size > 0;
+            sizes.add(size(size));
+        }
+        boolean fixed = sizes.get(0).equals(sizes.get(1)) && sizes.get(1).equals(sizes.get(2));
+        return !given ? "" : " " + (fixed ? sizes.get(0) : String.join("..", sizes));
+    }
+
+    private static String size(int size) {
+        return size == GroupLayout.DEFAULT_SIZE      ? "default"
+                : size == GroupLayout.PREFERRED_SIZE ? "preferred"
+                : size >= Short.MAX_VALUE            ? "\u221e"
+                                                     : Integer.toString(size);
     }
 
     private static Field field(Object spring, String name) {

@@ -66,7 +66,7 @@ public final class LayoutFacts {
                                         : wants - is + " less than preferred";
         String reason;
         try {
-            reason = Managers.reason(component, wide);
+            reason = SizeReason.of(component, wide);
         } catch (RuntimeException e) {
             reason = Values.error(e);
         }

@@ -37,8 +37,7 @@ enum Machinery {
             return NO;
         }
         if (component instanceof CellRendererPane || component instanceof BasicSplitPaneDivider
-                || component instanceof BasicInternalFrameTitlePane
-                || component instanceof JInternalFrame.JDesktopIcon) {
+                || component instanceof BasicInternalFrameTitlePane || parent instanceof JInternalFrame.JDesktopIcon) {
             return PART;
         }
         if (component instanceof JViewport || component instanceof JRootPane

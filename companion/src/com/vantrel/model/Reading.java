@@ -250,6 +250,9 @@ public final class Reading {
         Property property = slot.property;
         String text = value != null && property.format() != null ? Values.cut(property.format().write(value))
                                                                  : Values.text(value);
+        if (text.isEmpty() && !(value instanceof String)) {
+            text = Values.text(value); // an object that can only be replaced by what is typed
+        }
         Row row = Row.of(property.group(), property.name(), text);
         row.type(value == null ? property.type().getName() : value.getClass().getName());
         boolean whole = !(value instanceof String) || ((String) value).length() <= Values.LONGEST;

@@ -35,6 +35,7 @@ final class ToolkitEdits {
     private static final String HOOKS = "com/vantrel/hooks/Hooks";
     private static final String STACK_TRACE_MANAGER = "com/vantrel/stacktrace/StackTraceManager";
     private static final String TRACE = "vantrel$trace";
+    private static final String CHANGES = "vantrel$changes";
     private static final String PARENT_TYPE = "Ljava/awt/Container;";
 
     /** Methods of Component that say in their first argument which property changes. */
@@ -60,8 +61,9 @@ final class ToolkitEdits {
     }
 
     /**
-     * Gives components room for their trace, has them tell {@link Hooks} of events and changes, and adds the private
-     * transient field {@code windowClosingException} that the agent reads by name, which VMs up to 8 have themselves.
+     * Gives components room for their trace and their changes, has them tell {@link Hooks} of events and changes, and
+     * adds the private transient field {@code windowClosingException} that the agent reads by name, which VMs up to 8
+     * have themselves.
      *
      * @param hasModules whether the VM has modules, which the class is then to open to the companion
      */
@@ -69,7 +71,8 @@ final class ToolkitEdits {
         if (!component.declaresField("windowClosingException")) {
             component.addField(ACC_PRIVATE | ACC_TRANSIENT, "windowClosingException", "Ljava/lang/RuntimeException;");
         }
-        addTrace(component);
+        addRoom(component, TRACE);
+        addRoom(component, CHANGES);
         filterEvents(component);
         for (String descriptor : FIRING) {
             tellOfChanges(component, "firePropertyChange", descriptor, null);
@@ -114,18 +117,18 @@ final class ToolkitEdits {
     }
 
     /**
-     * Adds the field of a trace, which goes with its component, and how {@link com.vantrel.stacktrace} reaches it from
-     * outside of the package. The field is volatile so that whoever finds a trace finds all of it, on any thread; the
-     * methods are static so that they do not pass for properties.
+     * Adds a field for something that goes with its component, and how {@link com.vantrel.hooks.ComponentField} reaches
+     * it from outside of the package. The field is volatile so that whoever finds something there finds all of it, on
+     * any thread; the methods are static so that they do not pass for properties.
      */
-    private static void addTrace(ClassFileEditor component) {
-        component.addField(ACC_TRANSIENT | ACC_VOLATILE | ACC_SYNTHETIC, TRACE, "Ljava/lang/Object;");
-        int field = component.fieldRef(COMPONENT, TRACE, "Ljava/lang/Object;");
+    private static void addRoom(ClassFileEditor component, String name) {
+        component.addField(ACC_TRANSIENT | ACC_VOLATILE | ACC_SYNTHETIC, name, "Ljava/lang/Object;");
+        int field = component.fieldRef(COMPONENT, name, "Ljava/lang/Object;");
         int flags = ACC_PUBLIC | ACC_STATIC | ACC_SYNTHETIC;
         byte[] get = new ByteSink().u1(ALOAD_0).u1(GETFIELD).u2(field).u1(ARETURN).toByteArray();
-        component.addMethod(flags, TRACE, "(Ljava/awt/Component;)Ljava/lang/Object;", 1, 1, get, NO_FRAME);
+        component.addMethod(flags, name, "(Ljava/awt/Component;)Ljava/lang/Object;", 1, 1, get, NO_FRAME);
         byte[] set = new ByteSink().u1(ALOAD_0).u1(ALOAD_1).u1(PUTFIELD).u2(field).u1(RETURN).toByteArray();
-        component.addMethod(flags, TRACE, "(Ljava/awt/Component;Ljava/lang/Object;)V", 2, 2, set, NO_FRAME);
+        component.addMethod(flags, name, "(Ljava/awt/Component;Ljava/lang/Object;)V", 2, 2, set, NO_FRAME);
     }
 
     /** {@code if (Hooks.event(this, event)) return;} before all that happens to an event. */

@@ -127,7 +127,8 @@ final class RowsModel extends AbstractTableModel {
         if (filter.isEmpty()) {
             return true;
         }
-        String text = (row.group() + ' ' + row.name() + ' ' + row.value() + ' ' + row.note()).toLowerCase(Locale.ROOT);
+        String text =
+                (row.group() + ' ' + row.name() + ' ' + row.value() + ' ' + row.source()).toLowerCase(Locale.ROOT);
         for (String word : filter.split("\\s+")) {
             if (!text.contains(word)) {
                 return false;
@@ -217,7 +218,7 @@ final class RowsModel extends AbstractTableModel {
         if (row == null) {
             return column == NAME ? group(line) : "";
         }
-        return column == NAME ? row.name() : column == VALUE ? row.value() : row.note();
+        return column == NAME ? row.name() : column == VALUE ? row.value() : row.source();
     }
 
     /** What can be edited has an editor, which sets it itself: what is set is not always what is shown then. */

@@ -324,15 +324,18 @@ final class TreeView extends JList<TreeNode> {
     }
 
     private final class Mouse extends MouseInputAdapter {
+        private final DoubleClick doubleClick = new DoubleClick();
+
         @Override
         public void mousePressed(MouseEvent event) {
             TreeNode node = nodeAt(event.getPoint());
+            boolean doubled = doubleClick.isEndedBy(event, node);
             if (node == null || !SwingUtilities.isLeftMouseButton(event)) {
                 return;
             }
             int x = event.getX() - TreeRowPainter.twistyAt(node);
             boolean onTwisty = x >= 0 && x < TreeRowPainter.TWISTY;
-            if (node.isExpandable() && (onTwisty || event.getClickCount() == 2)) {
+            if (node.isExpandable() && (onTwisty || doubled)) {
                 expand(node, !tree.isExpanded(node));
             }
         }

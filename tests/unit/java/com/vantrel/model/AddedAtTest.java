@@ -24,18 +24,24 @@ public class AddedAtTest {
                 words[0].substring(0, dot), words[0].substring(dot + 1), "File.java", Integer.parseInt(words[1]));
     }
 
+    private static StackTraceElement[] trace(String... names) {
+        return Arrays.stream(names).map(AddedAtTest::line).toArray(StackTraceElement[] ::new);
+    }
+
     private static AddedAt addedAt(String... names) {
-        return AddedAt.of(Arrays.stream(names).map(AddedAtTest::line).toArray(StackTraceElement[] ::new));
+        JLabel label = new JLabel();
+        StackTraceManager.addStackTrace(label, trace(names));
+        return AddedAt.of(label);
     }
 
     /** The parts, a word each: a program's line by its number, others by how many lines they stand for. */
-    private static String parts(AddedAt addedAt) {
+    private static String parts(CallStack stack) {
         List<String> words = new ArrayList<>();
-        for (AddedAt.Part part : addedAt.parts()) {
+        for (CallStack.Part part : stack.parts()) {
             int lines = part.lines().size();
-            words.add(part.kind() == AddedAt.Kind.PROGRAM         ? "" + part.lines().get(0).getLineNumber()
-                            : part.kind() == AddedAt.Kind.TOOLKIT ? "toolkit*" + lines
-                                                                  : part.times() + "more*" + lines);
+            words.add(part.kind() == CallStack.Kind.PROGRAM         ? "" + part.lines().get(0).getLineNumber()
+                            : part.kind() == CallStack.Kind.TOOLKIT ? "toolkit*" + lines
+                                                                    : part.times() + "more*" + lines);
         }
         return String.join(" ", words);
     }
@@ -61,7 +67,7 @@ public class AddedAtTest {
                 },
         };
         for (String[] c : cases) {
-            assertEquals(c[0], parts(addedAt(Arrays.copyOfRange(c, 1, c.length))));
+            assertEquals(c[0], parts(CallStack.of(trace(Arrays.copyOfRange(c, 1, c.length)))));
         }
     }
 
@@ -74,13 +80,13 @@ public class AddedAtTest {
                                      .mapToObj(i -> names[i])
                                      .toArray(String[] ::new);
             List<StackTraceElement> lines = new ArrayList<>();
-            addedAt(trace).parts().forEach(part -> lines.addAll(part.lines()));
-            assertEquals(Arrays.toString(trace), addedAt(trace).text(), text(lines));
+            CallStack.of(trace(trace)).parts().forEach(part -> lines.addAll(part.lines()));
+            assertEquals(Arrays.toString(trace), CallStack.of(trace(trace)).text(), text(lines));
         }
     }
 
     private static String text(List<StackTraceElement> lines) {
-        return AddedAt.of(lines.toArray(new StackTraceElement[0])).text();
+        return CallStack.of(lines.toArray(new StackTraceElement[0])).text();
     }
 
     @Test
@@ -89,7 +95,7 @@ public class AddedAtTest {
         assertEquals("Form$Row.build(File.java:7)", addedAt.line());
         assertEquals("\tat java.awt.Container.add(File.java:1)\n\tat a.b.Form$Row.lambda$build$0(File.java:7)\n"
                         + "\tat a.Main.main(File.java:8)",
-                addedAt.text());
+                addedAt.stack().text());
         AddedAt toolkits = addedAt("java.awt.Container.add:1");
         assertNull(toolkits.where());
         assertEquals("added by the toolkit, by no line of the program", toolkits.line());
@@ -114,7 +120,7 @@ public class AddedAtTest {
     public void aComponentHasItsOwn() {
         JLabel label = new JLabel();
         assertEquals("not yet added to anything", AddedAt.of(label).line());
-        assertEquals("nothing is selected", AddedAt.of((java.awt.Component) null).line());
+        assertEquals("nothing is selected", AddedAt.of(null).line());
         new JPanel().add(label);
         StackTraceManager.removeStackTrace(label);
         assertEquals("its addition was not recorded", AddedAt.of(label).line());

@@ -64,20 +64,24 @@ public class EditsTest {
         assertFalse(edits.canUndo());
         edits.redo();
         assertEquals(Color.RED, plain.getBackground());
+        set(plain, "preferredSize", "10 x 20");
+        edits.undo();
+        assertFalse("computed again", plain.isPreferredSizeSet());
         set(plain, "enabled", "false");
         assertFalse("what was undone is forgotten", edits.canRedo());
-        assertEquals("all went well", java.util.Collections.nCopies(3, null), told);
+        assertEquals("all went well", java.util.Collections.nCopies(4, null), told);
     }
 
     @Test
     public void aRefusedValueLeavesTheOldOne() {
+        boolean[] locked = {false};
         JLabel label = new JLabel("before") {
             private static final long serialVersionUID = 1L;
 
             @Override
             public void setText(String text) {
                 super.setText(text);
-                if ("bad".equals(text)) {
+                if ("bad".equals(text) || locked[0]) {
                     throw new IllegalArgumentException("no such text");
                 }
             }
@@ -86,6 +90,16 @@ public class EditsTest {
         assertEquals(List.of("The component refuses it: IllegalArgumentException: no such text."), told);
         assertEquals("before", label.getText());
         assertFalse(edits.canUndo());
+        List<String> complaints = new ArrayList<>();
+        edits.onComplaint(complaints::add);
+        set(label, "text", "good");
+        locked[0] = true;
+        edits.undo();
+        assertTrue("" + complaints, complaints.get(0).contains("cannot be set back: The component refuses it: "));
+        assertTrue("the undo that failed can be tried again", edits.whatToUndo().startsWith("text of "));
+        locked[0] = false;
+        edits.undo();
+        assertEquals("before", label.getText());
 
         JPanel panel = new JPanel(new BorderLayout());
         JButton north = new JButton("north");
@@ -93,7 +107,7 @@ public class EditsTest {
         panel.add(north, BorderLayout.NORTH);
         panel.add(center);
         set(center, "constraints", "NORTH");
-        assertTrue(told.get(1), told.get(1).contains("JButton is there already"));
+        assertTrue(told.get(2), told.get(2).contains("JButton is there already"));
         set(center, "constraints", "SOUTH");
         assertEquals(BorderLayout.SOUTH, ((BorderLayout) panel.getLayout()).getConstraints(center));
         edits.undo();

@@ -18,6 +18,9 @@ import java.util.Map;
 import java.util.concurrent.TimeUnit;
 
 import javax.swing.border.Border;
+import javax.swing.border.CompoundBorder;
+import javax.swing.border.EmptyBorder;
+import javax.swing.border.LineBorder;
 
 import org.junit.Test;
 
@@ -46,6 +49,8 @@ public class FormatsTest {
             {Border.class, "empty 1,2,3,4", "empty 1,2,3,4"},
             {Border.class, "line #00ff00 2", "line #00ff00 2"},
             {Border.class, "titled Two words", "titled Two words"},
+            {Border.class, "raised", "raised"},
+            {Border.class, "Lowered", "lowered"},
             {Border.class, "matte 1,0,0,0 #0000ff", "matte 1,0,0,0 #0000ff"},
     };
 
@@ -82,6 +87,9 @@ public class FormatsTest {
                     (String) it[1], IllegalArgumentException.class, () -> format.parse((String) it[1], null));
             assertTrue(e.getMessage(), e.getMessage().contains((String) it[2]));
         }
+        assertEquals("line #000000 around empty 2",
+                Formats.of(Border.class)
+                        .write(new CompoundBorder(new LineBorder(Color.BLACK), new EmptyBorder(2, 2, 2, 2))));
         for (Class<?> type : new Class<?>[] {Color.class, Font.class, Border.class, Dimension.class, Insets.class}) {
             assertNull("nothing typed is none of its own", Formats.of(type).parse("", null));
         }

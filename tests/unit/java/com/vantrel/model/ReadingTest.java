@@ -102,6 +102,9 @@ public class ReadingTest {
         for (String name : List.of("name", "text", "preferredSize", "minimumSize", "baseline", "order")) {
             assertEquals(name, Row.Kind.ASK, row(reading, name).kind());
         }
+        assertEquals("int[2]  1, 2", Values.text(new int[] {1, 2}));
+        JPanel fresh = new JPanel();
+        assertEquals("it would make one", Row.Kind.ASK, row(read(fresh), "accessibleName").kind());
         assertEquals("the toolkit's own are read", "LEADING", row(reading, "horizontalAlignment").value());
 
         reading.ask(row(reading, "preferredSize"));

@@ -142,7 +142,7 @@ public class StackTraceManagerTest {
                 StackTraceManager.getStackTrace(component);
             }
             gone.add(new WeakReference<>(component));
-            gone.add(new WeakReference<>(TraceField.get(component)));
+            gone.add(new WeakReference<>(TraceField.FIELD.get(component)));
             assertNotNull(gone.get(gone.size() - 1).get());
         }
         for (WeakReference<Object> reference : gone) {
