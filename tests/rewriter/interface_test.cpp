@@ -126,7 +126,7 @@ TEST(RewriterInterface, TellsTheClassTheMethodAndThePosition) {
     // A jump to behind the code, read at pc 1.
     const Outcome outcome = rewrite(assemble(with_method(cat({{op::nop}, branch(op::goto_, 5)}), "jump")));
     EXPECT_EQ(outcome.failure, assertion("pos <= mi->code_len", "com/example/Sample:jump:4"));
-    EXPECT_EQ(outcome.source_file, "java_crw_demo/injection.h");
+    EXPECT_EQ(outcome.source_file, "java_crw_demo/method_rewrite_state.h");
     const std::string long_name(600, 'n');
     EXPECT_EQ(rewrite(assemble(with_method(branch(op::goto_, 5), long_name))).failure.size(), 511u)
         << "a message has 511 characters at most";

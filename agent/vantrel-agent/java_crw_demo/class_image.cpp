@@ -3,7 +3,9 @@
 #include <cstdio>
 
 #include "constant_pool.h"
-#include "injection.h"
+#include "images.h"
+#include "method_bytecodes.h"
+#include "method_rewrite_state.h"
 
 namespace crw {
 
@@ -18,11 +20,12 @@ constexpr uint16_t kPrivate = 0x0002;
 constexpr uint16_t kStatic = 0x0008;
 constexpr uint16_t kNative = 0x0100;
 
-// access_flags, name_index and descriptor_index of a field, or interface indexes: counts of bytes.
+// Sizes in bytes: a field's access_flags, name_index and descriptor_index; the index of an interface.
 constexpr size_t kFieldHeadSize = 6;
 constexpr size_t kInterfaceSize = 2;
 
-// Names are read as C texts are: up to a zero, which the class file's encoding of text does not have.
+// Names are C texts to the caller, and end at the first zero byte. A proper class file has none: its encoding writes
+// the character zero in two other bytes.
 std::string_view c_string(std::string_view text) {
     return text.substr(0, text.find('\0'));
 }
@@ -65,7 +68,7 @@ void copy_attributes(ClassRewriteState& ci) {
     }
 }
 
-// A field or method of its own for java.lang.Object, without attributes.
+// Writes a field or method without attributes, for java.lang.Object.
 void add_member(ClassRewriteState& ci, uint16_t access_flags, uint32_t name_index, uint32_t descriptor_index) {
     write_u2(ci, access_flags);
     write_u2(ci, name_index);
@@ -73,7 +76,7 @@ void add_member(ClassRewriteState& ci, uint16_t access_flags, uint32_t name_inde
     write_u2(ci, 0);
 }
 
-// The number of fields or methods, to which java.lang.Object gets one more.
+// Returns the number of fields or methods of the class file. java.lang.Object is written with one more.
 uint16_t copy_member_count(ClassRewriteState& ci) {
     const uint16_t count = read_u2(ci);
     write_u2(ci, count + (ci.is_object_class ? 1U : 0U));
@@ -120,7 +123,7 @@ void copy_methods(ClassRewriteState& ci) {
     }
 }
 
-// The texts with zeros behind them, as C wants them, in one block.
+// The texts as C has them, with a zero at the end of each. They lie in `block`, which must be empty.
 std::vector<const char*> c_strings(const std::vector<std::string_view>& texts, std::string& block) {
     size_t size = 0;
     for (const std::string_view text : texts) {

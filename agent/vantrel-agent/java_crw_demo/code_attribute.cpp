@@ -1,6 +1,7 @@
 #include "code_attribute.h"
 
 #include "constant_pool.h"
+#include "images.h"
 #include "stack_maps.h"
 
 namespace crw {
@@ -11,13 +12,13 @@ void write_new_pc(MethodRewriteState& mi) {
     write_u2(mi.ci, static_cast<uint32_t>(mi.new_pc(read_u2(mi.ci))));
 }
 
-// Where something begins that begins with the method: there it stays, so that the injection at the entry is part of
-// it.
+// Where a line or a variable starts. One that starts with the method still does, so that the call at the entry is part
+// of it.
 int32_t new_start(const MethodRewriteState& mi, uint16_t start_pc) {
     return start_pc == 0 ? 0 : mi.new_pc(start_pc);
 }
 
-// The number of entries of a table, which must lie inside its attribute.
+// Returns the number of entries of a table. All of them must be inside the attribute.
 uint16_t copy_table_length(MethodRewriteState& mi, uint32_t attr_len, size_t entry_size) {
     ClassRewriteState& ci = mi.ci;
     const uint16_t length = copy_u2(ci);

@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+#include "images.h"
+
 namespace crw {
 
 namespace {
@@ -24,12 +26,13 @@ enum Tag : uint8_t {
     kInvokeDynamic = 18,
 };
 
-// How many bytes follow the tag; those of a Utf8 entry's text come on top. 0 for a tag that is none.
+// By tag, how many bytes follow it, not counting the text of a Utf8 entry. 0 where there is no such tag.
 constexpr uint8_t kSizes[] = {0, 2, 0, 4, 4, 8, 8, 2, 2, 4, 4, 4, 4, 0, 0, 3, 2, 0, 4};
 
 constexpr const char* kIndexRule = "c_index > 0 && c_index < ci->cpool_count_plus_one";
 
-// The capacity that the pool has is the class file's count and this, in 16 bits.
+// The pool may grow by so much. The sum of the class file's count and this is kept in 16 bits, and so a pool that is
+// already half full or more gets a capacity below its count, and fails.
 constexpr uint32_t kGrowth = 0x7FFF;
 
 // The largest class number that is pushed without a constant.
@@ -77,8 +80,7 @@ uint16_t add_method(ClassRewriteState& ci, const Tracker& tracker) {
     return add_pair(ci, kMethodref, ci.tracker_class_index, add_pair(ci, kNameAndType, name, descriptor));
 }
 
-// The entry at an index: one of the class file's, or one that was appended. A class file that is not well formed may
-// refer to those too.
+// The entry at an index. It may be one that was appended: a class file that is not well formed can refer to it.
 Constant constant_at(const ClassRewriteState& ci, uint32_t index) {
     require(ci, index > 0 && index < ci.cpool_count_plus_one, kIndexRule);
     const size_t own_count = ci.constant_positions.size();
@@ -119,7 +121,8 @@ void cpool_index(ClassRewriteState& ci) {
             ++index;
         }
     }
-    // What is appended is a few dozen entries: it fits, unless the capacity has wrapped to less than the count.
+    // Once is enough for the few dozen entries that are appended: either the capacity has wrapped to less than the
+    // count, or there is room for thousands.
     require(ci, ci.cpool_count_plus_one < ci.cpool_max_elements, "ci->cpool_count_plus_one < ci->cpool_max_elements");
 }
 

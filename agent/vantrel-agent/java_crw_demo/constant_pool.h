@@ -1,6 +1,7 @@
-// The class file's constant pool (JVM specification, section 4.4): it is indexed where it lies in the input, copied as
-// a whole, and extended with what the injected code and java.lang.Object's new members refer to. Entries are appended
-// in a fixed order and never shared with those that are there already.
+// The constant pool (JVM specification, section 4.4). Its entries stay where they are in the class file, and the record
+// of the class keeps their positions. The new image gets a copy of the whole pool, and after it the rewriter's own
+// entries: those that the injected calls and java.lang.Object's new members refer to. They come in a fixed order, and
+// are added even where the pool has an equal one already.
 #ifndef JAVA_CRW_DEMO_CONSTANT_POOL_H
 #define JAVA_CRW_DEMO_CONSTANT_POOL_H
 
@@ -10,11 +11,11 @@
 
 namespace crw {
 
-// Indexes the pool, with the cursor on constant_pool_count, and leaves it behind the last entry. Fails for a tag that
-// versions up to 52 do not have.
+// Reads the pool, from constant_pool_count to the last entry, and keeps the entries' positions. Fails for a tag that
+// class files up to version 52 do not have.
 void cpool_index(ClassRewriteState& ci);
 
-// Indexes the pool, copies and extends it, and writes the new count.
+// Reads the pool as above, copies it, appends the rewriter's entries and writes the new count.
 void cpool_setup(ClassRewriteState& ci);
 
 // The text of a Utf8 entry. Fails where the index does not lead to one.

@@ -1,9 +1,9 @@
-// The one path that every failure takes.
+#include "failure.h"
+
 #include <cstdio>
 #include <cstdlib>
 
-#include "class_rewrite_state.h"
-#include "injection.h"
+#include "method_rewrite_state.h"
 
 namespace crw {
 
@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kSources = "java_crw_demo/";
 
-// A source file's path from the rewriter's own folder on, wherever it was built.
+// The part of a source file's path that does not depend on where it was built.
 const char* from_sources_on(const char* file) {
     const size_t start = std::string_view(file).rfind(kSources);
     return start == std::string_view::npos ? file : file + start;

@@ -1,11 +1,13 @@
 #include "java_crw_demo.h"
 
 #include <cstdlib>
+#include <memory>
 #include <new>
 #include <string_view>
 
 #include "class_image.h"
-#include "class_rewrite_state.h"
+#include "images.h"
+#include "method_rewrite_state.h"
 
 namespace crw {
 
@@ -28,8 +30,7 @@ Owned<T> allocate(size_t size, JavaCrwDemoErrorHandler handler) {
     return block;
 }
 
-// How much longer than the class file its new image may be: every method may double, and a few hundred bytes cover the
-// added constants and members.
+// How long the new image may be. Every method may double, and the rest is for the added constants and members.
 size_t allowance(size_t file_len) {
     constexpr size_t kForConstantsAndMembers = 512;
     return 2 * file_len + kForConstantsAndMembers;
@@ -52,13 +53,13 @@ void require_tracker(const Tracker& tracker, std::string_view signature, const c
                      failure, handler);
 }
 
-// The arguments have been checked. Returns the new image, and leaves its length in the state's output position.
+// Rewrites a class whose arguments have been checked. The length of the new image is the record's output position.
 Owned<unsigned char> rewrite(ClassRewriteState& ci) {
     ci.output_len = allowance(ci.input_len);
     Owned<unsigned char> image = allocate<unsigned char>(ci.output_len, ci.fatal_error_handler);
     ci.output = image.get();
     inject_class(ci);
-    // Shrinking leaves the block as it is where it fails.
+    // Where shrinking fails the block stays as it is.
     if (void* shrunk = realloc(image.get(), ci.output_position)) {
         (void)image.release();
         image.reset(static_cast<unsigned char*>(shrunk));
@@ -75,7 +76,8 @@ void check_trackers(const ClassRewriteState& ci) {
     require_tracker(ci.newarray_tracker, "(Ljava/lang/Object;)V", "newarray_sig is not (Ljava/lang/Object;)V", handler);
 }
 
-// Runs one of the functions below. Their results are set to nothing before a failure can come.
+// Runs the body of an exported function, and lets nothing but a handler's own exception leave it. The function has set
+// its results to nothing before.
 template <typename Body>
 void guarded(JavaCrwDemoErrorHandler handler, const Body& body) {
     try {

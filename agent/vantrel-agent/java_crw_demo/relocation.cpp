@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "images.h"
 #include "opcodes.h"
 
 namespace crw {
@@ -13,7 +14,7 @@ constexpr int32_t kFarthestForward = INT16_MAX;
 constexpr int32_t kFarthestBack = INT16_MIN;
 
 constexpr int8_t kGrowthOfGoto = 2;         // goto_w, jsr_w
-constexpr int8_t kGrowthOfConditional = 5;  // a goto_w behind the inverted condition
+constexpr int8_t kGrowthOfConditional = 5;  // a goto_w after the opposite condition
 constexpr int32_t kLargestPaddingChange = 3;
 
 bool fits(int32_t offset) {
@@ -41,13 +42,13 @@ uint32_t target_of(const Site& site, int32_t offset) {
     return site.pc + static_cast<uint32_t>(offset);
 }
 
-// What the branches of a method may come to.
+// What can be said of a method before anything grows.
 struct Outlook {
     bool has_switch = false;
-    int32_t longest_new_code = 0;
+    int32_t longest_new_code = 0;  // if all of them grew
 };
 
-// Looks at every branch once, and finds those that lead nowhere.
+// Looks at every branch and switch once. Fails for a branch out of the code.
 Outlook look_at_branches(MethodRewriteState& mi, const uint8_t* code) {
     Outlook outlook;
     outlook.longest_new_code = mi.map[mi.code_len];
@@ -79,7 +80,7 @@ void apply_widenings(MethodRewriteState& mi) {
     std::for_each(from, mi.map.begin() + mi.code_len + 1, [shift](int32_t& pc) { pc += shift; });
 }
 
-// Where no branch can become too long: each switch depends only on those before it.
+// For code in which no branch can become too long. The paddings follow one from the other.
 void adjust_paddings(MethodRewriteState& mi) {
     int32_t shift = 0;
     for (Site& site : mi.sites) {
@@ -91,13 +92,13 @@ void adjust_paddings(MethodRewriteState& mi) {
     }
 }
 
-// A site whose widening is open.
+// A site of which it is not known yet how much it grows.
 struct Candidate {
     Site* site;
     int32_t new_pc;      // as the map has it before any widening
-    int32_t offset;      // of a branch, likewise
-    size_t before;       // how many candidates end at or before a branch's target
-    int8_t full_growth;  // of a branch
+    int32_t offset;      // of a branch, before any widening
+    size_t before;       // how many candidates end at or before the target of a branch
+    int8_t full_growth;  // by how much a branch grows when it does
 };
 
 // Switches, and the branches that may become too long.
@@ -127,7 +128,7 @@ std::vector<Candidate> find_candidates(MethodRewriteState& mi, const uint8_t* co
     return candidates;
 }
 
-// The widening that a candidate asks for, where the ones before it and before its target have moved it so far.
+// The widening that a candidate needs. `shifts` says by how much the candidates before a place have grown so far.
 int8_t wanted(const Candidate& candidate, size_t own, const std::vector<int32_t>& shifts) {
     const Site& site = *candidate.site;
     if (is_switch(site)) {
@@ -141,7 +142,7 @@ int8_t wanted(const Candidate& candidate, size_t own, const std::vector<int32_t>
 
 void adjust_branches_and_paddings(MethodRewriteState& mi, const uint8_t* code, const Outlook& outlook) {
     const std::vector<Candidate> candidates = find_candidates(mi, code, outlook);
-    // By how much the first so many candidates have grown.
+    // shifts[n]: by how much the first n candidates have grown, all together.
     std::vector<int32_t> shifts(candidates.size() + 1, 0);
     for (size_t i = 0; i < candidates.size();) {
         Site& site = *candidates[i].site;
@@ -164,7 +165,7 @@ int32_t new_offset(const MethodRewriteState& mi, const Site& site, int32_t old_o
     return mi.new_pc(target_of(site, old_offset)) - mi.map[site.pc];
 }
 
-// A condition and its opposite stand side by side among the opcodes.
+// A condition and its opposite are neighbours among the opcodes.
 uint8_t inverted(uint8_t opcode) {
     const unsigned first = opcode >= kIfnull ? kIfnull : kIfeq;
     return static_cast<uint8_t>(first + ((opcode - first) ^ 1U));

@@ -1,5 +1,7 @@
 #include "stack_maps.h"
 
+#include "images.h"
+
 namespace crw {
 
 namespace {
@@ -16,7 +18,7 @@ enum FrameType : uint8_t {
     kFull = 255,
 };
 
-// The short forms have their delta in the type.
+// The short forms have their delta in the frame type, and so many values for it.
 constexpr int32_t kDeltasInType = 64;
 
 enum VerificationType : uint8_t {
@@ -24,7 +26,7 @@ enum VerificationType : uint8_t {
     kUninitialized = 8,
 };
 
-// An attribute's frames must lie inside it: as long as one of these lives, the input ends where the attribute does.
+// Keeps reading inside one attribute: as long as it lives, the class file ends where the attribute does.
 class InputOfAttribute {
   public:
     InputOfAttribute(ClassRewriteState& ci, uint32_t attr_len) : ci_(ci), whole_(ci.input_len) {
@@ -57,7 +59,7 @@ void copy_counted_verification_types(MethodRewriteState& mi) {
     copy_verification_types(mi, copy_u2(mi.ci));
 }
 
-// A short form with its new delta in it, or the extended form where that does not fit.
+// Writes a frame in its short form, or in its extended form where the delta does not fit.
 void write_short_frame(ClassRewriteState& ci, FrameType short_form, FrameType extended_form, int32_t delta) {
     if (delta < kDeltasInType) {
         write_u1(ci, static_cast<uint32_t>(short_form + delta));
@@ -67,7 +69,7 @@ void write_short_frame(ClassRewriteState& ci, FrameType short_form, FrameType ex
     }
 }
 
-// The end of an attribute whose frames have been written: its new length.
+// Writes the new length of an attribute whose frames have all been written.
 void write_length(MethodRewriteState& mi, uint32_t attr_len, size_t length_position) {
     ClassRewriteState& ci = mi.ci;
     const size_t new_attr_len = ci.output_position - length_position - sizeof(uint32_t);
@@ -75,7 +77,7 @@ void write_length(MethodRewriteState& mi, uint32_t attr_len, size_t length_posit
     put_u4(ci.output + length_position, static_cast<uint32_t>(new_attr_len));
 }
 
-// The number of entries. An attribute without any is nothing but that number.
+// Returns the number of frames. An attribute without any holds nothing but that number.
 uint16_t copy_entry_count(ClassRewriteState& ci, uint32_t attr_len) {
     const uint16_t count = copy_u2(ci);
     require(ci, count > 0 || attr_len == sizeof count, "attr_len==2");
@@ -86,7 +88,7 @@ uint16_t copy_entry_count(ClassRewriteState& ci, uint32_t attr_len) {
 struct LastFrame {
     int32_t pc = 0;
     int32_t new_pc = 0;
-    int32_t increment = 0;  // a later frame's position is one more than its delta says
+    int32_t increment = 0;  // 1 from the second frame on: a delta there is one less than the distance
 };
 
 void write_frame(MethodRewriteState& mi, LastFrame& last) {

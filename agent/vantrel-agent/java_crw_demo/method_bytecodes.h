@@ -1,0 +1,18 @@
+// A method's Code attribute from its first byte to its last (JVM specification, section 4.7.3), and the order in which
+// the other files work on it: whether the method is instrumented at all, the calls to inject (injection.h), the plan
+// (plan.h), the branches (relocation.h), the new code, and the tables that follow the code (code_attribute.h).
+#ifndef JAVA_CRW_DEMO_METHOD_BYTECODES_H
+#define JAVA_CRW_DEMO_METHOD_BYTECODES_H
+
+#include <cstdint>
+
+#include "class_rewrite_state.h"
+
+namespace crw {
+
+// Rewrites the Code attribute of the method with a number. Both images are at the attribute's length, after its name.
+void method_write_bytecodes(ClassRewriteState& ci, uint32_t number);
+
+}  // namespace crw
+
+#endif
