@@ -57,6 +57,10 @@ TEST(Library, ExportsItsInterfaceAndNothingElse) {
         // the rewriter
         "java_crw_demo",
         "java_crw_demo_classname",
+        "vantrel_rewriter_interface_version",
+        "vantrel_rewriter_newest_class_file_version",
+        "vantrel_rewriter_release",
+        "vantrel_rewriter_rewrite",
         // the generator
         "CanAcceptField(char*, char*, int)",
         "CanAcceptMethod(char*, char*, int)",

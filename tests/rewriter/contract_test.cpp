@@ -77,7 +77,7 @@ struct Expected {
     }
 
     // The whole image is compared, and so nothing else may have changed.
-    void expect(const ClassFile& before, const RewriteOptions& options) {
+    void expect(const ClassFile& before, const RewriteOptions& options) const {
         const Outcome outcome = rewrite(assemble(before), options);
         EXPECT_EQ(outcome.failure, "");
         EXPECT_EQ(outcome.image, assemble(file));

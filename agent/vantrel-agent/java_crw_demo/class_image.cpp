@@ -12,13 +12,14 @@ namespace crw {
 namespace {
 
 constexpr uint32_t kMagic = 0xCAFEBABE;
-constexpr uint16_t kNewestMajorVersion = 52;
+constexpr uint16_t kNewestMajorVersion = 52;  // of java_crw_demo
 
 // JVM specification, tables 4.5-A and 4.6-A.
 constexpr uint16_t kPublic = 0x0001;
 constexpr uint16_t kPrivate = 0x0002;
 constexpr uint16_t kStatic = 0x0008;
 constexpr uint16_t kNative = 0x0100;
+constexpr uint16_t kModule = 0x8000;
 
 // Sizes in bytes: a field's access_flags, name_index and descriptor_index; the index of an interface.
 constexpr size_t kFieldHeadSize = 6;
@@ -31,19 +32,19 @@ std::string_view c_string(std::string_view text) {
 }
 
 void copy_magic(ClassRewriteState& ci) {
-    require(ci, copy_u4(ci) == kMagic, "magic==0xCAFEBABE");
+    require(ci, copy_u4(ci) == kMagic, kMagicRule);
 }
 
 void copy_versions(ClassRewriteState& ci) {
     copy_u2(ci);
-    require(ci, copy_u2(ci) <= kNewestMajorVersion,
-            "(classfileMajorVersion <= JVM_CLASSFILE_MAJOR_VERSION) || "
-            "((classfileMajorVersion == JVM_CLASSFILE_MAJOR_VERSION) && "
-            "(classfileMinorVersion <= JVM_CLASSFILE_MINOR_VERSION))");
+    const uint16_t newest = ci.door == Door::kJavaCrwDemo ? kNewestMajorVersion : kNewestModernMajorVersion;
+    ci.major_version = copy_u2(ci);
+    require(ci, ci.major_version <= newest, kVersionRule);
 }
 
 void copy_this_class(ClassRewriteState& ci) {
-    const std::string_view own_name = cpool_class_name(ci, copy_u2(ci));
+    ci.this_class_index = copy_u2(ci);
+    const std::string_view own_name = cpool_class_name(ci, ci.this_class_index);
     if (!ci.name) {
         ci.name = c_string(own_name);
         require(ci, ci.name->find('.') == std::string_view::npos, "strchr(ci->name,'.')==NULL");
@@ -84,7 +85,8 @@ uint16_t copy_member_count(ClassRewriteState& ci) {
 }
 
 void copy_fields(ClassRewriteState& ci) {
-    if (ci.is_object_class) {
+    // java_crw_demo's contract. Otherwise standard output is the program's that the rewriter is in.
+    if (ci.is_object_class && ci.door == Door::kJavaCrwDemo) {
         printf("add field to : %s\n", ci.name->c_str());
     }
     const uint16_t count = copy_member_count(ci);
@@ -98,13 +100,13 @@ void copy_fields(ClassRewriteState& ci) {
 }
 
 void copy_method(ClassRewriteState& ci, uint16_t number) {
-    copy_u2(ci);  // access_flags
+    const uint16_t access_flags = copy_u2(ci);
     ci.method_names.push_back(c_string(cpool_text(ci, copy_u2(ci))));
     ci.method_descriptors.push_back(c_string(cpool_text(ci, copy_u2(ci))));
     const uint16_t attribute_count = copy_u2(ci);
     for (uint16_t i = 0; i < attribute_count; ++i) {
         if (attribute_match(ci, copy_u2(ci), "Code")) {
-            method_write_bytecodes(ci, number);
+            method_write_bytecodes(ci, number, access_flags);
         } else {
             copy_bytes(ci, copy_u4(ci));
         }
@@ -144,7 +146,7 @@ void tell_method_names(const ClassRewriteState& ci) {
     std::string descriptor_block;
     std::vector<const char*> names = c_strings(ci.method_names, name_block);
     std::vector<const char*> descriptors = c_strings(ci.method_descriptors, descriptor_block);
-    ci.mnum_callback(ci.number, names.data(), descriptors.data(), static_cast<int>(names.size()));
+    ci.mnum_callback(ci.mnum_context, ci.number, names.data(), descriptors.data(), static_cast<int>(names.size()));
 }
 
 }  // namespace
@@ -153,20 +155,29 @@ void inject_class(ClassRewriteState& ci) {
     copy_magic(ci);
     copy_versions(ci);
     cpool_setup(ci);
-    copy_u2(ci);  // access_flags
+    const uint16_t access_flags = copy_u2(ci);
+    if (ci.door == Door::kVantrelRewriter && (access_flags & kModule) != 0) {
+        ci.is_module_info = true;
+        return;
+    }
     copy_this_class(ci);
     copy_super_class(ci);
     copy_bytes(ci, copy_u2(ci) * kInterfaceSize);
     copy_fields(ci);
     copy_methods(ci);
-    if (ci.mnum_callback != nullptr) {
+    const bool tells_before_the_end = ci.door == Door::kJavaCrwDemo;
+    if (ci.mnum_callback != nullptr && tells_before_the_end) {
         tell_method_names(ci);
     }
     copy_attributes(ci);
+    cpool_insert_late_constants(ci);
+    if (ci.mnum_callback != nullptr && !tells_before_the_end) {
+        tell_method_names(ci);
+    }
 }
 
 std::string_view read_class_name(ClassRewriteState& ci) {
-    require(ci, read_u4(ci) == kMagic, "magic==0xCAFEBABE");
+    require(ci, read_u4(ci) == kMagic, kMagicRule);
     read_u4(ci);  // versions
     cpool_index(ci);
     read_u2(ci);  // access_flags

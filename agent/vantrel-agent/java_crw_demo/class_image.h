@@ -3,14 +3,24 @@
 #ifndef JAVA_CRW_DEMO_CLASS_IMAGE_H
 #define JAVA_CRW_DEMO_CLASS_IMAGE_H
 
+#include <cstdint>
 #include <string_view>
 
 #include "class_rewrite_state.h"
 
 namespace crw {
 
+constexpr uint16_t kNewestModernMajorVersion = 69;
+
+// What a failure says of a class file whose version is too new.
+constexpr const char* kVersionRule =
+    "(classfileMajorVersion <= JVM_CLASSFILE_MAJOR_VERSION) || "
+    "((classfileMajorVersion == JVM_CLASSFILE_MAJOR_VERSION) && "
+    "(classfileMinorVersion <= JVM_CLASSFILE_MINOR_VERSION))";
+constexpr const char* kMagicRule = "magic==0xCAFEBABE";
+
 // Rewrites the class. The record must have the images, the trackers and the flags; afterwards its output position is
-// the length of the new image.
+// the length of the new image. A module-info is only recognised as one: it has no code, and no new image either.
 void inject_class(ClassRewriteState& ci);
 
 // The name of the class, for which the class file is read up to this_class. The text lies in the class file.

@@ -8,9 +8,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
-
-#include "java_crw_demo.h"
 
 namespace crw {
 
@@ -32,9 +31,15 @@ struct Constant {
     std::string_view text;  // of a Utf8 entry
 };
 
+// Which function was called. The contract of java_crw_demo is kept as it is; what has come to class files since, and
+// what makes every stack map hold, is only for those who call the other one.
+enum class Door : uint8_t { kJavaCrwDemo, kVantrelRewriter };
+
 struct ClassRewriteState {
     uint32_t number = 0;
     std::optional<std::string> name;
+    uint16_t major_version = 0;
+    uint16_t this_class_index = 0;
 
     // The class file and its new image. images.h has the functions that read and write them.
     const uint8_t* input = nullptr;
@@ -50,7 +55,13 @@ struct ClassRewriteState {
     std::vector<Constant> appended_constants;
     uint16_t cpool_max_elements = 0;
     uint16_t cpool_count_plus_one = 0;
+    // Entries that are found to be needed after the pool has been written. They are put where they belong at the end.
+    std::vector<uint8_t> late_constants;
+    size_t end_of_pool = 0;  // in the output
+    size_t pool_count_position = 0;
+    std::unordered_map<std::string, uint16_t> class_constants;  // by name; filled when a stack map asks for it
 
+    bool is_module_info = false;
     bool is_system_class = false;
     bool is_object_class = false;
     bool is_thread_class = false;
@@ -71,8 +82,11 @@ struct ClassRewriteState {
     uint32_t get_track_id_method_name_and_type_index = 0;
     uint32_t get_track_id_method_ref_index = 0;
 
-    JavaCrwDemoErrorHandler fatal_error_handler = nullptr;
-    JavaCrwDemoMethodNames mnum_callback = nullptr;
+    Door door = Door::kJavaCrwDemo;
+    // Told the names and descriptors of the class's methods. May be null.
+    void (*mnum_callback)(void* context, unsigned class_number, const char** names, const char** descriptors,
+                          int method_count) = nullptr;
+    void* mnum_context = nullptr;
 
     std::vector<std::string_view> method_names;  // in the order of the class file; the texts lie in the input
     std::vector<std::string_view> method_descriptors;

@@ -3,6 +3,7 @@
 #include "constant_pool.h"
 #include "images.h"
 #include "stack_maps.h"
+#include "type_annotations.h"
 
 namespace crw {
 
@@ -10,12 +11,6 @@ namespace {
 
 void write_new_pc(MethodRewriteState& mi) {
     write_u2(mi.ci, static_cast<uint32_t>(mi.new_pc(read_u2(mi.ci))));
-}
-
-// Where a line or a variable starts. One that starts with the method still does, so that the call at the entry is part
-// of it.
-int32_t new_start(const MethodRewriteState& mi, uint16_t start_pc) {
-    return start_pc == 0 ? 0 : mi.new_pc(start_pc);
 }
 
 // Returns the number of entries of a table. All of them must be inside the attribute.
@@ -52,6 +47,10 @@ void write_var_table(MethodRewriteState& mi, uint32_t attr_len) {
 
 }  // namespace
 
+int32_t new_start(const MethodRewriteState& mi, uint16_t start_pc) {
+    return start_pc == 0 ? 0 : mi.new_pc(start_pc);
+}
+
 void write_exception_table(MethodRewriteState& mi) {
     for (uint16_t left = copy_u2(mi.ci); left > 0; --left) {
         write_new_pc(mi);  // start_pc
@@ -74,6 +73,9 @@ void method_write_code_attribute(MethodRewriteState& mi) {
         write_stack_map_table(mi, attr_len, length_position);
     } else if (name == "StackMap") {
         write_stack_map(mi, attr_len, length_position);
+    } else if (ci.door == Door::kVantrelRewriter &&
+               (name == "RuntimeVisibleTypeAnnotations" || name == "RuntimeInvisibleTypeAnnotations")) {
+        write_type_annotations(mi, attr_len);
     } else {
         copy_bytes(ci, attr_len);
     }

@@ -8,6 +8,10 @@
 
 namespace crw {
 
+// Where a line or a variable starts. One that starts with the method still does, so that the call at the entry is part
+// of it.
+int32_t new_start(const MethodRewriteState& mi, uint16_t start_pc);
+
 // Rewrites the exception table, from its length on.
 void write_exception_table(MethodRewriteState& mi);
 

@@ -12,11 +12,26 @@
 namespace crw {
 
 // Reads the pool, from constant_pool_count to the last entry, and keeps the entries' positions. Fails for a tag that
-// class files up to version 52 do not have.
+// class files of the versions that are taken do not have.
 void cpool_index(ClassRewriteState& ci);
 
 // Reads the pool as above, copies it, appends the rewriter's entries and writes the new count.
 void cpool_setup(ClassRewriteState& ci);
+
+// The index of a Class entry for a name or an array's descriptor: one of the class file's, or one that is added when
+// the whole class has been rewritten. The first call of a class goes through the pool.
+uint16_t cpool_class_index(ClassRewriteState& ci, std::string_view name);
+
+// Puts the entries that were added after the pool had been written to its end, and corrects the count.
+void cpool_insert_late_constants(ClassRewriteState& ci);
+
+// The descriptor of a field or method by the index of its Fieldref, Methodref, InterfaceMethodref, InvokeDynamic or
+// Dynamic entry, and the name of a method likewise.
+std::string_view cpool_member_descriptor(const ClassRewriteState& ci, uint32_t index);
+std::string_view cpool_member_name(const ClassRewriteState& ci, uint32_t index);
+
+// The tag of an entry (JVM specification, table 4.4-A).
+uint8_t cpool_tag(const ClassRewriteState& ci, uint32_t index);
 
 // The text of a Utf8 entry. Fails where the index does not lead to one.
 std::string_view cpool_text(const ClassRewriteState& ci, uint32_t index);

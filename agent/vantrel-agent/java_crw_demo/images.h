@@ -62,7 +62,9 @@ inline uint32_t read_u4(ClassRewriteState& ci) {
 
 // Room for the next `count` bytes of the new image, which the caller fills.
 inline uint8_t* room_for(ClassRewriteState& ci, size_t count) {
-    require(ci, ci.output_len - ci.output_position >= count, kInsideImages);
+    if (ci.output_len - ci.output_position < count) [[unlikely]] {
+        output_is_full(ci);
+    }
     uint8_t* room = ci.output + ci.output_position;
     ci.output_position += count;
     return room;

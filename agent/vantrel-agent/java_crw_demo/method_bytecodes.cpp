@@ -71,11 +71,11 @@ class CurrentMethod {
 
 }  // namespace
 
-void method_write_bytecodes(ClassRewriteState& ci, uint32_t number) {
+void method_write_bytecodes(ClassRewriteState& ci, uint32_t number, uint16_t access_flags) {
     const uint32_t attr_len = copy_attribute_length(ci);
     const size_t body = ci.output_position;
     const uint16_t max_stack = copy_u2(ci);
-    copy_u2(ci);  // max_locals
+    const uint16_t max_locals = copy_u2(ci);
     const uint32_t code_len = copy_u4(ci);
 
     const std::string_view name = ci.method_names[number];
@@ -86,12 +86,15 @@ void method_write_bytecodes(ClassRewriteState& ci, uint32_t number) {
         return;
     }
     if (code_len >= INT32_MAX) {
-        fatal_error(ci.fatal_error_handler, "Cannot allocate <= 0 bytes");
+        fatal_error(ci, "Cannot allocate <= 0 bytes");
     }
 
     MethodRewriteState mi{.ci = ci,
                           .number = number,
                           .name = name,
+                          .descriptor = descr,
+                          .access_flags = access_flags,
+                          .max_locals = max_locals,
                           .start_of_input_bytecodes = ci.input_position,
                           .code_len = static_cast<int32_t>(code_len),
                           .max_stack = max_stack,

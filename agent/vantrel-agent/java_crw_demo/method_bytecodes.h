@@ -11,7 +11,7 @@
 namespace crw {
 
 // Rewrites the Code attribute of the method with a number. Both images are at the attribute's length, after its name.
-void method_write_bytecodes(ClassRewriteState& ci, uint32_t number);
+void method_write_bytecodes(ClassRewriteState& ci, uint32_t number, uint16_t access_flags);
 
 }  // namespace crw
 

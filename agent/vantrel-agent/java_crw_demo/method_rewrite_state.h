@@ -15,6 +15,7 @@
 //                           a range that starts at pc 0, a return's is not in one that ends at the return.
 //     line, variable        From map[start_pc] on, except that what starts at pc 0 stays there, so that the entry's
 //                           call belongs to the first line. A variable ends at map[start_pc + length].
+//     type annotation       At map[pc] of its instruction, or over a variable's range as above.
 //     stack map frame       At map[pc], and so is the `new` that an uninitialised type names.
 //
 // The plan (plan.h) fills the map as far as injections move the code, relocation (relocation.h) adds what branches and
@@ -52,6 +53,9 @@ struct MethodRewriteState {
     ClassRewriteState& ci;
     uint32_t number;  // in the order of the class file, from 0
     std::string_view name;
+    std::string_view descriptor;
+    uint16_t access_flags;
+    uint16_t max_locals;
     size_t start_of_input_bytecodes;
     int32_t code_len;
     int32_t new_code_len = 0;

@@ -110,7 +110,7 @@ class Planner {
                 return end_of_instruction(pc + length_of_wide(pc));
             default:
                 if (opcode > kLastOpcode) {
-                    fatal_error(mi_.ci.fatal_error_handler, "Invalid opcode supplied to opcode_length()");
+                    fatal_error(mi_.ci, "Invalid opcode supplied to opcode_length()");
                 }
                 return note(pc, pc + 3, Site::kBranch);
         }
@@ -153,7 +153,7 @@ class Planner {
         const bool is_load_or_store = (modified >= kIload && modified <= kAload) ||
                                       (modified >= kIstore && modified <= kAstore) || modified == kRet;
         if (!is_load_or_store) {
-            fatal_error(mi_.ci.fatal_error_handler, "Invalid opcode supplied to wide opcode");
+            fatal_error(mi_.ci, "Invalid opcode supplied to wide opcode");
         }
         return 4;
     }

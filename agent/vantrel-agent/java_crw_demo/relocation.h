@@ -8,14 +8,20 @@
 // padding that is wrong, changes that, and starts again at pc 0, until it finds nothing. So the order of the changes
 // matters: while the scan looks at a branch, a switch further on may still have the padding of its old place.
 //
-// A widened conditional branch lands after its goto_w, where there was no branch target before. That place gets no
-// stack map frame.
+// A widened conditional branch lands after its goto_w, where there was no branch target before. A stack map needs a
+// frame there (landing_frames.h).
 #ifndef JAVA_CRW_DEMO_RELOCATION_H
 #define JAVA_CRW_DEMO_RELOCATION_H
 
 #include "method_rewrite_state.h"
 
 namespace crw {
+
+// Whether a site is a conditional branch that has become a longer one.
+inline bool is_widened_conditional(const Site& site) {
+    constexpr int8_t kGrowthOfConditional = 5;
+    return site.kind == Site::kBranch && site.widening == kGrowthOfConditional;
+}
 
 // Decides how much each site grows, and moves the map by it. Fails for a branch out of the code.
 void adjust_instructions(MethodRewriteState& mi);

@@ -1,30 +1,12 @@
 #include "stack_maps.h"
 
 #include "images.h"
+#include "landing_frames.h"
+#include "stack_map_format.h"
 
 namespace crw {
 
 namespace {
-
-// The first frame type of each kind (JVM specification, section 4.7.4).
-enum FrameType : uint8_t {
-    kSame = 0,
-    kSameLocalsOneStackItem = 64,
-    kReserved = 128,
-    kSameLocalsOneStackItemExtended = 247,
-    kChop = 248,
-    kSameExtended = 251,
-    kAppend = 252,
-    kFull = 255,
-};
-
-// The short forms have their delta in the frame type, and so many values for it.
-constexpr int32_t kDeltasInType = 64;
-
-enum VerificationType : uint8_t {
-    kObject = 7,
-    kUninitialized = 8,
-};
 
 // Keeps reading inside one attribute: as long as it lives, the class file ends where the attribute does.
 class InputOfAttribute {
@@ -46,9 +28,9 @@ void copy_verification_types(MethodRewriteState& mi, uint32_t count) {
     for (; count > 0; --count) {
         const uint8_t tag = read_u1(ci);
         write_u1(ci, tag);
-        if (tag == kObject) {
+        if (tag == VerificationType::kObject) {
             copy_u2(ci);
-        } else if (tag == kUninitialized) {
+        } else if (tag == VerificationType::kUninitialized) {
             // The pc of the instruction that makes the object.
             write_u2(ci, static_cast<uint32_t>(mi.new_pc(read_u2(ci))));
         }
@@ -84,20 +66,9 @@ uint16_t copy_entry_count(ClassRewriteState& ci, uint32_t attr_len) {
     return count;
 }
 
-// The frame before the one that is being written.
-struct LastFrame {
-    int32_t pc = 0;
-    int32_t new_pc = 0;
-    int32_t increment = 0;  // 1 from the second frame on: a delta there is one less than the distance
-};
-
 void write_frame(MethodRewriteState& mi, LastFrame& last) {
     ClassRewriteState& ci = mi.ci;
-    const uint8_t type = read_u1(ci);
-    if (type >= kReserved && type < kSameLocalsOneStackItemExtended) {
-        fatal_error(ci.fatal_error_handler, "Unknown frame type in StackMapTable attribute");
-    }
-    const int32_t delta = type < kReserved ? type % kDeltasInType : read_u2(ci);
+    const auto [type, delta] = read_frame_head(ci);
     const int32_t pc = last.pc + delta + last.increment;
     const int32_t new_pc = mi.new_pc(static_cast<uint32_t>(pc));
     const int32_t new_delta = new_pc - last.new_pc - last.increment;
@@ -128,12 +99,19 @@ void write_frame(MethodRewriteState& mi, LastFrame& last) {
 
 void write_stack_map_table(MethodRewriteState& mi, uint32_t attr_len, size_t length_position) {
     const InputOfAttribute input(mi.ci, attr_len);
-    LastFrame last;
+    const size_t count_position = mi.ci.output_position;
     const uint16_t count = copy_entry_count(mi.ci, attr_len);
+    LastFrame last;
+    LandingFrames landings(mi, count);
     for (uint16_t left = count; left > 0; --left) {
-        write_frame(mi, last);
+        landings.write_up_to_next(last);
+        if (!landings.write_instead_of_next(last)) {
+            write_frame(mi, last);
+        }
     }
-    if (count > 0) {
+    landings.write_rest(last);
+    if (count + landings.count() > 0) {
+        put_u2(mi.ci.output + count_position, count + landings.count());
         write_length(mi, attr_len, length_position);
     }
 }
