@@ -13,6 +13,7 @@ namespace {
 
 constexpr uint32_t kMagic = 0xCAFEBABE;
 constexpr uint16_t kNewestMajorVersion = 52;  // of java_crw_demo
+constexpr uint16_t kFirstVersionWithModules = 53;
 
 // JVM specification, tables 4.5-A and 4.6-A.
 constexpr uint16_t kPublic = 0x0001;
@@ -156,7 +157,7 @@ void inject_class(ClassRewriteState& ci) {
     copy_versions(ci);
     cpool_setup(ci);
     const uint16_t access_flags = copy_u2(ci);
-    if (ci.door == Door::kVantrelRewriter && (access_flags & kModule) != 0) {
+    if (ci.major_version >= kFirstVersionWithModules && (access_flags & kModule) != 0) {
         ci.is_module_info = true;
         return;
     }
