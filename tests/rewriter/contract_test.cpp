@@ -278,6 +278,20 @@ TEST(RewriterInterface, NoPartOfAClassIsOne) {
     }
 }
 
+// A return grows sevenfold; a byte that stays as it is takes up one and is allowed two. The first class that passes is
+// therefore the one whose image has just the length allowed.
+TEST(RewriterInterface, GrowsNoMoreThanItsAllowance) {
+    ClassFile file = with_code("b1*400");
+    file.attributes = {{"Vendor", {}}};
+    Outcome outcome = rewrite(assemble(file));
+    for (; !outcome.failure.empty(); outcome = rewrite(assemble(file))) {
+        ASSERT_THAT(outcome.failure, StartsWith("CRW ASSERTION FAILURE: " + kInside));
+        ASSERT_LT(file.attributes[0].body.size(), 4000u);
+        file.attributes[0].body.push_back(0);
+    }
+    EXPECT_EQ(outcome.image.size(), 2 * assemble(file).size() + 512);
+}
+
 TEST(Injection, GoesToEntriesReturnsAndNewArrays) {
     expect_code("00 ac ad ae af b0 b1", kAll, "C 00 R ac R ad R ae R af R b0 R b1", 2);
     for (const std::string array : {"bc0a", "bd0001", "c5000102"}) {

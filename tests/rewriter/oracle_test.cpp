@@ -166,7 +166,7 @@ std::vector<Case> limit_cases() {
         file.methods.push_back(file.methods[0]);
         cases.push_back({"an output of 2 * input + 512 bytes at " + std::to_string(returns) + " returns", file, all});
     }
-    for (const std::size_t length : {0U, 65527U, 65528U, 65529U, 65535U, 65536U, 70000U}) {
+    for (const std::size_t length : {0U, 65530U, 65531U, 65535U, 65536U, 70000U}) {
         const ClassFile file = class_with({.bytes = times(length, u1(op::nop))});
         cases.push_back({std::to_string(length) + " bytes of code", file, all});
         cases.push_back({std::to_string(length) + " bytes of code that stay as they are", file, RewriteOptions{}});
@@ -219,6 +219,9 @@ std::vector<Case> names_with_zeros() {
         file.name = "java/lang/Object";
         file.super.clear();
         cases.push_back({"a method of Object, " + name, file, all_trackers()});
+        file.methods[0].name = "<init>";
+        file.methods[0].descriptor = "()V\0x"s;
+        cases.push_back({"a method of Object, with a descriptor", file, all_trackers()});
     }
     for (const std::string& name : {"java/lang/Object\0x"s, "java/lang/Object"s, "a/B\0.c"s, "a.b\0"s, "\0a"s}) {
         ClassFile file;

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "branches.h"
 #include "images.h"
-#include "relocation.h"
 
 namespace crw {
 

@@ -3,44 +3,14 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "branches.h"
 #include "images.h"
 #include "opcodes.h"
+#include "widening.h"
 
 namespace crw {
 
 namespace {
-
-constexpr int32_t kFarthestForward = INT16_MAX;
-constexpr int32_t kFarthestBack = INT16_MIN;
-
-constexpr int8_t kGrowthOfGoto = 2;         // goto_w, jsr_w
-constexpr int8_t kGrowthOfConditional = 5;  // a goto_w after the opposite condition
-constexpr int32_t kLargestPaddingChange = 3;
-
-bool fits(int32_t offset) {
-    return offset >= kFarthestBack && offset <= kFarthestForward;
-}
-
-bool is_switch(const Site& site) {
-    return site.kind == Site::kTableSwitch || site.kind == Site::kLookupSwitch;
-}
-
-int32_t padding_at(int32_t pc) {
-    return 3 - (pc & 3);
-}
-
-int8_t growth_of(uint8_t opcode) {
-    return opcode == kGoto || opcode == kJsr ? kGrowthOfGoto : kGrowthOfConditional;
-}
-
-int16_t offset_of(const Site& site, const uint8_t* code) {
-    return static_cast<int16_t>(u2_at(code + site.pc + 1));
-}
-
-// The old pc that a branch at an old pc leads to. One outside the code is a large number.
-uint32_t target_of(const Site& site, int32_t offset) {
-    return site.pc + static_cast<uint32_t>(offset);
-}
 
 // What can be said of a method before anything grows.
 struct Outlook {
@@ -89,73 +59,6 @@ void adjust_paddings(MethodRewriteState& mi) {
             site.widening = static_cast<int8_t>(padding_at(mi.map[site.pc] + shift) - padding_at(pc));
             shift += site.widening;
         }
-    }
-}
-
-// A site of which it is not known yet how much it grows.
-struct Candidate {
-    Site* site;
-    int32_t new_pc;      // as the map has it before any widening
-    int32_t offset;      // of a branch, before any widening
-    size_t before;       // how many candidates end at or before the target of a branch
-    int8_t full_growth;  // by how much a branch grows when it does
-};
-
-// Switches, and the branches that may become too long.
-std::vector<Candidate> find_candidates(MethodRewriteState& mi, const uint8_t* code, const Outlook& outlook) {
-    const int32_t growth = outlook.longest_new_code - mi.map[mi.code_len];
-    std::vector<Candidate> candidates;
-    for (Site& site : mi.sites) {
-        const int32_t new_pc = mi.map[site.pc];
-        if (is_switch(site)) {
-            candidates.push_back({&site, new_pc, 0, 0, 0});
-        } else if (site.kind == Site::kBranch) {
-            const int32_t offset = mi.map[target_of(site, offset_of(site, code))] - new_pc;
-            if (!fits(offset - growth) || !fits(offset + growth)) {
-                candidates.push_back({&site, new_pc, offset, 0, growth_of(code[site.pc])});
-            }
-        }
-    }
-    for (Candidate& candidate : candidates) {
-        if (candidate.site->kind == Site::kBranch) {
-            const uint32_t target = target_of(*candidate.site, offset_of(*candidate.site, code));
-            candidate.before = static_cast<size_t>(
-                std::partition_point(candidates.begin(), candidates.end(),
-                                     [target](const Candidate& other) { return other.site->pc_next <= target; }) -
-                candidates.begin());
-        }
-    }
-    return candidates;
-}
-
-// The widening that a candidate needs. `shifts` says by how much the candidates before a place have grown so far.
-int8_t wanted(const Candidate& candidate, size_t own, const std::vector<int32_t>& shifts) {
-    const Site& site = *candidate.site;
-    if (is_switch(site)) {
-        return static_cast<int8_t>(padding_at(candidate.new_pc + shifts[own]) -
-                                   padding_at(static_cast<int32_t>(site.pc)));
-    }
-    // A branch that has grown stays so.
-    const bool grows = site.widening != 0 || !fits(candidate.offset + shifts[candidate.before] - shifts[own]);
-    return grows ? candidate.full_growth : int8_t{0};
-}
-
-void adjust_branches_and_paddings(MethodRewriteState& mi, const uint8_t* code, const Outlook& outlook) {
-    const std::vector<Candidate> candidates = find_candidates(mi, code, outlook);
-    // shifts[n]: by how much the first n candidates have grown, all together.
-    std::vector<int32_t> shifts(candidates.size() + 1, 0);
-    for (size_t i = 0; i < candidates.size();) {
-        Site& site = *candidates[i].site;
-        const int8_t widening = wanted(candidates[i], i, shifts);
-        const int32_t change = widening - site.widening;
-        if (change == 0) {
-            ++i;
-            continue;
-        }
-        site.widening = widening;
-        std::for_each(shifts.begin() + static_cast<std::ptrdiff_t>(i) + 1, shifts.end(),
-                      [change](int32_t& shift) { shift += change; });
-        i = 0;
     }
 }
 
@@ -230,7 +133,7 @@ void adjust_instructions(MethodRewriteState& mi) {
     const uint8_t* code = mi.ci.input + mi.start_of_input_bytecodes;
     const Outlook outlook = look_at_branches(mi, code);
     if (!fits(outlook.longest_new_code)) {
-        adjust_branches_and_paddings(mi, code, outlook);
+        settle_widenings(mi, code);
     } else if (outlook.has_switch) {
         adjust_paddings(mi);
     } else {

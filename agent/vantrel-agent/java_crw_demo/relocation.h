@@ -17,12 +17,6 @@
 
 namespace crw {
 
-// Whether a site is a conditional branch that has become a longer one.
-inline bool is_widened_conditional(const Site& site) {
-    constexpr int8_t kGrowthOfConditional = 5;
-    return site.kind == Site::kBranch && site.widening == kGrowthOfConditional;
-}
-
 // Decides how much each site grows, and moves the map by it. Fails for a branch out of the code.
 void adjust_instructions(MethodRewriteState& mi);
 
