@@ -26,12 +26,6 @@ constexpr uint16_t kModule = 0x8000;
 constexpr size_t kFieldHeadSize = 6;
 constexpr size_t kInterfaceSize = 2;
 
-// Names are C texts to the caller, and end at the first zero byte. A proper class file has none: its encoding writes
-// the character zero in two other bytes.
-std::string_view c_string(std::string_view text) {
-    return text.substr(0, text.find('\0'));
-}
-
 void copy_magic(ClassRewriteState& ci) {
     require(ci, copy_u4(ci) == kMagic, kMagicRule);
 }
@@ -62,12 +56,16 @@ void copy_super_class(ClassRewriteState& ci) {
     }
 }
 
-void copy_attributes(ClassRewriteState& ci) {
-    const uint16_t count = copy_u2(ci);
-    for (uint16_t i = 0; i < count; ++i) {
-        copy_u2(ci);
-        copy_bytes(ci, copy_u4(ci));
+void skip_attributes(ClassRewriteState& ci) {
+    constexpr size_t kHeadSize = 6;  // name and length
+    for (uint16_t left = read_u2(ci); left > 0; --left) {
+        read_bytes(ci, u4_at(read_bytes(ci, kHeadSize) + 2));
     }
+}
+
+// Copies what was read since a position, all at once.
+void copy_since(ClassRewriteState& ci, size_t position) {
+    write_bytes(ci, ci.input + position, ci.input_position - position);
 }
 
 // Writes a field or method without attributes, for java.lang.Object.
@@ -88,13 +86,15 @@ uint16_t copy_member_count(ClassRewriteState& ci) {
 void copy_fields(ClassRewriteState& ci) {
     // java_crw_demo's contract. Otherwise standard output is the program's that the rewriter is in.
     if (ci.is_object_class && ci.door == Door::kJavaCrwDemo) {
-        printf("add field to : %s\n", ci.name->c_str());
+        printf("add field to : %.*s\n", static_cast<int>(ci.name->size()), ci.name->data());
     }
     const uint16_t count = copy_member_count(ci);
-    for (uint16_t i = 0; i < count; ++i) {
-        copy_bytes(ci, kFieldHeadSize);
-        copy_attributes(ci);
+    const size_t fields = ci.input_position;
+    for (uint16_t left = count; left > 0; --left) {
+        read_bytes(ci, kFieldHeadSize);
+        skip_attributes(ci);
     }
+    copy_since(ci, fields);
     if (ci.is_object_class) {
         add_member(ci, kPrivate | kStatic, ci.track_name_index, ci.track_desc_index);
     }
@@ -102,12 +102,16 @@ void copy_fields(ClassRewriteState& ci) {
 
 void copy_method(ClassRewriteState& ci, uint16_t number) {
     const uint16_t access_flags = copy_u2(ci);
-    ci.method_names.push_back(c_string(cpool_text(ci, copy_u2(ci))));
-    ci.method_descriptors.push_back(c_string(cpool_text(ci, copy_u2(ci))));
+    const std::string_view name = cpool_text(ci, copy_u2(ci));
+    const std::string_view descriptor = cpool_text(ci, copy_u2(ci));
+    if (ci.mnum_callback != nullptr) {
+        ci.method_names.push_back(c_string(name));
+        ci.method_descriptors.push_back(c_string(descriptor));
+    }
     const uint16_t attribute_count = copy_u2(ci);
     for (uint16_t i = 0; i < attribute_count; ++i) {
         if (attribute_match(ci, copy_u2(ci), "Code")) {
-            method_write_bytecodes(ci, number, access_flags);
+            method_write_bytecodes(ci, {number, access_flags, name, descriptor});
         } else {
             copy_bytes(ci, copy_u4(ci));
         }
@@ -116,8 +120,10 @@ void copy_method(ClassRewriteState& ci, uint16_t number) {
 
 void copy_methods(ClassRewriteState& ci) {
     const uint16_t count = copy_member_count(ci);
-    ci.method_names.reserve(count);
-    ci.method_descriptors.reserve(count);
+    if (ci.mnum_callback != nullptr) {
+        ci.method_names.reserve(count);
+        ci.method_descriptors.reserve(count);
+    }
     for (uint16_t number = 0; number < count; ++number) {
         copy_method(ci, number);
     }
@@ -170,7 +176,9 @@ void inject_class(ClassRewriteState& ci) {
     if (ci.mnum_callback != nullptr && tells_before_the_end) {
         tell_method_names(ci);
     }
-    copy_attributes(ci);
+    const size_t attributes = ci.input_position;
+    skip_attributes(ci);
+    copy_since(ci, attributes);
     cpool_insert_late_constants(ci);
     if (ci.mnum_callback != nullptr && !tells_before_the_end) {
         tell_method_names(ci);

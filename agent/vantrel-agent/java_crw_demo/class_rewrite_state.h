@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,20 +25,13 @@ struct Tracker {
     uint16_t index = 0;
 };
 
-// An entry of the constant pool, as far as the rewriter needs it.
-struct Constant {
-    uint8_t tag;
-    uint16_t name_index;    // of a Class entry
-    std::string_view text;  // of a Utf8 entry
-};
-
 // Which function was called. The contract of java_crw_demo is kept as it is; what has come to class files since, and
 // what makes every stack map hold, is only for those who call the other one.
 enum class Door : uint8_t { kJavaCrwDemo, kVantrelRewriter };
 
 struct ClassRewriteState {
     uint32_t number = 0;
-    std::optional<std::string> name;
+    std::optional<std::string_view> name;  // lies in the class file, or is the caller's
     uint16_t major_version = 0;
     uint16_t this_class_index = 0;
 
@@ -52,12 +46,12 @@ struct ClassRewriteState {
     // The constant pool. For each index of the class file, the position of its tag in the input; 0 for an index that
     // has no entry. The rewriter's own entries have the indexes that follow.
     std::vector<uint32_t> constant_positions;
-    std::vector<Constant> appended_constants;
     uint16_t cpool_max_elements = 0;
     uint16_t cpool_count_plus_one = 0;
     // Entries that are found to be needed after the pool has been written. They are put where they belong at the end.
     std::vector<uint8_t> late_constants;
-    size_t end_of_pool = 0;  // in the output
+    size_t end_of_own_pool = 0;  // in the output: where the class file's entries end, and where all do
+    size_t end_of_pool = 0;
     size_t pool_count_position = 0;
     std::unordered_map<std::string, uint16_t> class_constants;  // by name; filled when a stack map asks for it
 
@@ -88,13 +82,14 @@ struct ClassRewriteState {
                           int method_count) = nullptr;
     void* mnum_context = nullptr;
 
-    std::vector<std::string_view> method_names;  // in the order of the class file; the texts lie in the input
+    std::vector<std::string_view> method_names;  // in the order of the class file, if anybody wants to be told them
     std::vector<std::string_view> method_descriptors;
     const MethodRewriteState* current_method = nullptr;  // for the texts of failures
 
     // The room for a method's map and sites (method_rewrite_state.h). It is kept from one method to the next, so that
     // a class needs no more of it than its longest method does.
-    std::vector<int32_t> map;
+    std::unique_ptr<int32_t[]> map;
+    size_t map_size = 0;
     std::vector<Site> sites;
 };
 

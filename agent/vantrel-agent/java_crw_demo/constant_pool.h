@@ -7,7 +7,7 @@
 
 #include <string_view>
 
-#include "class_rewrite_state.h"
+#include "images.h"
 
 namespace crw {
 
@@ -34,7 +34,19 @@ std::string_view cpool_member_name(const ClassRewriteState& ci, uint32_t index);
 uint8_t cpool_tag(const ClassRewriteState& ci, uint32_t index);
 
 // The text of a Utf8 entry. Fails where the index does not lead to one.
-std::string_view cpool_text(const ClassRewriteState& ci, uint32_t index);
+// cpool_odd_text is the part of it that a proper class file does not come to.
+std::string_view cpool_odd_text(const ClassRewriteState& ci, uint32_t index);
+inline std::string_view cpool_text(const ClassRewriteState& ci, uint32_t index) {
+    constexpr uint8_t kUtf8 = 1;
+    // Position 0 is no entry's; the class file begins with something else than that tag there.
+    if (index < ci.constant_positions.size()) [[likely]] {
+        const uint8_t* entry = ci.input + ci.constant_positions[index];
+        if (entry[0] == kUtf8) [[likely]] {
+            return {reinterpret_cast<const char*>(entry) + 3, u2_at(entry + 1)};
+        }
+    }
+    return cpool_odd_text(ci, index);
+}
 
 // The name of a class by the index of its Class entry.
 std::string_view cpool_class_name(const ClassRewriteState& ci, uint32_t index);

@@ -28,7 +28,8 @@ Failure failure_at(const char* condition, const char* file, int line) {
 
 Failure failure_in(const ClassRewriteState& ci, const char* condition, const char* file, int line) {
     Failure failure = failure_at(condition, file, line);
-    snprintf(failure.class_name, sizeof failure.class_name, "%s", ci.name ? ci.name->c_str() : "");
+    const std::string_view name = ci.name.value_or("");
+    snprintf(failure.class_name, sizeof failure.class_name, "%.*s", static_cast<int>(name.size()), name.data());
     if (const MethodRewriteState* method = ci.current_method) {
         snprintf(failure.method, sizeof failure.method, "%.*s%.*s", static_cast<int>(method->name.size()),
                  method->name.data(), static_cast<int>(method->descriptor.size()), method->descriptor.data());
@@ -39,9 +40,10 @@ Failure failure_in(const ClassRewriteState& ci, const char* condition, const cha
 
 Failure assertion(const ClassRewriteState& ci, const char* condition, const char* file, int line) {
     Failure failure = failure_in(ci, condition, file, line);
-    const std::string_view method = ci.current_method != nullptr ? ci.current_method->name : "?";
-    snprintf(failure.message, sizeof failure.message, "CRW ASSERTION FAILURE: %s (%s:%.*s:%d)", condition,
-             ci.name ? ci.name->c_str() : "?", static_cast<int>(method.size()), method.data(), failure.pc);
+    const std::string_view name = ci.name.value_or("?");
+    const std::string_view method = ci.current_method != nullptr ? c_string(ci.current_method->name) : "?";
+    snprintf(failure.message, sizeof failure.message, "CRW ASSERTION FAILURE: %s (%.*s:%.*s:%d)", condition,
+             static_cast<int>(name.size()), name.data(), static_cast<int>(method.size()), method.data(), failure.pc);
     return failure;
 }
 

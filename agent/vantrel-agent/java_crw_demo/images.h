@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 
 #include "class_rewrite_state.h"
 #include "failure.h"
@@ -18,6 +19,12 @@ namespace crw {
 // What a failure says that would have left an image.
 constexpr const char* kInsideImages =
     "( (ci) != NULL && (ci)->input_position <= (ci)->input_len && (ci)->output_position <= (ci)->output_len)";
+
+// Names are C texts to the caller, and end at the first zero byte. A proper class file has none: its encoding writes
+// the character zero in two other bytes.
+inline std::string_view c_string(std::string_view text) {
+    return text.substr(0, text.find('\0'));
+}
 
 // Values in bytes that have been checked already.
 

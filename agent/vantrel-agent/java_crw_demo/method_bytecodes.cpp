@@ -14,7 +14,6 @@ namespace crw {
 
 namespace {
 
-constexpr uint32_t kLongestCode = 0xFFFF;
 constexpr const char* kCodeTooLong = "mi->new_code_len <= 0xFFFF";
 
 // max_stack, max_locals and code_length: what stands before the code.
@@ -22,6 +21,22 @@ constexpr uint32_t kHeaderSize = 8;
 
 void write_injection(ClassRewriteState& ci, const InjectionTemplate& injection) {
     write_bytes(ci, injection.code.data(), injection.len);
+}
+
+// A span of the old code, and what comes after it where it ends at a site.
+void write_span(ClassRewriteState& ci, const uint8_t* code, size_t size, const InjectionTemplate* injection) {
+    constexpr size_t kLongestInjection = sizeof injection->code;
+    const size_t injection_len = injection != nullptr ? injection->len : 0;
+    if (ci.output_len - ci.output_position < size + kLongestInjection) [[unlikely]] {
+        write_bytes(ci, code, size);
+        return injection != nullptr ? write_injection(ci, *injection) : void();
+    }
+    uint8_t* out = ci.output + ci.output_position;
+    memcpy(out, code, size);
+    if (injection != nullptr) {
+        memcpy(out + size, injection->code.data(), kLongestInjection);
+    }
+    ci.output_position += size + injection_len;
 }
 
 void write_code(MethodRewriteState& mi) {
@@ -36,14 +51,16 @@ void write_code(MethodRewriteState& mi) {
         if (site.pc == code_len) {
             break;  // an injection needs an instruction to go before
         }
-        write_bytes(ci, code + copied, site.pc - copied);
+        const uint8_t* span = code + copied;
+        const size_t size = site.pc - copied;
         copied = site.pc_next;
         ci.input_position = mi.start_of_input_bytecodes + copied;
         if (site.kind == Site::kReturn) {
-            write_injection(ci, mi.return_injection);
+            write_span(ci, span, size, &mi.return_injection);
         } else if (site.kind == Site::kNewArray) {
-            write_injection(ci, mi.newarray_injection);
+            write_span(ci, span, size, &mi.newarray_injection);
         } else {
+            write_span(ci, span, size, nullptr);
             write_instruction(mi, site, code);
         }
     }
@@ -51,10 +68,10 @@ void write_code(MethodRewriteState& mi) {
     ci.input_position = mi.start_of_input_bytecodes + code_len;
 }
 
-// Methods that the VM may run before it can load the tracker class.
+// Methods of a system class that the VM may run before it can load the tracker class.
 bool is_left_alone(const ClassRewriteState& ci, std::string_view name, uint32_t code_len) {
     const bool is_trivial = code_len == 1 && (name == "<init>" || name == "finalize");
-    return ci.is_system_class && (is_trivial || name == "<clinit>" || (ci.is_thread_class && name == "currentThread"));
+    return is_trivial || name == "<clinit>" || (ci.is_thread_class && name == "currentThread");
 }
 
 // Makes a method the current one as long as it lives.
@@ -71,17 +88,16 @@ class CurrentMethod {
 
 }  // namespace
 
-void method_write_bytecodes(ClassRewriteState& ci, uint32_t number, uint16_t access_flags) {
+void method_write_bytecodes(ClassRewriteState& ci, const Method& method) {
     const uint32_t attr_len = copy_attribute_length(ci);
     const size_t body = ci.output_position;
     const uint16_t max_stack = copy_u2(ci);
     const uint16_t max_locals = copy_u2(ci);
     const uint32_t code_len = copy_u4(ci);
 
-    const std::string_view name = ci.method_names[number];
-    const std::string_view descr = ci.method_descriptors[number];
-    const bool is_object_init = ci.is_object_class && name == "<init>" && descr == "()V";
-    if (!is_object_init && is_left_alone(ci, name, code_len)) {
+    const bool is_object_init =
+        ci.is_object_class && c_string(method.name) == "<init>" && c_string(method.descriptor) == "()V";
+    if (ci.is_system_class && !is_object_init && is_left_alone(ci, c_string(method.name), code_len)) {
         copy_bytes(ci, attr_len - kHeaderSize);
         return;
     }
@@ -90,10 +106,10 @@ void method_write_bytecodes(ClassRewriteState& ci, uint32_t number, uint16_t acc
     }
 
     MethodRewriteState mi{.ci = ci,
-                          .number = number,
-                          .name = name,
-                          .descriptor = descr,
-                          .access_flags = access_flags,
+                          .number = method.number,
+                          .name = method.name,
+                          .descriptor = method.descriptor,
+                          .access_flags = method.access_flags,
                           .max_locals = max_locals,
                           .start_of_input_bytecodes = ci.input_position,
                           .code_len = static_cast<int32_t>(code_len),
@@ -101,10 +117,9 @@ void method_write_bytecodes(ClassRewriteState& ci, uint32_t number, uint16_t acc
                           .new_max_stack = max_stack,
                           .object_init_method = is_object_init,
                           .skip_call_return_sites = is_object_init,
-                          .map = ci.map,
+                          .map = nullptr,
                           .sites = ci.sites};
     const CurrentMethod current(mi);
-    // No VM loads longer code (JVM specification, section 4.9.1), and the map's arithmetic is not made for it.
     require(ci, std::min<size_t>(code_len, ci.input_len - ci.input_position) <= kLongestCode, kCodeTooLong);
     prepare_injections(mi);
     plan_new_code(mi);

@@ -5,13 +5,22 @@
 #define JAVA_CRW_DEMO_METHOD_BYTECODES_H
 
 #include <cstdint>
+#include <string_view>
 
 #include "class_rewrite_state.h"
 
 namespace crw {
 
-// Rewrites the Code attribute of the method with a number. Both images are at the attribute's length, after its name.
-void method_write_bytecodes(ClassRewriteState& ci, uint32_t number, uint16_t access_flags);
+// A method as the class file has it.
+struct Method {
+    uint32_t number;  // in the order of the class file, from 0
+    uint16_t access_flags;
+    std::string_view name;
+    std::string_view descriptor;
+};
+
+// Rewrites a method's Code attribute. Both images are at the attribute's length, after its name.
+void method_write_bytecodes(ClassRewriteState& ci, const Method& method);
 
 }  // namespace crw
 

@@ -33,6 +33,9 @@
 
 namespace crw {
 
+// No VM loads longer code (JVM specification, section 4.9.1), and the map's arithmetic is not made for it.
+constexpr uint32_t kLongestCode = 0xFFFF;
+
 // A place in the old code where the new code is something else than a copy: an injection, or an instruction that is
 // written anew.
 struct Site {
@@ -51,8 +54,8 @@ struct InjectionTemplate {
 
 struct MethodRewriteState {
     ClassRewriteState& ci;
-    uint32_t number;  // in the order of the class file, from 0
-    std::string_view name;
+    uint32_t number;        // in the order of the class file, from 0
+    std::string_view name;  // as the class file has it
     std::string_view descriptor;
     uint16_t access_flags;
     uint16_t max_locals;
@@ -68,8 +71,8 @@ struct MethodRewriteState {
     InjectionTemplate return_injection{};
     InjectionTemplate newarray_injection{};
 
-    std::vector<int32_t>& map;  // a pc inside an instruction has an entry, too, and moves with it
-    std::vector<Site>& sites;   // in the order of the code
+    int32_t* map;              // a pc inside an instruction has an entry, too, and moves with it
+    std::vector<Site>& sites;  // in the order of the code
 
     // The new pc of an old one. Fails for a pc that is not in the code.
     [[nodiscard]] int32_t new_pc(uint32_t pc) const {

@@ -43,8 +43,7 @@ class Planner {
     void plan() {
         const Steps steps(mi_);
         const size_t readable = std::min<size_t>(code_len_, available_);
-        mi_.map.resize(readable + 1);
-        mi_.sites.clear();
+        make_room(readable);
         size_t pc = 0;
         while (pc < readable) {
             const uint8_t step = steps.length[code_[pc]];
@@ -55,6 +54,19 @@ class Planner {
     }
 
   private:
+    // For the map, whose values are all written before they are read, and for the sites.
+    void make_room(size_t code_size) {
+        constexpr size_t kUsualSites = 1024;
+        ClassRewriteState& ci = mi_.ci;
+        if (ci.map_size <= code_size) {
+            ci.map_size = code_size + 1 + std::min<size_t>(code_size, kLongestCode - code_size);
+            ci.map.reset(new int32_t[ci.map_size]);
+        }
+        mi_.map = ci.map.get();
+        mi_.sites.clear();
+        mi_.sites.reserve(std::min(code_size, kUsualSites));
+    }
+
     // Where an instruction ends. That must be inside the code, and inside the class file.
     uint32_t end_of_instruction(size_t pc_next) const {
         if (pc_next > available_) {
@@ -68,7 +80,7 @@ class Planner {
 
     // Old pcs below `pc` move by the shift so far.
     void move_up_to(uint32_t pc) {
-        std::iota(mi_.map.begin() + moved_, mi_.map.begin() + pc, static_cast<int32_t>(moved_) + shift_);
+        std::iota(mi_.map + moved_, mi_.map + pc, static_cast<int32_t>(moved_) + shift_);
         moved_ = pc;
     }
 

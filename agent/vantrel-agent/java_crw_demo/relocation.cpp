@@ -38,16 +38,16 @@ Outlook look_at_branches(MethodRewriteState& mi, const uint8_t* code) {
 // Moves the map by what the sites grow.
 void apply_widenings(MethodRewriteState& mi) {
     int32_t shift = 0;
-    auto from = mi.map.begin();
+    int32_t* from = mi.map;
     for (const Site& site : mi.sites) {
         if (site.widening != 0) {
-            const auto here = mi.map.begin() + site.pc_next;
+            int32_t* here = mi.map + site.pc_next;
             std::for_each(from, here, [shift](int32_t& pc) { pc += shift; });
             from = here;
             shift += site.widening;
         }
     }
-    std::for_each(from, mi.map.begin() + mi.code_len + 1, [shift](int32_t& pc) { pc += shift; });
+    std::for_each(from, mi.map + mi.code_len + 1, [shift](int32_t& pc) { pc += shift; });
 }
 
 // For code in which no branch can become too long. The paddings follow one from the other.
