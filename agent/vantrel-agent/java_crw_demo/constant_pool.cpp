@@ -35,8 +35,6 @@ using Sizes = std::array<uint8_t, 256>;
 constexpr Sizes kSizesOfToday = {0, 3, 0, 5, 5, 9, 9, 3, 3, 5, 5, 5, 5, 0, 0, 4, 3, 5, 5, 3, 3};
 constexpr Sizes kSizes = {0, 3, 0, 5, 5, 9, 9, 3, 3, 5, 5, 5, 5, 0, 0, 4, 3, 0, 5};
 
-constexpr const char* kIndexRule = "c_index > 0 && c_index < ci->cpool_count_plus_one";
-
 // The pool may grow by so much. The sum of the class file's count and this is kept in 16 bits, and so a pool that is
 // already half full or more gets a capacity below its count, and fails.
 constexpr uint32_t kGrowth = 0x7FFF;

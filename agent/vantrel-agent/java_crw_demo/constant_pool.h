@@ -11,6 +11,9 @@
 
 namespace crw {
 
+// What a failure says of an index that does not lead to an entry of the right kind.
+constexpr const char* kIndexRule = "c_index > 0 && c_index < ci->cpool_count_plus_one";
+
 // Reads the pool, from constant_pool_count to the last entry, and keeps the entries' positions. Fails for a tag that
 // class files of the versions that are taken do not have.
 void cpool_index(ClassRewriteState& ci);

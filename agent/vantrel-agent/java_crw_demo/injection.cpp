@@ -59,14 +59,13 @@ InjectionTemplate reference_template(const Tracker& tracker, uint32_t load) {
     return injection;
 }
 
-// The call of a tracker that takes the class's and the method's number.
-InjectionTemplate numbers_template(const MethodRewriteState& mi, const Tracker& tracker) {
-    InjectionTemplate injection;
-    if (tracker.index != 0) {
-        emit_push_class_number(injection, mi.ci);
-        emit_push(injection, mi.number);
-        emit_invoke(injection, tracker);
+// The call of a tracker that takes the class's and the method's number, which `pushes` pushes.
+InjectionTemplate numbers_template(const InjectionTemplate& pushes, const Tracker& tracker) {
+    if (tracker.index == 0) {
+        return {};
     }
+    InjectionTemplate injection = pushes;
+    emit_invoke(injection, tracker);
     return injection;
 }
 
@@ -78,8 +77,11 @@ void prepare_injections(MethodRewriteState& mi) {
         mi.entry_injection = reference_template(ci.object_init_tracker, kAload0);
     }
     if (!mi.skip_call_return_sites) {
-        mi.entry_injection = numbers_template(mi, ci.call_tracker);
-        mi.return_injection = numbers_template(mi, ci.return_tracker);
+        InjectionTemplate pushes;
+        emit_push_class_number(pushes, ci);
+        emit_push(pushes, mi.number);
+        mi.entry_injection = numbers_template(pushes, ci.call_tracker);
+        mi.return_injection = numbers_template(pushes, ci.return_tracker);
     }
     mi.newarray_injection = reference_template(ci.newarray_tracker, kDup);
     if (mi.entry_injection.len > 0) {

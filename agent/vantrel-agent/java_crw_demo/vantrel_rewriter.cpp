@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "class_image.h"
+#include "constant_pool.h"
 #include "images.h"
 #include "method_rewrite_state.h"
 #include "new_image.h"
@@ -31,7 +32,7 @@ constexpr Told kTold[] = {
      "The class file ends early, or something in it is longer than it can be."},
     {"count_plus_one>1", VANTREL_REWRITER_DAMAGED, "The class file has no constants."},
     {"Unknown tag: %d, at ipos %hu", VANTREL_REWRITER_DAMAGED, "The constant pool has an entry of an unknown kind."},
-    {"c_index > 0 && c_index < ci->cpool_count_plus_one", VANTREL_REWRITER_DAMAGED,
+    {kIndexRule, VANTREL_REWRITER_DAMAGED,
      "The class file refers to a constant that is not there, or of another kind."},
     {"ci->cpool_count_plus_one < ci->cpool_max_elements", VANTREL_REWRITER_TOO_LARGE,
      "The constant pool has no room for the tracker's entries."},

@@ -494,6 +494,12 @@ bool follow_types(MethodRewriteState& mi, Frame& frame, uint32_t from, uint32_t 
         return true;
     } catch (const NotFollowed&) {
         return false;
+    } catch (const Failure& failure) {
+        // An instruction refers to a constant that is not there, which no VM lets pass either.
+        if (failure.condition != std::string_view(kIndexRule)) {
+            throw;
+        }
+        return false;
     }
 }
 
