@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kStatic = generator::kStatic;
 
-struct Member {
+struct NamedMember {
     std::string name;
     std::string descriptor;
     int modifiers = 0;
@@ -28,10 +28,10 @@ struct Member {
 
 // The proxy of p/<class_name>, with a word for each name that was changed in it: "union>union_".
 struct Compilable {
-    Compilable(const std::string& class_name, const std::vector<Member>& members) {
+    Compilable(const std::string& class_name, const std::vector<NamedMember>& members) {
         FakeVm vm;
         const jclass clazz = vm.add_class("p/" + class_name);
-        for (const Member& member : members) {
+        for (const NamedMember& member : members) {
             if (member.descriptor.starts_with('(')) {
                 set_modifiers(vm.add_method(clazz, member.name, member.descriptor), member.modifiers);
             } else {
@@ -54,7 +54,7 @@ TEST(GeneratorNames, AreChangedOnlyWhereTheyWouldBeNoCpp) {
     const struct {
         const char* what;
         const char* class_name;
-        std::vector<Member> members;
+        std::vector<NamedMember> members;
         std::vector<std::string> changed;
     } cases[] = {
         {"plain names and overloads",
