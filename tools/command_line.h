@@ -17,7 +17,4 @@ std::optional<std::string> parse_command_line(CLI::App& app, int argc, char** ar
 
 }  // namespace command
 
-// vantrel-generate names it without its namespace.
-using command::parse_command_line;
-
 #endif

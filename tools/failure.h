@@ -13,7 +13,4 @@ struct Failure {
 
 }  // namespace command
 
-// vantrel-generate names it without its namespace.
-using command::Failure;
-
 #endif

@@ -21,8 +21,4 @@ std::optional<std::filesystem::path> find_vm_library(const std::filesystem::path
 
 }  // namespace command
 
-// vantrel-generate names them without their namespace.
-using command::find_java_home;
-using command::find_vm_library;
-
 #endif

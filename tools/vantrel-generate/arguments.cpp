@@ -49,11 +49,11 @@ std::variant<generate::Arguments, std::string> generate::parse_arguments(int arg
     app.add_option("CLASS", arguments.classes, "A class, like java.awt.Container or java/awt/Container")
         ->required()
         ->type_name("");
-    if (auto text = parse_command_line(app, argc, argv)) {
+    if (auto text = command::parse_command_line(app, argc, argv)) {
         return *std::move(text);
     }
     if (arguments.out.empty() && !arguments.list) {
-        throw Failure{"--out is required; vantrel-generate --help tells the options"};
+        throw command::Failure{"--out is required; vantrel-generate --help tells the options"};
     }
     return arguments;
 }

@@ -13,6 +13,7 @@
 #include "failure.h"
 #include "loaded_class.h"
 #include "present_files.h"
+#include "text.h"
 
 using generator::Argument;
 using generator::Field;
@@ -62,9 +63,10 @@ void refuse_unnamed_arguments(const Proxy& proxy) {
     for (const Method& method : proxy.methods) {
         for (const Argument& argument : method.arguments) {
             if (generator::is_in_no_package(argument.descriptor)) {
-                throw Failure{utf8_of_modified(proxy.internal_name + ": its method " + method.name) + " " +
-                              shortened(method.descriptor) +
-                              " has an argument whose class is in no package, which a literal proxy cannot have"};
+                throw command::Failure{
+                    utf8_of_modified(proxy.internal_name + ": its method " + method.name) + " " +
+                    shortened(method.descriptor) +
+                    " has an argument whose class is in no package, which a literal proxy cannot have"};
             }
         }
     }
@@ -113,31 +115,32 @@ void write_files(const Proxy& proxy, generate::Output& output) {
     const bool is_quotable = std::none_of(file_name.begin(), file_name.end(),
                                           [](char c) { return (c >= 0 && c < ' ') || c == '"' || c == '\\'; });
     if (!is_quotable) {
-        throw Failure{shown + ": its name cannot be that of a header"};
+        throw command::Failure{shown + ": its name cannot be that of a header"};
     }
     if (!output.written.insert(file_name).second) {
-        throw Failure{shown + ": another class has been written to " + file_name + ".h in this run"};
+        throw command::Failure{shown + ": another class has been written to " + file_name + ".h in this run"};
     }
     const std::string path = output.folder / file_name;
     const std::string obstacle = output.force ? "" : generate::not_to_be_replaced(proxy, path + ".h", path + ".cpp");
     if (!obstacle.empty()) {
-        throw Failure{shown + ": " + obstacle + "; --force replaces it"};
+        throw command::Failure{shown + ": " + obstacle + "; --force replaces it"};
     }
     const std::string fault = generator::write_proxy(proxy, path + ".h", path + ".cpp");
     if (!fault.empty()) {
-        throw Failure{shown + ": " + fault};
+        throw command::Failure{shown + ": " + fault};
     }
 }
 
 }  // namespace
 
 std::string generate::internal_name_of(const std::string& name) {
-    std::string internal = generator::modified_of_utf8(name).value_or("");
+    std::string internal = command::modified_utf8(name).value_or("");
     std::replace(internal.begin(), internal.end(), '.', '/');
     const bool empty_part = internal.empty() || internal.front() == '/' || internal.back() == '/' ||
                             internal.find("//") != std::string::npos;
     if (empty_part || internal.find_first_of(";[") != std::string::npos) {
-        throw Failure{"'" + name + "' is not a class name; write it like java.awt.Container or java/awt/Container"};
+        throw command::Failure{"'" + name +
+                               "' is not a class name; write it like java.awt.Container or java/awt/Container"};
     }
     return internal;
 }

@@ -42,7 +42,8 @@ std::string take_exception(JNIEnv* env) {
 jclass generate::load_class(JNIEnv* env, const std::string& internal_name) {
     jclass clazz = env->FindClass(internal_name.c_str());
     if (clazz == nullptr) {
-        throw Failure{generator::utf8_of_modified(internal_name) + ": cannot be loaded: " + take_exception(env)};
+        throw command::Failure{generator::utf8_of_modified(internal_name) +
+                               ": cannot be loaded: " + take_exception(env)};
     }
     return clazz;
 }
