@@ -1,6 +1,5 @@
 #include "class_builder.h"
 
-#include <stdexcept>
 #include <utility>
 
 namespace class_builder {
@@ -89,114 +88,6 @@ Bytes members_of(ConstantPool& pool, const std::vector<Member>& members) {
     return bytes;
 }
 
-struct Reader {
-    const Bytes& bytes;
-    std::size_t position = 0;
-};
-
-Bytes take(Reader& reader, std::size_t count) {
-    if (count > reader.bytes.size() - reader.position) {
-        throw std::runtime_error("the image ends early");
-    }
-    const auto from = reader.bytes.begin() + static_cast<std::ptrdiff_t>(reader.position);
-    reader.position += count;
-    return {from, from + static_cast<std::ptrdiff_t>(count)};
-}
-
-std::uint32_t take_value(Reader& reader, std::size_t length) {
-    std::uint32_t value = 0;
-    for (const std::uint8_t byte : take(reader, length)) {
-        value = value << 8 | byte;
-    }
-    return value;
-}
-
-void expect_end(const Reader& reader) {
-    if (reader.position != reader.bytes.size()) {
-        throw std::runtime_error("bytes are left over");
-    }
-}
-
-std::size_t constant_length(Reader reader) {
-    switch (take_value(reader, 1)) {
-        case utf8_tag:
-            return 3 + take_value(reader, 2);
-        case integer_tag:
-        case float_tag:
-        case field_ref_tag:
-        case method_ref_tag:
-        case interface_method_ref_tag:
-        case name_and_type_tag:
-        case invoke_dynamic_tag:
-            return 5;
-        case long_tag:
-        case double_tag:
-            return 9;
-        case class_tag:
-        case string_tag:
-        case method_type_tag:
-            return 3;
-        case method_handle_tag:
-            return 4;
-        default:
-            throw std::runtime_error("an unknown constant");
-    }
-}
-
-ConstantPool take_pool(Reader& reader) {
-    ConstantPool pool;
-    const unsigned count = take_value(reader, 2);
-    while (pool.count < count) {
-        const Bytes entry = take(reader, constant_length(reader));
-        pool.add(entry, entry[0] == long_tag || entry[0] == double_tag ? 2 : 1);
-    }
-    return pool;
-}
-
-std::vector<Attribute> take_attributes(Reader& reader, const ConstantPool& pool) {
-    std::vector<Attribute> attributes(take_value(reader, 2));
-    for (Attribute& attribute : attributes) {
-        attribute.name = pool.text(take_value(reader, 2));
-        attribute.body = take(reader, take_value(reader, 4));
-    }
-    return attributes;
-}
-
-Code take_code(const Bytes& body, const ConstantPool& pool) {
-    Reader reader{body};
-    Code code;
-    code.max_stack = take_value(reader, 2);
-    code.max_locals = take_value(reader, 2);
-    code.bytes = take(reader, take_value(reader, 4));
-    code.handlers.resize(take_value(reader, 2));
-    for (Handler& handler : code.handlers) {
-        handler.start = take_value(reader, 2);
-        handler.end = take_value(reader, 2);
-        handler.handler = take_value(reader, 2);
-        handler.catch_type = take_value(reader, 2);
-    }
-    code.attributes = take_attributes(reader, pool);
-    expect_end(reader);
-    return code;
-}
-
-std::vector<Member> take_members(Reader& reader, const ConstantPool& pool) {
-    std::vector<Member> members(take_value(reader, 2));
-    for (Member& member : members) {
-        member.access = take_value(reader, 2);
-        member.name = pool.text(take_value(reader, 2));
-        member.descriptor = pool.text(take_value(reader, 2));
-        for (Attribute& attribute : take_attributes(reader, pool)) {
-            if (attribute.name == "Code") {
-                member.code = take_code(attribute.body, pool);
-            } else {
-                member.attributes.push_back(std::move(attribute));
-            }
-        }
-    }
-    return members;
-}
-
 Attribute variable_table(const char* name, const std::vector<Variable>& variables) {
     std::vector<Bytes> entries;
     entries.reserve(variables.size());
@@ -277,7 +168,6 @@ Bytes lookupswitch(std::size_t pc, std::int64_t fallback, const std::vector<Pair
 std::uint16_t ConstantPool::add(const Bytes& entry, unsigned indexes) {
     const auto index = static_cast<std::uint16_t>(count);
     append(bytes, entry);
-    entries.emplace(index, entry);
     known.emplace(entry, index);
     count += indexes;
     return index;
@@ -347,25 +237,10 @@ std::uint16_t ConstantPool::invoke_dynamic(unsigned bootstrap, std::string_view 
     return shared(*this, cat({u1(invoke_dynamic_tag), u2(bootstrap), u2(name_and_type(name, descriptor))}));
 }
 
-Bytes ConstantPool::at(unsigned index) const {
-    const auto found = entries.find(index);
-    return found == entries.end() ? Bytes{} : found->second;
-}
+namespace {
 
-std::string ConstantPool::text(unsigned index) const {
-    const Bytes entry = at(index);
-    if (!entry.empty() && entry[0] == utf8_tag) {
-        return {entry.begin() + 3, entry.end()};
-    }
-    if (!entry.empty() && entry[0] == class_tag) {
-        const Bytes name = at(static_cast<unsigned>(entry[1]) << 8 | entry[2]);
-        return name.empty() || name[0] != utf8_tag ? std::string() : std::string(name.begin() + 3, name.end());
-    }
-    return {};
-}
-
-Bytes assemble(ClassFile file) {
-    // The pool is complete only when everything that stands behind it has been put together.
+// What follows the pool. All that it refers to is in the pool afterwards.
+Bytes rest_of(ClassFile& file) {
     ConstantPool& pool = file.pool;
     Bytes rest = cat({u2(file.access), u2(pool.class_(file.name)), u2(file.super.empty() ? 0 : pool.class_(file.super)),
                       u2(static_cast<std::int64_t>(file.interfaces.size()))});
@@ -376,29 +251,18 @@ Bytes assemble(ClassFile file) {
     append(rest, members_of(pool, file.methods));
     append(rest, u2(static_cast<std::int64_t>(file.attributes.size())));
     append(rest, attributes_of(pool, file.attributes));
-    return cat({u4(0xCAFEBABE), u2(file.minor), u2(file.major), u2(pool.count), pool.bytes, rest});
+    return rest;
 }
 
-ClassFile take_apart(const Bytes& image) {
-    Reader reader{image};
-    ClassFile file;
-    if (take_value(reader, 4) != 0xCAFEBABE) {
-        throw std::runtime_error("not a class file");
-    }
-    file.minor = take_value(reader, 2);
-    file.major = take_value(reader, 2);
-    file.pool = take_pool(reader);
-    file.access = take_value(reader, 2);
-    file.name = file.pool.text(take_value(reader, 2));
-    file.super = file.pool.text(take_value(reader, 2));
-    file.interfaces.resize(take_value(reader, 2));
-    for (std::string& interface : file.interfaces) {
-        interface = file.pool.text(take_value(reader, 2));
-    }
-    file.fields = take_members(reader, file.pool);
-    file.methods = take_members(reader, file.pool);
-    file.attributes = take_attributes(reader, file.pool);
-    expect_end(reader);
+}  // namespace
+
+Bytes assemble(ClassFile file) {
+    const Bytes rest = rest_of(file);
+    return cat({u4(0xCAFEBABE), u2(file.minor), u2(file.major), u2(file.pool.count), file.pool.bytes, rest});
+}
+
+ClassFile completed(ClassFile file) {
+    rest_of(file);
     return file;
 }
 

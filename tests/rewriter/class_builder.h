@@ -1,4 +1,4 @@
-// Class files for tests, put together by hand and taken apart again (JVM specification, chapter 4).
+// Class files for tests, put together by hand (JVM specification, chapter 4).
 //
 //     ClassFile file;
 //     Code code;
@@ -7,8 +7,6 @@
 //     code.attributes = {line_number_table({{0, 7}, {4, 8}}), stack_map_table({same_frame(5)})};
 //     file.methods.push_back({.name = "run", .descriptor = "(I)V", .code = code});
 //     Bytes image = assemble(file);
-//     ... rewrite image ...
-//     EXPECT_EQ(take_apart(rewritten).methods[0].code->bytes, ...);
 //
 // Nothing is checked or completed: what a test writes down is what the image holds, however wrong.
 #ifndef VANTREL_CLASS_BUILDER_H
@@ -133,13 +131,8 @@ struct ConstantPool {
     std::uint16_t add(const Bytes& entry, unsigned indexes = 1);  // tag and all, whatever it is
     void fill(unsigned wanted_count);                             // with Integers, until `count` is that
 
-    // The entry at an index, and the text of a Utf8 or of the Utf8 that a Class names; empty where there is none.
-    [[nodiscard]] Bytes at(unsigned index) const;
-    [[nodiscard]] std::string text(unsigned index) const;
-
     unsigned count = 1;  // constant_pool_count
     Bytes bytes = {};
-    std::map<unsigned, Bytes> entries = {};
     std::map<Bytes, std::uint16_t> known = {};
 };
 
@@ -147,8 +140,6 @@ struct Attribute {
     std::string name = {};
     Bytes body = {};
     std::optional<std::uint32_t> length = std::nullopt;  // the length given in the image, where it is not the body's
-
-    bool operator==(const Attribute&) const = default;
 };
 
 struct Handler {
@@ -156,8 +147,6 @@ struct Handler {
     unsigned end = 0;
     unsigned handler = 0;
     unsigned catch_type = 0;
-
-    bool operator==(const Handler&) const = default;
 };
 
 struct Code {
@@ -166,8 +155,6 @@ struct Code {
     Bytes bytes = {};
     std::vector<Handler> handlers = {};
     std::vector<Attribute> attributes = {};
-
-    bool operator==(const Code&) const = default;
 };
 
 struct Member {  // a field or a method
@@ -176,8 +163,6 @@ struct Member {  // a field or a method
     std::string descriptor = "()V";
     std::optional<Code> code = {};
     std::vector<Attribute> attributes = {};  // those besides Code
-
-    bool operator==(const Member&) const = default;
 };
 
 struct ClassFile {
@@ -195,9 +180,8 @@ struct ClassFile {
 
 Bytes assemble(ClassFile file);
 
-// The inverse, for well-formed images only; throws std::runtime_error where the image ends early or goes on behind its
-// last attribute.
-ClassFile take_apart(const Bytes& image);
+// The same class with everything in its pool that assemble would add.
+ClassFile completed(ClassFile file);
 
 // Bodies of nested attributes of Code.
 struct Line {

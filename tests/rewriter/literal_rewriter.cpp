@@ -5,46 +5,15 @@
 #include <limits>
 #include <string_view>
 
+#include "class_builder.h"
+
 namespace literal_rewriter {
+
+namespace op = class_builder::op;
 
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
-
-constexpr int largest_injection = 36;
-
-enum Opcode : std::uint8_t {
-    opc_iconst_0 = 3,
-    opc_bipush = 16,
-    opc_sipush = 17,
-    opc_ldc = 18,
-    opc_ldc_w = 19,
-    opc_iload = 21,
-    opc_aload = 25,
-    opc_aload_0 = 42,
-    opc_istore = 54,
-    opc_astore = 58,
-    opc_dup = 89,
-    opc_iinc = 132,
-    opc_ifeq = 153,
-    opc_if_acmpne = 166,
-    opc_goto = 167,
-    opc_jsr = 168,
-    opc_ret = 169,
-    opc_tableswitch = 170,
-    opc_lookupswitch = 171,
-    opc_ireturn = 172,
-    opc_return = 177,
-    opc_invokestatic = 184,
-    opc_newarray = 188,
-    opc_anewarray = 189,
-    opc_wide = 196,
-    opc_multianewarray = 197,
-    opc_ifnull = 198,
-    opc_ifnonnull = 199,
-    opc_goto_w = 200,
-    opc_jsr_w = 201,
-};
 
 constexpr int opcode_count = 202;
 
@@ -86,10 +55,6 @@ struct Constant {
     std::string text;
 };
 
-struct Injection {
-    Bytes code;
-};
-
 struct MethodState;
 
 struct ClassState {
@@ -123,7 +88,8 @@ struct ClassState {
     std::vector<std::string> method_name = {};
     std::vector<std::string> method_descr = {};
     MethodState* current_mi = nullptr;
-    std::vector<Layout> layouts = {};
+    std::size_t widened = 0;
+    std::size_t repadded = 0;
 };
 
 struct MethodState {
@@ -132,7 +98,7 @@ struct MethodState {
     std::string name;
     std::string descr;
     std::vector<std::int32_t> map;
-    std::vector<Injection> injections;
+    std::vector<Bytes> injections;
     std::vector<std::int8_t> widening;
     std::int32_t code_len = 0;
     std::int32_t new_code_len = 0;
@@ -344,21 +310,13 @@ std::uint16_t add_new_cpool_entry(ClassState& ci, Tag tag, std::uint32_t first, 
             write_u2(ci, static_cast<std::uint32_t>(text.size()));
             write_bytes(ci, Bytes(text.begin(), text.end()));
             break;
-        case tag_integer:
-        case tag_float:
-        case tag_fieldref:
-        case tag_methodref:
-        case tag_interface_methodref:
-        case tag_name_and_type:
-            write_u2(ci, first);
-            write_u2(ci, second);
-            break;
         case tag_class:
-        case tag_string:
             write_u2(ci, first);
             break;
         default:
-            fatal_error("Unknown constant");
+            write_u2(ci, first);
+            write_u2(ci, second);
+            break;
     }
     const std::uint16_t index = ci.cpool_count_plus_one++;
     ci.cpool.resize(std::max<std::size_t>(ci.cpool.size(), index + 1U));
@@ -473,12 +431,12 @@ void add_bytecode(Bytes& bytecodes, std::uint32_t byte) {
 
 void push_short_constant(Bytes& bytecodes, std::uint32_t number) {
     if (number <= 5) {
-        add_bytecode(bytecodes, opc_iconst_0 + number);
+        add_bytecode(bytecodes, op::iconst_0 + number);
     } else if (number == (number & 0x7F)) {
-        add_bytecode(bytecodes, opc_bipush);
+        add_bytecode(bytecodes, op::bipush);
         add_bytecode(bytecodes, number);
     } else {
-        add_bytecode(bytecodes, opc_sipush);
+        add_bytecode(bytecodes, op::sipush);
         add_bytecode(bytecodes, number >> 8);
         add_bytecode(bytecodes, number);
     }
@@ -486,16 +444,16 @@ void push_short_constant(Bytes& bytecodes, std::uint32_t number) {
 
 void push_pool_constant(Bytes& bytecodes, std::uint32_t index) {
     if (index == (index & 0x7F)) {
-        add_bytecode(bytecodes, opc_ldc);
+        add_bytecode(bytecodes, op::ldc);
         add_bytecode(bytecodes, index);
     } else {
-        add_bytecode(bytecodes, opc_ldc_w);
+        add_bytecode(bytecodes, op::ldc_w);
         add_bytecode(bytecodes, index >> 8);
         add_bytecode(bytecodes, index);
     }
 }
 
-Bytes injection_template(MethodState& mi, std::size_t max_nbytes, std::uint16_t method_index) {
+Bytes injection_template(MethodState& mi, std::uint16_t method_index) {
     const ClassState& ci = mi.ci;
     Bytes bytecodes;
     if (method_index == 0) {
@@ -504,41 +462,34 @@ Bytes injection_template(MethodState& mi, std::size_t max_nbytes, std::uint16_t 
     std::int32_t max_stack = 0;
     if (method_index == ci.newarray_tracker_index) {
         max_stack = mi.max_stack + 1;
-        add_bytecode(bytecodes, opc_dup);
+        add_bytecode(bytecodes, op::dup);
     } else if (method_index == ci.object_init_tracker_index) {
         max_stack = mi.max_stack + 1;
-        add_bytecode(bytecodes, opc_aload_0);
+        add_bytecode(bytecodes, op::aload_0);
     } else {
         max_stack = mi.max_stack + 2;
         const std::uint32_t class_number = ci.options.class_number;
         if (class_number == (class_number & 0x7FFF)) {
             push_short_constant(bytecodes, class_number);
         } else {
-            crw_assert(ci, ci.class_number_index != 0, "ci->class_number_index!=0");
             push_pool_constant(bytecodes, ci.class_number_index);
         }
         push_short_constant(bytecodes, mi.number);
     }
-    add_bytecode(bytecodes, opc_invokestatic);
+    add_bytecode(bytecodes, op::invokestatic);
     add_bytecode(bytecodes, method_index >> 8U);
     add_bytecode(bytecodes, method_index);
-    crw_assert(ci, bytecodes.size() < max_nbytes, "nbytes<max_nbytes");
     mi.new_max_stack = std::max(mi.new_max_stack, max_stack);
     return bytecodes;
 }
 
 void inject_bytecodes(MethodState& mi, std::int32_t at, const Bytes& bytecodes) {
-    const ClassState& ci = mi.ci;
-    crw_assert(ci, at <= mi.code_len, "at <= mi->code_len");
-    crw_assert(ci, bytecodes.size() <= largest_injection / 2, "len <= LARGEST_INJECTION/2");
-    Bytes& code = mi.injections[static_cast<std::size_t>(at)].code;
-    crw_assert(ci, code.size() + bytecodes.size() <= largest_injection, "injection.len+len <= LARGEST_INJECTION");
+    Bytes& code = mi.injections[static_cast<std::size_t>(at)];
     code.insert(code.end(), bytecodes.begin(), bytecodes.end());
 }
 
 // Adds to map[at] and every later entry.
 void adjust_map(MethodState& mi, std::int32_t at, std::int32_t amount) {
-    crw_assert(mi.ci, at <= mi.code_len, "at <= mi->code_len");
     for (auto i = static_cast<std::size_t>(at); i < mi.map.size(); i++) {
         mi.map[i] += amount;
     }
@@ -573,7 +524,7 @@ std::int32_t opcode_length(std::uint32_t opcode) {
 }
 
 bool is_two_byte_branch(std::uint32_t opcode) {
-    return (opcode >= opc_ifeq && opcode <= opc_jsr) || opcode == opc_ifnull || opcode == opc_ifnonnull;
+    return (opcode >= op::ifeq && opcode <= op::jsr) || opcode == op::ifnull || opcode == op::ifnonnull;
 }
 
 // Where the operands of a switch at `pc` start, behind the padding.
@@ -583,11 +534,11 @@ std::int32_t switch_operands(std::int32_t pc) {
 
 // How many bytes of operands follow the modified opcode of a wide.
 std::int32_t wide_operand_length(std::uint32_t opcode) {
-    if ((opcode >= opc_iload && opcode <= opc_aload) || (opcode >= opc_istore && opcode <= opc_astore) ||
-        opcode == opc_ret) {
+    if ((opcode >= op::iload && opcode <= op::aload) || (opcode >= op::istore && opcode <= op::astore) ||
+        opcode == op::ret) {
         return 2;
     }
-    if (opcode == opc_iinc) {
+    if (opcode == op::iinc) {
         return 4;
     }
     fatal_error("Invalid opcode supplied to wide opcode");
@@ -605,7 +556,7 @@ void skip_switch(MethodState& mi, std::int32_t pc, std::uint32_t opcode) {
     ClassState& ci = mi.ci;
     skip_padding(mi, pc);
     read_s4(ci);
-    if (opcode == opc_tableswitch) {
+    if (opcode == op::tableswitch) {
         const std::int64_t low = read_s4(ci);
         const std::int64_t high = read_s4(ci);
         require_inside_code(mi);
@@ -633,20 +584,20 @@ void plan_instruction(MethodState& mi) {
     ClassState& ci = mi.ci;
     const std::int32_t pc = input_code_offset(mi);
     const std::uint32_t opcode = read_u1(ci);
-    if (opcode == opc_wide) {
+    if (opcode == op::wide) {
         skip_wide(mi);
         require_inside_code(mi);
         return;
     }
 
     Bytes return_injection;
-    if (opcode >= opc_ireturn && opcode <= opc_return && !mi.skip_call_return_sites) {
-        return_injection = injection_template(mi, largest_injection + 1, ci.return_tracker_index);
+    if (opcode >= op::ireturn && opcode <= op::return_ && !mi.skip_call_return_sites) {
+        return_injection = injection_template(mi, ci.return_tracker_index);
         if (!return_injection.empty()) {
             inject_bytecodes(mi, pc, return_injection);
         }
     }
-    if (opcode == opc_tableswitch || opcode == opc_lookupswitch) {
+    if (opcode == op::tableswitch || opcode == op::lookupswitch) {
         skip_switch(mi, pc, opcode);
     } else {
         skip(ci, opcode_length(opcode) - 1);
@@ -656,8 +607,8 @@ void plan_instruction(MethodState& mi) {
     if (!return_injection.empty()) {
         adjust_map(mi, pc_next, static_cast<std::int32_t>(return_injection.size()));
     }
-    if (opcode == opc_newarray || opcode == opc_anewarray || opcode == opc_multianewarray) {
-        const Bytes injection = injection_template(mi, largest_injection + 1, ci.newarray_tracker_index);
+    if (opcode == op::newarray || opcode == op::anewarray || opcode == op::multianewarray) {
+        const Bytes injection = injection_template(mi, ci.newarray_tracker_index);
         if (!injection.empty()) {
             inject_bytecodes(mi, pc_next, injection);
             adjust_map(mi, pc_next, static_cast<std::int32_t>(injection.size()));
@@ -684,19 +635,21 @@ bool adjust_instruction(MethodState& mi) {
         if (new_offset >= -32768 && new_offset <= 32767) {
             return true;
         }
-        widen(mi, pc, input_code_offset(mi), opcode == opc_goto || opcode == opc_jsr ? 2 : 5);
+        widen(mi, pc, input_code_offset(mi), opcode == op::goto_ || opcode == op::jsr ? 2 : 5);
+        ci.widened++;
         return false;
     }
-    if (opcode == opc_tableswitch || opcode == opc_lookupswitch) {
+    if (opcode == op::tableswitch || opcode == op::lookupswitch) {
         const std::int32_t new_widening = (switch_operands(new_pc) - new_pc) - (switch_operands(pc) - pc);
         skip_switch(mi, pc, opcode);
         if (new_widening == widening) {
             return true;
         }
         widen(mi, pc, input_code_offset(mi), new_widening);
+        ci.repadded++;
         return false;
     }
-    if (opcode == opc_wide) {
+    if (opcode == op::wide) {
         skip_wide(mi);
         return true;
     }
@@ -705,10 +658,10 @@ bool adjust_instruction(MethodState& mi) {
 }
 
 std::uint32_t invert_opcode(std::uint32_t opcode) {
-    if (opcode == opc_ifnull || opcode == opc_ifnonnull) {
+    if (opcode == op::ifnull || opcode == op::ifnonnull) {
         return opcode ^ 1U;
     }
-    if (opcode >= opc_ifeq && opcode <= opc_if_acmpne) {
+    if (opcode >= op::ifeq && opcode <= op::if_acmpne) {
         return ((opcode + 1) ^ 1U) - 1;  // pairs begin at odd opcodes
     }
     fatal_error("Unexpected opcode");
@@ -724,16 +677,16 @@ void write_two_byte_branch(MethodState& mi, std::int32_t pc, std::uint32_t opcod
             write_u2(ci, static_cast<std::uint32_t>(new_offset));
             break;
         case 2:
-            if (opcode != opc_goto && opcode != opc_jsr) {
+            if (opcode != op::goto_ && opcode != op::jsr) {
                 fatal_error("unexpected opcode");
             }
-            write_u1(ci, opcode == opc_goto ? opc_goto_w : opc_jsr_w);
+            write_u1(ci, opcode == op::goto_ ? op::goto_w : op::jsr_w);
             write_s4(ci, new_offset);
             break;
         case 5:
             write_u1(ci, invert_opcode(opcode));
             write_u2(ci, 8);
-            write_u1(ci, opc_goto_w);
+            write_u1(ci, op::goto_w);
             write_s4(ci, new_offset - 3);
             break;
         default:
@@ -754,7 +707,7 @@ void write_switch(MethodState& mi, std::int32_t pc, std::uint32_t opcode, std::i
     }
     skip_padding(mi, pc);
     write_relocated_offset(mi, pc);
-    if (opcode == opc_tableswitch) {
+    if (opcode == op::tableswitch) {
         const std::int64_t low = static_cast<std::int32_t>(copy_u4(ci));
         const std::int64_t high = static_cast<std::int32_t>(copy_u4(ci));
         for (std::int64_t i = low; i <= high; i++) {
@@ -773,17 +726,17 @@ void write_instruction(MethodState& mi, std::int64_t start_of_output_bytecodes) 
     ClassState& ci = mi.ci;
     const std::int32_t pc = input_code_offset(mi);
     crw_assert(ci, pc <= mi.code_len, "pos <= mi->code_len");
-    write_bytes(ci, mi.injections[static_cast<std::size_t>(pc)].code);
+    write_bytes(ci, mi.injections[static_cast<std::size_t>(pc)]);
 
     const std::uint32_t opcode = read_u1(ci);
     if (is_two_byte_branch(opcode)) {
         write_two_byte_branch(mi, pc, opcode);
-    } else if (opcode == opc_tableswitch || opcode == opc_lookupswitch) {
+    } else if (opcode == op::tableswitch || opcode == op::lookupswitch) {
         write_switch(mi, pc, opcode, start_of_output_bytecodes);
-    } else if (opcode == opc_goto_w || opcode == opc_jsr_w) {
+    } else if (opcode == op::goto_w || opcode == op::jsr_w) {
         write_u1(ci, opcode);
         write_relocated_offset(mi, pc);
-    } else if (opcode == opc_wide) {
+    } else if (opcode == op::wide) {
         write_u1(ci, opcode);
         const std::uint32_t modified = copy_u1(ci);
         copy(ci, static_cast<std::uint32_t>(wide_operand_length(modified)));
@@ -997,10 +950,10 @@ void inject_at_entry(MethodState& mi) {
     const ClassState& ci = mi.ci;
     Bytes bytecodes;
     if (mi.object_init_method) {
-        bytecodes = injection_template(mi, largest_injection + 1, ci.object_init_tracker_index);
+        bytecodes = injection_template(mi, ci.object_init_tracker_index);
     }
     if (!mi.skip_call_return_sites) {
-        const Bytes call = injection_template(mi, largest_injection + 1 - bytecodes.size(), ci.call_tracker_index);
+        const Bytes call = injection_template(mi, ci.call_tracker_index);
         bytecodes.insert(bytecodes.end(), call.begin(), call.end());
     }
     if (!bytecodes.empty()) {
@@ -1052,7 +1005,7 @@ void method_write_bytecodes(ClassState& ci, std::uint32_t number) {
                    .name = name,
                    .descr = descr,
                    .map = std::vector<std::int32_t>(entries),
-                   .injections = std::vector<Injection>(entries),
+                   .injections = std::vector<Bytes>(entries),
                    .widening = std::vector<std::int8_t>(entries),
                    .code_len = code_len,
                    .start_of_input_bytecodes = ci.input_position,
@@ -1067,15 +1020,9 @@ void method_write_bytecodes(ClassState& ci, std::uint32_t number) {
 
     inject_at_entry(mi);
     rewind_to_code(mi);
-    Layout layout;
     while (input_code_offset(mi) < code_len) {
-        layout.instructions.push_back(input_code_offset(mi));
         plan_instruction(mi);
     }
-    const auto code =
-        ci.input.subspan(static_cast<std::size_t>(mi.start_of_input_bytecodes), static_cast<std::size_t>(code_len));
-    layout.code.assign(code.begin(), code.end());
-    layout.planned_map = mi.map;
 
     rewind_to_code(mi);
     while (input_code_offset(mi) < code_len) {
@@ -1083,8 +1030,6 @@ void method_write_bytecodes(ClassState& ci, std::uint32_t number) {
             rewind_to_code(mi);
         }
     }
-    layout.widening = mi.widening;
-    ci.layouts.push_back(layout);
 
     const std::int64_t start_of_output_bytecodes = ci.output_position;
     rewind_to_code(mi);
@@ -1196,10 +1141,11 @@ Result rewrite(std::span<const std::uint8_t> image, const RewriteOptions& option
         inject_class(ci);
         ci.output.resize(static_cast<std::size_t>(ci.output_position));
         result.image = ci.output;
-        result.layouts = ci.layouts;
     } catch (const Failure& failure) {
         result.failure = failure.message;
     }
+    result.widened = ci.widened;
+    result.repadded = ci.repadded;
     return result;
 }
 

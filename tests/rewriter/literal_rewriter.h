@@ -6,6 +6,7 @@
 #ifndef VANTREL_LITERAL_REWRITER_H
 #define VANTREL_LITERAL_REWRITER_H
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -26,18 +27,11 @@ struct RewriteOptions {
 
 namespace literal_rewriter {
 
-// How an instrumented method was laid out, for tests that ask how its branches came to be widened.
-struct Layout {
-    std::vector<std::uint8_t> code;          // as it was
-    std::vector<std::int32_t> instructions;  // the old pcs at which they start
-    std::vector<std::int32_t> planned_map;   // old pc to new pc before any branch was relocated
-    std::vector<std::int8_t> widening;       // by old pc, when nothing changed any more
-};
-
 struct Result {
     std::vector<std::uint8_t> image;  // empty after a failure
     std::string failure;              // what a fatal error handler is told; empty on success
-    std::vector<Layout> layouts;
+    std::size_t widened = 0;          // branches that were found too long
+    std::size_t repadded = 0;         // paddings that were found wrong
 };
 
 // Argument checks are not its business: the class name and the image are all that can be wrong.

@@ -29,7 +29,6 @@ using class_builder::stack_map_table;
 using class_builder::times;
 using class_builder::u1;
 namespace op = class_builder::op;
-using literal_rewriter::Layout;
 using random_classes::Random;
 using random_classes::RandomClass;
 
@@ -49,6 +48,11 @@ Comparison compare(const Bytes& image, const RewriteOptions& options) {
     Comparison compared{literal_rewriter::rewrite(image, options), ""};
     const literal_rewriter::Result& literal = compared.literal;
     const Outcome ours = rewrite(image, options);
+    // By the second door it is the same image, unless branches that have grown get frames.
+    const Outcome modern = rewrite_modern(image, options);
+    if (!ours.image.empty() && (literal.widened == 0 ? modern.image != ours.image : modern.image.empty())) {
+        compared.problem = "the second door's image is another one, " + modern.failure;
+    }
     if (without_pc(ours.failure) != without_pc(literal.failure)) {
         compared.problem = "failures: '" + ours.failure + "', literally '" + literal.failure + "'";
     } else if (ours.image != literal.image) {
@@ -72,76 +76,11 @@ struct QuietOutput {
 struct Tally {
     std::size_t methods = 0;
     std::size_t images = 0;
-    std::size_t widened = 0;      // branches
-    std::size_t repadded = 0;     // switches
-    std::size_t not_minimal = 0;  // methods in which another set of branches would have done
+    std::size_t widened = 0;   // branches
+    std::size_t repadded = 0;  // switches
     std::set<std::string> failures;
     std::string problem;  // the first disagreement, which ends the comparison
 };
-
-bool is_switch(unsigned opcode) {
-    return opcode == op::tableswitch || opcode == op::lookupswitch;
-}
-
-bool is_two_byte_branch(unsigned opcode) {
-    return (opcode >= op::ifeq && opcode <= op::jsr) || opcode == op::ifnull || opcode == op::ifnonnull;
-}
-
-// The map with every instruction's widening in it. Switches get the padding that is right where they then are.
-std::vector<std::int32_t> settle(const Layout& layout, std::vector<std::int8_t>& widening) {
-    std::vector<std::int32_t> map = layout.planned_map;
-    std::int32_t shift = 0;
-    for (std::size_t i = 0; i < layout.instructions.size(); i++) {
-        const auto pc = static_cast<std::size_t>(layout.instructions[i]);
-        const std::size_t end = i + 1 < layout.instructions.size()
-                                    ? static_cast<std::size_t>(layout.instructions[i + 1])
-                                    : layout.code.size();
-        std::for_each(map.begin() + static_cast<std::ptrdiff_t>(pc), map.begin() + static_cast<std::ptrdiff_t>(end),
-                      [shift](std::int32_t& new_pc) { new_pc += shift; });
-        if (is_switch(layout.code[pc])) {
-            const auto old_padding = static_cast<std::int32_t>(3 - pc % 4);
-            widening[pc] = static_cast<std::int8_t>(3 - map[pc] % 4 - old_padding);
-        }
-        shift += widening[pc];
-    }
-    map.back() += shift;
-    return map;
-}
-
-// Widens what has to be widened and nothing else: in rounds, each on a map in which everything is where it would be.
-// What the rewriter does is something else: it looks at branches while the paddings behind them are still wrong.
-std::vector<std::int8_t> minimal_widening(const Layout& layout) {
-    std::vector<std::int8_t> widening(layout.planned_map.size());
-    for (bool changed = true; changed;) {
-        changed = false;
-        const std::vector<std::int32_t> map = settle(layout, widening);
-        for (const std::int32_t pc : layout.instructions) {
-            const auto at = static_cast<std::size_t>(pc);
-            const unsigned opcode = layout.code[at];
-            if (!is_two_byte_branch(opcode) || widening[at] != 0) {
-                continue;
-            }
-            const auto offset = static_cast<std::int16_t>(layout.code[at + 1] << 8 | layout.code[at + 2]);
-            const std::int32_t new_offset = map[static_cast<std::size_t>(std::int64_t{pc} + offset)] - map[at];
-            if (new_offset < -32768 || new_offset > 32767) {
-                widening[at] = opcode == op::goto_ || opcode == op::jsr ? 2 : 5;
-                changed = true;
-            }
-        }
-    }
-    return widening;
-}
-
-void count(Tally& tally, const std::vector<Layout>& layouts) {
-    for (const Layout& layout : layouts) {
-        for (std::size_t pc = 0; pc < layout.code.size(); pc++) {
-            if (layout.widening[pc] != 0) {
-                (is_switch(layout.code[pc]) ? tally.repadded : tally.widened)++;
-            }
-        }
-        tally.not_minimal += minimal_widening(layout) != layout.widening ? 1 : 0;
-    }
-}
 
 using Make = std::function<RandomClass(std::uint64_t)>;
 
@@ -156,7 +95,8 @@ Tally compare_all(std::uint64_t first_seed, std::size_t classes, const Make& mak
         }
         tally.methods += made.file.methods.size();
         tally.images += compared.literal.failure.empty() ? 1 : 0;
-        count(tally, compared.literal.layouts);
+        tally.widened += compared.literal.widened;
+        tally.repadded += compared.literal.repadded;
     }
     return tally;
 }
@@ -167,7 +107,6 @@ void tell(const Tally& tally) {
     testing::Test::RecordProperty("images", static_cast<int>(tally.images));
     testing::Test::RecordProperty("widened", static_cast<int>(tally.widened));
     testing::Test::RecordProperty("repadded", static_cast<int>(tally.repadded));
-    testing::Test::RecordProperty("not_minimal", static_cast<int>(tally.not_minimal));
 }
 
 TEST(Oracle, AgreesOnSmallMethods) {
@@ -184,7 +123,6 @@ TEST(Oracle, AgreesOnFarBranches) {
     tell(tally);
     EXPECT_GT(tally.images, 250);
     EXPECT_GT(tally.widened, 10'000);
-    EXPECT_EQ(tally.not_minimal, 0) << "without paddings there is but one set of branches that have to be widened";
 }
 
 TEST(Oracle, AgreesOnFarBranchesBetweenSwitches) {
@@ -194,7 +132,6 @@ TEST(Oracle, AgreesOnFarBranchesBetweenSwitches) {
     EXPECT_GT(tally.images, 400);
     EXPECT_GT(tally.widened, 10'000);
     EXPECT_GT(tally.repadded, 1000);
-    EXPECT_GT(tally.not_minimal, 10) << "methods that tell the order of the scan";
 }
 
 struct Case {
@@ -230,7 +167,7 @@ std::vector<Case> limit_cases() {
         file.methods.push_back(file.methods[0]);
         cases.push_back({"an output of 2 * input + 512 bytes at " + std::to_string(returns) + " returns", file, all});
     }
-    for (const std::size_t length : {0U, 65527U, 65528U, 65529U, 65535U, 65536U, 70000U}) {
+    for (const std::size_t length : {0U, 65530U, 65531U, 65535U, 65536U, 70000U}) {
         const ClassFile file = class_with({.bytes = times(length, u1(op::nop))});
         cases.push_back({std::to_string(length) + " bytes of code", file, all});
         cases.push_back({std::to_string(length) + " bytes of code that stay as they are", file, RewriteOptions{}});
@@ -283,6 +220,9 @@ std::vector<Case> names_with_zeros() {
         file.name = "java/lang/Object";
         file.super.clear();
         cases.push_back({"a method of Object, " + name, file, all_trackers()});
+        file.methods[0].name = "<init>";
+        file.methods[0].descriptor = "()V\0x"s;
+        cases.push_back({"a method of Object, with a descriptor", file, all_trackers()});
     }
     for (const std::string& name : {"java/lang/Object\0x"s, "java/lang/Object"s, "a/B\0.c"s, "a.b\0"s, "\0a"s}) {
         ClassFile file;

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "java_crw_demo.h"
+#include "vantrel_rewriter.h"
 
 namespace {
 
@@ -44,5 +45,27 @@ Outcome rewrite(std::span<const std::uint8_t> image, const RewriteOptions& optio
     }
     Outcome outcome{{new_image, new_image + new_length}, "", ""};
     free(new_image);
+    return outcome;
+}
+
+Outcome rewrite_modern(std::span<const std::uint8_t> image, const RewriteOptions& options) {
+    const std::unique_ptr<unsigned char[]> input(new unsigned char[image.size()]);
+    std::ranges::copy(image, input.get());
+    const VantrelRewriterOptions asked{sizeof asked,
+                                       options.tracker_class.c_str(),
+                                       chars(options.call_name),
+                                       chars(options.return_name),
+                                       chars(options.obj_init_name),
+                                       chars(options.newarray_name),
+                                       chars(options.name),
+                                       options.class_number,
+                                       options.system_class ? 1 : 0,
+                                       nullptr,
+                                       nullptr};
+    VantrelRewriterResult result{};
+    result.size = sizeof result;
+    vantrel_rewriter_rewrite(input.get(), image.size(), &asked, &result);
+    Outcome outcome{{result.image, result.image + result.length}, result.sentence, ""};
+    vantrel_rewriter_release(&result);
     return outcome;
 }

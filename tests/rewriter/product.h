@@ -26,4 +26,7 @@ struct Outcome {
 
 Outcome rewrite(std::span<const std::uint8_t> image, const RewriteOptions& options = kAll);
 
+// The same by vantrel_rewriter_rewrite, whose failures are its sentences.
+Outcome rewrite_modern(std::span<const std::uint8_t> image, const RewriteOptions& options);
+
 #endif

@@ -42,6 +42,28 @@ TEST_P(Linking, NoUsualClassFailsThatDidNotFailBefore) {
     std::cout << linking.out;
 }
 
+// Branches that grow, with all kinds of types where they do: compiled for the oldest version that has stack maps which
+// must hold, and for the VM's own.
+TEST_P(Linking, WhateverGrowsIsVerifiedAsBefore) {
+    SKIP_WITHOUT_JDK(GetParam());
+    for (const int release : {8, GetParam()}) {
+        const ScratchFolder folder;
+        const Finished compiling =
+            run_long({*find_jdk(GetParam()) / "bin" / "java", "-Xss16m", "-cp", kTestFolder / "rewriter-linking.jar",
+                      "linking.GrowingClasses", folder.path, std::to_string(release)});
+        ASSERT_EQ(compiling.status, 0) << compiling.err;
+        const Finished linking = link_side_by_side(GetParam(), {"--modern", folder.path});
+        EXPECT_EQ(linking.status, 0) << linking.out << linking.err;
+        EXPECT_THAT(linking.out, HasSubstr("ALL_LARGE linked: 1\n"));
+        EXPECT_THAT(linking.out, HasSubstr("NEW_ARRAY linked: 1\n"));
+        // Not because nothing grows: without the frames the verifier does not take it.
+        if (release == 8) {
+            EXPECT_THAT(link_side_by_side(GetParam(), {folder.path}).out,
+                        HasSubstr("NEW_ARRAY: Growing: java.lang.VerifyError: Expecting a stackmap frame"));
+        }
+    }
+}
+
 // That what is linked is verified, that it is not run, and that a failure is told of.
 TEST_P(Linking, TellsOfAClassThatOnlyFailsRewritten) {
     SKIP_WITHOUT_JDK(GetParam());

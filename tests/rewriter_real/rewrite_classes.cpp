@@ -33,7 +33,8 @@ JNIEXPORT jint JNICALL JNI_OnLoad(JavaVM* vm, void* /*reserved*/) {
 }
 
 JNIEXPORT jbyteArray JNICALL Java_linking_Rewriter_rewrite(JNIEnv* env, jclass /*type*/, jbyteArray original,
-                                                           jstring name, jint trackers, jint number, jboolean system) {
+                                                           jstring name, jint trackers, jint number, jboolean system,
+                                                           jboolean modern) {
     const char* text = name != nullptr ? env->GetStringUTFChars(name, nullptr) : nullptr;
     const std::string kept = text != nullptr ? text : "";
     if (text != nullptr) {
@@ -43,6 +44,7 @@ JNIEXPORT jbyteArray JNICALL Java_linking_Rewriter_rewrite(JNIEnv* env, jclass /
         const ClassImage image = rewrite(bytes_of(env, original), {.trackers = static_cast<unsigned>(trackers),
                                                                    .class_number = static_cast<unsigned>(number),
                                                                    .system_class = system == JNI_TRUE,
+                                                                   .is_modern = modern == JNI_TRUE,
                                                                    .name = text != nullptr ? kept.c_str() : nullptr,
                                                                    .method_names = {}});
         const auto length = static_cast<jsize>(image.size());

@@ -1,6 +1,7 @@
 #include "rewriting.h"
 
 #include <java_crw_demo.h>
+#include <vantrel_rewriter.h>
 
 #include <cstdlib>
 #include <memory>
@@ -29,6 +30,33 @@ const char* if_wanted(unsigned trackers, unsigned tracker, const char* text) {
     return (trackers & tracker) != 0 ? text : nullptr;
 }
 
+void pass_modern_names_on(void* /*context*/, uint32_t class_number, const char* const* names,
+                          const char* const* descriptors, int count) {
+    pass_names_on(class_number, const_cast<const char**>(names), const_cast<const char**>(descriptors), count);
+}
+
+ClassImage rewrite_modern(std::span<const unsigned char> image, const Rewriting& how) {
+    VantrelRewriterOptions options{};
+    options.size = sizeof options;
+    options.tracker_class = "tracking/Tracker";
+    options.call_tracker = if_wanted(how.trackers, kCallTracker, "enter");
+    options.return_tracker = if_wanted(how.trackers, kReturnTracker, "leave");
+    options.object_init_tracker = if_wanted(how.trackers, kObjectInitTracker, "object");
+    options.newarray_tracker = if_wanted(how.trackers, kNewArrayTracker, "array");
+    options.class_name = how.name;
+    options.class_number = how.class_number;
+    options.system_class = how.system_class ? 1 : 0;
+    options.methods = pass_modern_names_on;
+    VantrelRewriterResult result{};
+    result.size = sizeof result;
+    if (vantrel_rewriter_rewrite(image.data(), image.size(), &options, &result) > VANTREL_REWRITER_CARRIED_OVER) {
+        throw std::runtime_error(std::string(result.method) + ": " + result.sentence);
+    }
+    const ClassImage rewritten(result.image, result.image + result.length);
+    vantrel_rewriter_release(&result);
+    return rewritten;
+}
+
 }  // namespace
 
 unsigned class_version(std::span<const unsigned char> image) {
@@ -37,6 +65,9 @@ unsigned class_version(std::span<const unsigned char> image) {
 
 ClassImage rewrite(std::span<const unsigned char> image, const Rewriting& how) {
     current_names = &how.method_names;
+    if (how.is_modern) {
+        return rewrite_modern(image, how);
+    }
     unsigned char* bytes = nullptr;
     long length = 0;
     java_crw_demo(how.class_number, how.name, image.data(), static_cast<long>(image.size()),

@@ -27,6 +27,7 @@ struct Rewriting {
     unsigned trackers = kAllTrackers;
     unsigned class_number = 0;
     bool system_class = false;
+    bool is_modern = false;      // by vantrel_rewriter_rewrite rather than java_crw_demo
     const char* name = nullptr;  // the class's, where it is known
     MethodNames method_names;    // may be empty
 };

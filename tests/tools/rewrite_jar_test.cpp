@@ -27,6 +27,7 @@ TEST(Jar, KeepsAllButTheContentsOfItsClasses) {
         {"z/stored.bin", std::string("\0\1\2", 3), 315532800, true, "the first second of an archive's time"},
         {"Program.class", program_class(), 1111111110, false, "a class"},
         {"a/empty", "", 1234567890, true},
+        {"a/noclass", "its name only ends like a class", 1234567890, true},
         {"Program$Square.class", program_class("Program$Square"), 1711852200, true,
          "half past two on a day without that hour"},
         {"lib/inner.jar", contents(kProgramJar), 1300000000, true},

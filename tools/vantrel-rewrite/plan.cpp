@@ -27,6 +27,7 @@ std::vector<Result> contents_of(const Result& folder) {
     }
     std::sort(entries.begin(), entries.end());
     std::vector<Result> contents;
+    contents.reserve(entries.size());
     for (const fs::directory_entry& entry : entries) {
         contents.push_back({kind_in_folder(entry), entry.path(), folder.target / entry.path().filename()});
     }

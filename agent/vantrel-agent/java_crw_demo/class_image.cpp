@@ -3,44 +3,43 @@
 #include <cstdio>
 
 #include "constant_pool.h"
-#include "injection.h"
+#include "images.h"
+#include "method_bytecodes.h"
+#include "method_rewrite_state.h"
 
 namespace crw {
 
 namespace {
 
 constexpr uint32_t kMagic = 0xCAFEBABE;
-constexpr uint16_t kNewestMajorVersion = 52;
+constexpr uint16_t kNewestMajorVersion = 52;  // of java_crw_demo
+constexpr uint16_t kFirstVersionWithModules = 53;
 
 // JVM specification, tables 4.5-A and 4.6-A.
 constexpr uint16_t kPublic = 0x0001;
 constexpr uint16_t kPrivate = 0x0002;
 constexpr uint16_t kStatic = 0x0008;
 constexpr uint16_t kNative = 0x0100;
+constexpr uint16_t kModule = 0x8000;
 
-// access_flags, name_index and descriptor_index of a field, or interface indexes: counts of bytes.
+// Sizes in bytes: a field's access_flags, name_index and descriptor_index; the index of an interface.
 constexpr size_t kFieldHeadSize = 6;
 constexpr size_t kInterfaceSize = 2;
 
-// Names are read as C texts are: up to a zero, which the class file's encoding of text does not have.
-std::string_view c_string(std::string_view text) {
-    return text.substr(0, text.find('\0'));
-}
-
 void copy_magic(ClassRewriteState& ci) {
-    require(ci, copy_u4(ci) == kMagic, "magic==0xCAFEBABE");
+    require(ci, copy_u4(ci) == kMagic, kMagicRule);
 }
 
 void copy_versions(ClassRewriteState& ci) {
     copy_u2(ci);
-    require(ci, copy_u2(ci) <= kNewestMajorVersion,
-            "(classfileMajorVersion <= JVM_CLASSFILE_MAJOR_VERSION) || "
-            "((classfileMajorVersion == JVM_CLASSFILE_MAJOR_VERSION) && "
-            "(classfileMinorVersion <= JVM_CLASSFILE_MINOR_VERSION))");
+    const uint16_t newest = ci.door == Door::kJavaCrwDemo ? kNewestMajorVersion : kNewestModernMajorVersion;
+    ci.major_version = copy_u2(ci);
+    require(ci, ci.major_version <= newest, kVersionRule);
 }
 
 void copy_this_class(ClassRewriteState& ci) {
-    const std::string_view own_name = cpool_class_name(ci, copy_u2(ci));
+    ci.this_class_index = copy_u2(ci);
+    const std::string_view own_name = cpool_class_name(ci, ci.this_class_index);
     if (!ci.name) {
         ci.name = c_string(own_name);
         require(ci, ci.name->find('.') == std::string_view::npos, "strchr(ci->name,'.')==NULL");
@@ -57,15 +56,19 @@ void copy_super_class(ClassRewriteState& ci) {
     }
 }
 
-void copy_attributes(ClassRewriteState& ci) {
-    const uint16_t count = copy_u2(ci);
-    for (uint16_t i = 0; i < count; ++i) {
-        copy_u2(ci);
-        copy_bytes(ci, copy_u4(ci));
+void skip_attributes(ClassRewriteState& ci) {
+    constexpr size_t kHeadSize = 6;  // name and length
+    for (uint16_t left = read_u2(ci); left > 0; --left) {
+        read_bytes(ci, u4_at(read_bytes(ci, kHeadSize) + 2));
     }
 }
 
-// A field or method of its own for java.lang.Object, without attributes.
+// Copies what was read since a position, all at once.
+void copy_since(ClassRewriteState& ci, size_t position) {
+    write_bytes(ci, ci.input + position, ci.input_position - position);
+}
+
+// Writes a field or method without attributes, for java.lang.Object.
 void add_member(ClassRewriteState& ci, uint16_t access_flags, uint32_t name_index, uint32_t descriptor_index) {
     write_u2(ci, access_flags);
     write_u2(ci, name_index);
@@ -73,7 +76,7 @@ void add_member(ClassRewriteState& ci, uint16_t access_flags, uint32_t name_inde
     write_u2(ci, 0);
 }
 
-// The number of fields or methods, to which java.lang.Object gets one more.
+// Returns the number of fields or methods of the class file. java.lang.Object is written with one more.
 uint16_t copy_member_count(ClassRewriteState& ci) {
     const uint16_t count = read_u2(ci);
     write_u2(ci, count + (ci.is_object_class ? 1U : 0U));
@@ -81,27 +84,34 @@ uint16_t copy_member_count(ClassRewriteState& ci) {
 }
 
 void copy_fields(ClassRewriteState& ci) {
-    if (ci.is_object_class) {
-        printf("add field to : %s\n", ci.name->c_str());
+    // java_crw_demo's contract. Otherwise standard output is the program's that the rewriter is in.
+    if (ci.is_object_class && ci.door == Door::kJavaCrwDemo) {
+        printf("add field to : %.*s\n", static_cast<int>(ci.name->size()), ci.name->data());
     }
     const uint16_t count = copy_member_count(ci);
-    for (uint16_t i = 0; i < count; ++i) {
-        copy_bytes(ci, kFieldHeadSize);
-        copy_attributes(ci);
+    const size_t fields = ci.input_position;
+    for (uint16_t left = count; left > 0; --left) {
+        read_bytes(ci, kFieldHeadSize);
+        skip_attributes(ci);
     }
+    copy_since(ci, fields);
     if (ci.is_object_class) {
         add_member(ci, kPrivate | kStatic, ci.track_name_index, ci.track_desc_index);
     }
 }
 
 void copy_method(ClassRewriteState& ci, uint16_t number) {
-    copy_u2(ci);  // access_flags
-    ci.method_names.push_back(c_string(cpool_text(ci, copy_u2(ci))));
-    ci.method_descriptors.push_back(c_string(cpool_text(ci, copy_u2(ci))));
+    const uint16_t access_flags = copy_u2(ci);
+    const std::string_view name = cpool_text(ci, copy_u2(ci));
+    const std::string_view descriptor = cpool_text(ci, copy_u2(ci));
+    if (ci.mnum_callback != nullptr) {
+        ci.method_names.push_back(c_string(name));
+        ci.method_descriptors.push_back(c_string(descriptor));
+    }
     const uint16_t attribute_count = copy_u2(ci);
     for (uint16_t i = 0; i < attribute_count; ++i) {
         if (attribute_match(ci, copy_u2(ci), "Code")) {
-            method_write_bytecodes(ci, number);
+            method_write_bytecodes(ci, {number, access_flags, name, descriptor});
         } else {
             copy_bytes(ci, copy_u4(ci));
         }
@@ -110,8 +120,10 @@ void copy_method(ClassRewriteState& ci, uint16_t number) {
 
 void copy_methods(ClassRewriteState& ci) {
     const uint16_t count = copy_member_count(ci);
-    ci.method_names.reserve(count);
-    ci.method_descriptors.reserve(count);
+    if (ci.mnum_callback != nullptr) {
+        ci.method_names.reserve(count);
+        ci.method_descriptors.reserve(count);
+    }
     for (uint16_t number = 0; number < count; ++number) {
         copy_method(ci, number);
     }
@@ -120,7 +132,7 @@ void copy_methods(ClassRewriteState& ci) {
     }
 }
 
-// The texts with zeros behind them, as C wants them, in one block.
+// The texts as C has them, with a zero at the end of each. They lie in `block`, which must be empty.
 std::vector<const char*> c_strings(const std::vector<std::string_view>& texts, std::string& block) {
     size_t size = 0;
     for (const std::string_view text : texts) {
@@ -141,7 +153,7 @@ void tell_method_names(const ClassRewriteState& ci) {
     std::string descriptor_block;
     std::vector<const char*> names = c_strings(ci.method_names, name_block);
     std::vector<const char*> descriptors = c_strings(ci.method_descriptors, descriptor_block);
-    ci.mnum_callback(ci.number, names.data(), descriptors.data(), static_cast<int>(names.size()));
+    ci.mnum_callback(ci.mnum_context, ci.number, names.data(), descriptors.data(), static_cast<int>(names.size()));
 }
 
 }  // namespace
@@ -150,20 +162,31 @@ void inject_class(ClassRewriteState& ci) {
     copy_magic(ci);
     copy_versions(ci);
     cpool_setup(ci);
-    copy_u2(ci);  // access_flags
+    const uint16_t access_flags = copy_u2(ci);
+    if (ci.major_version >= kFirstVersionWithModules && (access_flags & kModule) != 0) {
+        ci.is_module_info = true;
+        return;
+    }
     copy_this_class(ci);
     copy_super_class(ci);
     copy_bytes(ci, copy_u2(ci) * kInterfaceSize);
     copy_fields(ci);
     copy_methods(ci);
-    if (ci.mnum_callback != nullptr) {
+    const bool tells_before_the_end = ci.door == Door::kJavaCrwDemo;
+    if (ci.mnum_callback != nullptr && tells_before_the_end) {
         tell_method_names(ci);
     }
-    copy_attributes(ci);
+    const size_t attributes = ci.input_position;
+    skip_attributes(ci);
+    copy_since(ci, attributes);
+    cpool_insert_late_constants(ci);
+    if (ci.mnum_callback != nullptr && !tells_before_the_end) {
+        tell_method_names(ci);
+    }
 }
 
 std::string_view read_class_name(ClassRewriteState& ci) {
-    require(ci, read_u4(ci) == kMagic, "magic==0xCAFEBABE");
+    require(ci, read_u4(ci) == kMagic, kMagicRule);
     read_u4(ci);  // versions
     cpool_index(ci);
     read_u2(ci);  // access_flags

@@ -1,23 +1,77 @@
 #include "code_attribute.h"
 
+#include <algorithm>
+
 #include "constant_pool.h"
+#include "images.h"
 #include "stack_maps.h"
+#include "type_annotations.h"
 
 namespace crw {
 
 namespace {
 
-void write_new_pc(MethodRewriteState& mi) {
-    write_u2(mi.ci, static_cast<uint32_t>(mi.new_pc(read_u2(mi.ci))));
+// Reads and writes with every check.
+struct Careful {
+    ClassRewriteState& ci;
+
+    uint16_t read_u2() { return crw::read_u2(ci); }
+    void write_u2(uint32_t value) { crw::write_u2(ci, value); }
+    void stand() {}
+};
+
+// Reads and writes where the bytes are known to be there.
+struct Quick {
+    ClassRewriteState& ci;
+    const uint8_t* in = ci.input + ci.input_position;
+    uint8_t* out = ci.output + ci.output_position;
+
+    uint16_t read_u2() {
+        in += 2;
+        return u2_at(in - 2);
+    }
+    void write_u2(uint32_t value) {
+        put_u2(out, value);
+        out += 2;
+    }
+    // Sets the positions in the images to where this is.
+    void stand() {
+        ci.input_position = static_cast<size_t>(in - ci.input);
+        ci.output_position = static_cast<size_t>(out - ci.output);
+    }
+};
+
+template <typename Cursor>
+int32_t new_pc(const MethodRewriteState& mi, Cursor& at, uint32_t pc) {
+    if (pc > static_cast<uint32_t>(mi.code_len)) [[unlikely]] {
+        at.stand();
+    }
+    return mi.new_pc(pc);
 }
 
-// Where something begins that begins with the method: there it stays, so that the injection at the entry is part of
-// it.
-int32_t new_start(const MethodRewriteState& mi, uint16_t start_pc) {
-    return start_pc == 0 ? 0 : mi.new_pc(start_pc);
+template <typename Cursor>
+int32_t new_start(const MethodRewriteState& mi, Cursor& at, uint16_t start_pc) {
+    return start_pc == 0 ? 0 : new_pc(mi, at, start_pc);
 }
 
-// The number of entries of a table, which must lie inside its attribute.
+// Writes the entries of a table, each by `write_entry`, which keeps their size: those quickly for which there is enough
+// left of both images, so that it need not be asked again, and then the others.
+template <typename WriteEntry>
+void write_table(MethodRewriteState& mi, size_t count, size_t entry_size, const WriteEntry& write_entry) {
+    ClassRewriteState& ci = mi.ci;
+    const size_t room = std::min(ci.input_len - ci.input_position, ci.output_len - ci.output_position) / entry_size;
+    Quick quick{ci};
+    for (size_t left = std::min(count, room); left > 0; --left) {
+        write_entry(quick);
+    }
+    quick.stand();
+    Careful careful{ci};
+    for (size_t left = count - std::min(count, room); left > 0; --left) {
+        write_entry(careful);
+    }
+}
+
+// Returns the number of entries of a table. All of them must be inside the attribute.
 uint16_t copy_table_length(MethodRewriteState& mi, uint32_t attr_len, size_t entry_size) {
     ClassRewriteState& ci = mi.ci;
     const uint16_t length = copy_u2(ci);
@@ -26,38 +80,42 @@ uint16_t copy_table_length(MethodRewriteState& mi, uint32_t attr_len, size_t ent
 }
 
 void write_line_number_table(MethodRewriteState& mi, uint32_t attr_len) {
-    ClassRewriteState& ci = mi.ci;
     constexpr size_t kEntrySize = 4;
-    for (uint16_t left = copy_table_length(mi, attr_len, kEntrySize); left > 0; --left) {
-        write_u2(ci, static_cast<uint32_t>(new_start(mi, read_u2(ci))));
-        copy_u2(ci);  // line_number
-    }
+    write_table(mi, copy_table_length(mi, attr_len, kEntrySize), kEntrySize, [&mi](auto& at) {
+        at.write_u2(static_cast<uint32_t>(new_start(mi, at, at.read_u2())));
+        at.write_u2(at.read_u2());  // line_number
+    });
 }
 
 // LocalVariableTable and LocalVariableTypeTable have one layout.
 void write_var_table(MethodRewriteState& mi, uint32_t attr_len) {
-    ClassRewriteState& ci = mi.ci;
     constexpr size_t kEntrySize = 10;
-    constexpr size_t kNameDescriptorAndIndexSize = 6;
-    for (uint16_t left = copy_table_length(mi, attr_len, kEntrySize); left > 0; --left) {
-        const uint16_t start_pc = read_u2(ci);
-        const uint16_t length = read_u2(ci);
-        const int32_t start = new_start(mi, start_pc);
-        write_u2(ci, static_cast<uint32_t>(start));
-        write_u2(ci, static_cast<uint32_t>(mi.new_pc(uint32_t{start_pc} + length) - start));
-        copy_bytes(ci, kNameDescriptorAndIndexSize);
-    }
+    write_table(mi, copy_table_length(mi, attr_len, kEntrySize), kEntrySize, [&mi](auto& at) {
+        const uint16_t start_pc = at.read_u2();
+        const uint16_t length = at.read_u2();
+        const int32_t start = new_start(mi, at, start_pc);
+        at.write_u2(static_cast<uint32_t>(start));
+        at.write_u2(static_cast<uint32_t>(new_pc(mi, at, uint32_t{start_pc} + length) - start));
+        at.write_u2(at.read_u2());  // name_index
+        at.write_u2(at.read_u2());  // descriptor_index or signature_index
+        at.write_u2(at.read_u2());  // index
+    });
 }
 
 }  // namespace
 
+int32_t new_start(const MethodRewriteState& mi, uint16_t start_pc) {
+    return start_pc == 0 ? 0 : mi.new_pc(start_pc);
+}
+
 void write_exception_table(MethodRewriteState& mi) {
-    for (uint16_t left = copy_u2(mi.ci); left > 0; --left) {
-        write_new_pc(mi);  // start_pc
-        write_new_pc(mi);  // end_pc
-        write_new_pc(mi);  // handler_pc
-        copy_u2(mi.ci);    // catch_type
-    }
+    constexpr size_t kEntrySize = 8;
+    write_table(mi, copy_u2(mi.ci), kEntrySize, [&mi](auto& at) {
+        for (int pc = 0; pc < 3; ++pc) {  // start_pc, end_pc, handler_pc
+            at.write_u2(static_cast<uint32_t>(new_pc(mi, at, at.read_u2())));
+        }
+        at.write_u2(at.read_u2());  // catch_type
+    });
 }
 
 void method_write_code_attribute(MethodRewriteState& mi) {
@@ -73,6 +131,9 @@ void method_write_code_attribute(MethodRewriteState& mi) {
         write_stack_map_table(mi, attr_len, length_position);
     } else if (name == "StackMap") {
         write_stack_map(mi, attr_len, length_position);
+    } else if (ci.door == Door::kVantrelRewriter &&
+               (name == "RuntimeVisibleTypeAnnotations" || name == "RuntimeInvisibleTypeAnnotations")) {
+        write_type_annotations(mi, attr_len);
     } else {
         copy_bytes(ci, attr_len);
     }

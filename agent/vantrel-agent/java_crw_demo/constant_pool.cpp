@@ -1,6 +1,9 @@
 #include "constant_pool.h"
 
+#include <array>
 #include <cstdio>
+
+#include "images.h"
 
 namespace crw {
 
@@ -21,75 +24,126 @@ enum Tag : uint8_t {
     kNameAndType = 12,
     kMethodHandle = 15,
     kMethodType = 16,
+    kDynamic = 17,
     kInvokeDynamic = 18,
+    kModule = 19,
+    kPackage = 20,
 };
 
-// How many bytes follow the tag; those of a Utf8 entry's text come on top. 0 for a tag that is none.
-constexpr uint8_t kSizes[] = {0, 2, 0, 4, 4, 8, 8, 2, 2, 4, 4, 4, 4, 0, 0, 3, 2, 0, 4};
+// By tag, the size of an entry, not counting the text of a Utf8 entry. 0 where there is no such tag.
+using Sizes = std::array<uint8_t, 256>;
+constexpr Sizes kSizesOfToday = {0, 3, 0, 5, 5, 9, 9, 3, 3, 5, 5, 5, 5, 0, 0, 4, 3, 5, 5, 3, 3};
+constexpr Sizes kSizes = {0, 3, 0, 5, 5, 9, 9, 3, 3, 5, 5, 5, 5, 0, 0, 4, 3, 0, 5};
 
-constexpr const char* kIndexRule = "c_index > 0 && c_index < ci->cpool_count_plus_one";
-
-// The capacity that the pool has is the class file's count and this, in 16 bits.
+// The pool may grow by so much. The sum of the class file's count and this is kept in 16 bits, and so a pool that is
+// already half full or more gets a capacity below its count, and fails.
 constexpr uint32_t kGrowth = 0x7FFF;
 
 // The largest class number that is pushed without a constant.
 constexpr uint32_t kLargestImmediate = 0x7FFF;
 
+constexpr const char* kLengthRule = "len==(len & 0xFFFF)";
+constexpr const char* kCapacityRule = "ci->cpool_count_plus_one < ci->cpool_max_elements";
+constexpr const char* kUnknownTag = "Unknown tag: %d, at ipos %hu";
+
 [[noreturn]] void unknown_tag(const ClassRewriteState& ci, int tag) {
     constexpr size_t kMessageSize = 256;
     char message[kMessageSize];
-    snprintf(message, sizeof message, "Unknown tag: %d, at ipos %hu", tag,
-             static_cast<unsigned short>(ci.input_position));
-    fatal_error(ci.fatal_error_handler, message);
+    snprintf(message, sizeof message, kUnknownTag, tag, static_cast<unsigned short>(ci.input_position));
+    fatal_error(ci, kUnknownTag, message);
 }
 
-// Records an entry whose bytes have been written. Returns its index.
-uint16_t append(ClassRewriteState& ci, Constant constant) {
-    ci.appended_constants.push_back(constant);
-    return ci.cpool_count_plus_one++;
+[[noreturn]] void too_short(ClassRewriteState& ci) {
+    ci.input_position = ci.input_len;
+    assertion_failed(ci, kInsideImages);
 }
 
-uint16_t add_utf8(ClassRewriteState& ci, std::string_view text) {
-    write_u1(ci, kUtf8);
-    require(ci, text.size() <= 0xFFFF, "len==(len & 0xFFFF)");
-    write_u2(ci, static_cast<uint32_t>(text.size()));
-    write_bytes(ci, text.data(), text.size());
-    return append(ci, {kUtf8, 0, text});
+// Appends the rewriter's entries to the pool in the new image.
+class Appender {
+  public:
+    explicit Appender(ClassRewriteState& ci) : ci_(ci), at_(ci.output + ci.output_position) {}
+
+    uint16_t utf8(std::string_view text) {
+        constexpr size_t kHead = 3;
+        if (text.size() > UINT16_MAX) {
+            write(1);
+            assertion_failed(ci_, kLengthRule);
+        }
+        uint8_t* entry = write(kHead + text.size());
+        entry[0] = kUtf8;
+        put_u2(entry + 1, static_cast<uint32_t>(text.size()));
+        memcpy(entry + kHead, text.data(), text.size());
+        return next_index();
+    }
+
+    uint16_t class_entry(uint16_t name_index) {
+        uint8_t* entry = write(3);
+        entry[0] = kClass;
+        put_u2(entry + 1, name_index);
+        return next_index();
+    }
+
+    // An entry that holds two values of two bytes.
+    uint16_t pair(Tag tag, uint32_t first, uint32_t second) {
+        uint8_t* entry = write(5);
+        entry[0] = tag;
+        put_u2(entry + 1, first);
+        put_u2(entry + 3, second);
+        return next_index();
+    }
+
+    uint16_t method(const Tracker& tracker) {
+        const uint16_t name = utf8(tracker.name);
+        const uint16_t descriptor = utf8(tracker.signature);
+        return pair(kMethodref, ci_.tracker_class_index, pair(kNameAndType, name, descriptor));
+    }
+
+    void finish() { ci_.output_position = static_cast<size_t>(at_ - ci_.output); }
+
+  private:
+    uint8_t* write(size_t size) {
+        if (static_cast<size_t>(ci_.output + ci_.output_len - at_) < size) [[unlikely]] {
+            output_is_full(ci_);
+        }
+        uint8_t* entry = at_;
+        at_ += size;
+        return entry;
+    }
+
+    uint16_t next_index() {
+        require(ci_, ci_.cpool_count_plus_one < ci_.cpool_max_elements, kCapacityRule);
+        return ci_.cpool_count_plus_one++;
+    }
+
+    ClassRewriteState& ci_;
+    uint8_t* at_;
+};
+
+size_t size_of(const uint8_t* entry) {
+    return kSizes[entry[0]] + (entry[0] == kUtf8 ? size_t{u2_at(entry + 1)} : 0);
 }
 
-uint16_t add_class(ClassRewriteState& ci, uint16_t name_index) {
-    write_u1(ci, kClass);
-    write_u2(ci, name_index);
-    return append(ci, {kClass, name_index, {}});
+// An entry that the rewriter appended. Of what a VM loads, nothing but a stack map that was made here refers to those.
+const uint8_t* appended_entry(const ClassRewriteState& ci, uint32_t index) {
+    uint32_t left = index - static_cast<uint32_t>(ci.constant_positions.size());
+    const uint8_t* entry = ci.output + ci.end_of_own_pool;
+    for (; left > 0; --left) {
+        entry += size_of(entry);
+        if (entry == ci.output + ci.end_of_pool) {
+            entry = ci.late_constants.data();
+        }
+    }
+    return entry;
 }
 
-// An entry that holds two values of two bytes.
-uint16_t add_pair(ClassRewriteState& ci, Tag tag, uint32_t first, uint32_t second) {
-    write_u1(ci, tag);
-    write_u2(ci, first);
-    write_u2(ci, second);
-    return append(ci, {tag, 0, {}});
-}
-
-uint16_t add_method(ClassRewriteState& ci, const Tracker& tracker) {
-    const uint16_t name = add_utf8(ci, tracker.name);
-    const uint16_t descriptor = add_utf8(ci, tracker.signature);
-    return add_pair(ci, kMethodref, ci.tracker_class_index, add_pair(ci, kNameAndType, name, descriptor));
-}
-
-// The entry at an index: one of the class file's, or one that was appended. A class file that is not well formed may
-// refer to those too.
-Constant constant_at(const ClassRewriteState& ci, uint32_t index) {
+// The entry at an index, from its tag on.
+const uint8_t* entry_at(const ClassRewriteState& ci, uint32_t index) {
     require(ci, index > 0 && index < ci.cpool_count_plus_one, kIndexRule);
-    const size_t own_count = ci.constant_positions.size();
-    if (index >= own_count) {
-        return ci.appended_constants[index - own_count];
+    if (index >= ci.constant_positions.size()) {
+        return appended_entry(ci, index);
     }
     require(ci, ci.constant_positions[index] != 0, kIndexRule);
-    const uint8_t* entry = ci.input + ci.constant_positions[index];
-    const uint8_t tag = entry[0];
-    const uint16_t value = u2_at(entry + 1);
-    return {tag, value, tag == kUtf8 ? std::string_view(reinterpret_cast<const char*>(entry) + 3, value) : ""};
+    return ci.input + ci.constant_positions[index];
 }
 
 }  // namespace
@@ -97,30 +151,39 @@ Constant constant_at(const ClassRewriteState& ci, uint32_t index) {
 void cpool_index(ClassRewriteState& ci) {
     const uint16_t count_plus_one = read_u2(ci);
     require(ci, count_plus_one > 1, "count_plus_one>1");
-    ci.cpool_max_elements = static_cast<uint16_t>(count_plus_one + kGrowth);
+    ci.cpool_max_elements =
+        ci.door == Door::kJavaCrwDemo ? static_cast<uint16_t>(count_plus_one + kGrowth) : UINT16_MAX;
     if (ci.cpool_max_elements == 0) {
-        fatal_error(ci.fatal_error_handler, "Cannot allocate <= 0 bytes");
+        fatal_error(ci, "Cannot allocate <= 0 bytes");
     }
     ci.cpool_count_plus_one = count_plus_one;
+    require(ci, ci.input_len <= UINT32_MAX, kInsideImages);
     ci.constant_positions.assign(count_plus_one, 0);
+    const Sizes& sizes = ci.door == Door::kJavaCrwDemo ? kSizes : kSizesOfToday;
+    const uint8_t* const begin = ci.input;
+    const uint8_t* const end = ci.input + ci.input_len;
+    const uint8_t* at = ci.input + ci.input_position;
+    uint32_t* positions = ci.constant_positions.data();
     for (uint32_t index = 1; index < count_plus_one; ++index) {
-        const size_t position = ci.input_position;
-        const uint8_t tag = read_u1(ci);
-        const size_t size = tag < sizeof kSizes ? kSizes[tag] : 0;
-        if (size == 0) {
-            unknown_tag(ci, tag);
+        const auto left = static_cast<size_t>(end - at);
+        const size_t head = left > 0 ? sizes[*at] : 0;
+        if (head == 0) [[unlikely]] {
+            ci.input_position = static_cast<size_t>(at - begin);
+            unknown_tag(ci, read_u1(ci));
         }
-        ci.constant_positions[index] = static_cast<uint32_t>(position);
-        require(ci, position <= UINT32_MAX, kInsideImages);
-        const uint8_t* bytes = read_bytes(ci, size);
-        if (tag == kUtf8) {
-            read_bytes(ci, u2_at(bytes));
-        } else if (tag == kLong || tag == kDouble) {
-            ++index;
+        const uint8_t tag = *at;
+        const size_t size = head + (tag == kUtf8 && left >= head ? size_t{u2_at(at + 1)} : 0);
+        if (left < size) [[unlikely]] {
+            too_short(ci);
         }
+        positions[index] = static_cast<uint32_t>(at - begin);
+        at += size;
+        index += tag == kLong || tag == kDouble ? 1 : 0;
     }
-    // What is appended is a few dozen entries: it fits, unless the capacity has wrapped to less than the count.
-    require(ci, ci.cpool_count_plus_one < ci.cpool_max_elements, "ci->cpool_count_plus_one < ci->cpool_max_elements");
+    ci.input_position = static_cast<size_t>(at - begin);
+    // Once is enough for the few dozen entries that are appended: either the capacity has wrapped to less than the
+    // count, or there is room for thousands.
+    require(ci, ci.cpool_count_plus_one < ci.cpool_max_elements, kCapacityRule);
 }
 
 void cpool_setup(ClassRewriteState& ci) {
@@ -129,40 +192,109 @@ void cpool_setup(ClassRewriteState& ci) {
     cpool_index(ci);
     write_bytes(ci, ci.input + start, ci.input_position - start);
 
+    ci.end_of_own_pool = ci.output_position;
+    Appender appender(ci);
     const bool pushes_class_number = ci.call_tracker.name != nullptr || ci.return_tracker.name != nullptr;
     if (pushes_class_number && ci.number > kLargestImmediate) {
-        ci.class_number_index = add_pair(ci, kInteger, ci.number >> 16U, ci.number & 0xFFFFU);
+        ci.class_number_index = appender.pair(kInteger, ci.number >> 16U, ci.number & 0xFFFFU);
     }
-    ci.tracker_class_index = add_class(ci, add_utf8(ci, ci.tracker_class_name));
+    ci.tracker_class_index = appender.class_entry(appender.utf8(ci.tracker_class_name));
     for (Tracker* tracker : {&ci.object_init_tracker, &ci.newarray_tracker, &ci.call_tracker, &ci.return_tracker}) {
         if (tracker->name != nullptr) {
-            tracker->index = add_method(ci, *tracker);
+            tracker->index = appender.method(*tracker);
         }
     }
-    ci.get_track_id_name_index = add_utf8(ci, "getTrackId");
-    ci.get_track_id_desc_index = add_utf8(ci, "()I");
+    ci.get_track_id_name_index = appender.utf8("getTrackId");
+    ci.get_track_id_desc_index = appender.utf8("()I");
     ci.get_track_id_method_name_and_type_index =
-        add_pair(ci, kNameAndType, ci.get_track_id_name_index, ci.get_track_id_desc_index);
+        appender.pair(kNameAndType, ci.get_track_id_name_index, ci.get_track_id_desc_index);
     ci.get_track_id_method_ref_index =
-        add_pair(ci, kMethodref, ci.tracker_class_index, ci.get_track_id_method_name_and_type_index);
-    ci.track_name_index = add_utf8(ci, "objectTrackId");
-    ci.track_desc_index = add_utf8(ci, "I");
-    ci.track_field_index = add_pair(ci, kFieldref, ci.tracker_class_index,
-                                    add_pair(ci, kNameAndType, ci.track_name_index, ci.track_desc_index));
+        appender.pair(kMethodref, ci.tracker_class_index, ci.get_track_id_method_name_and_type_index);
+    ci.track_name_index = appender.utf8("objectTrackId");
+    ci.track_desc_index = appender.utf8("I");
+    ci.track_field_index = appender.pair(kFieldref, ci.tracker_class_index,
+                                         appender.pair(kNameAndType, ci.track_name_index, ci.track_desc_index));
+
+    appender.finish();
 
     put_u2(ci.output + count_position, ci.cpool_count_plus_one);
+    ci.pool_count_position = count_position;
+    ci.end_of_pool = ci.output_position;
 }
 
-std::string_view cpool_text(const ClassRewriteState& ci, uint32_t index) {
-    const Constant constant = constant_at(ci, index);
-    require(ci, constant.tag == kUtf8, kIndexRule);
-    return constant.text;
+uint16_t cpool_class_index(ClassRewriteState& ci, std::string_view name) {
+    if (ci.class_constants.empty()) {
+        for (uint32_t index = 1; index < ci.constant_positions.size(); ++index) {
+            if (ci.constant_positions[index] != 0 && cpool_tag(ci, index) == kClass) {
+                ci.class_constants.emplace(cpool_class_name(ci, index), static_cast<uint16_t>(index));
+            }
+        }
+    }
+    const auto [found, is_new] = ci.class_constants.try_emplace(std::string(name), 0);
+    if (is_new) {
+        require(ci, name.size() <= UINT16_MAX, kLengthRule);
+        require(ci, ci.cpool_count_plus_one + 1 < ci.cpool_max_elements, kCapacityRule);
+        std::vector<uint8_t>& bytes = ci.late_constants;
+        const auto add_u2 = [&bytes](size_t value) {
+            bytes.push_back(static_cast<uint8_t>(value >> 8U));
+            bytes.push_back(static_cast<uint8_t>(value));
+        };
+        bytes.push_back(kUtf8);
+        add_u2(name.size());
+        bytes.insert(bytes.end(), name.begin(), name.end());
+        bytes.push_back(kClass);
+        add_u2(ci.cpool_count_plus_one++);
+        found->second = ci.cpool_count_plus_one++;
+    }
+    return found->second;
+}
+
+void cpool_insert_late_constants(ClassRewriteState& ci) {
+    const size_t size = ci.late_constants.size();
+    if (size == 0) {
+        return;
+    }
+    uint8_t* pool_end = ci.output + ci.end_of_pool;
+    const size_t rest = ci.output_position - ci.end_of_pool;
+    room_for(ci, size);
+    memmove(pool_end + size, pool_end, rest);
+    memcpy(pool_end, ci.late_constants.data(), size);
+    put_u2(ci.output + ci.pool_count_position, ci.cpool_count_plus_one);
+}
+
+uint8_t cpool_tag(const ClassRewriteState& ci, uint32_t index) {
+    return entry_at(ci, index)[0];
+}
+
+// The NameAndType of a member's entry, or of a dynamic one: where its two indexes are.
+const uint8_t* name_and_type_of(const ClassRewriteState& ci, uint32_t index) {
+    const uint8_t* entry = entry_at(ci, index);
+    const bool has_name_and_type = entry[0] == kFieldref || entry[0] == kMethodref || entry[0] == kInterfaceMethodref ||
+                                   entry[0] == kInvokeDynamic || entry[0] == kDynamic;
+    require(ci, has_name_and_type, kIndexRule);
+    const uint8_t* name_and_type = entry_at(ci, u2_at(entry + 3));
+    require(ci, name_and_type[0] == kNameAndType, kIndexRule);
+    return name_and_type;
+}
+
+std::string_view cpool_member_name(const ClassRewriteState& ci, uint32_t index) {
+    return cpool_text(ci, u2_at(name_and_type_of(ci, index) + 1));
+}
+
+std::string_view cpool_member_descriptor(const ClassRewriteState& ci, uint32_t index) {
+    return cpool_text(ci, u2_at(name_and_type_of(ci, index) + 3));
+}
+
+std::string_view cpool_odd_text(const ClassRewriteState& ci, uint32_t index) {
+    const uint8_t* entry = entry_at(ci, index);
+    require(ci, entry[0] == kUtf8, kIndexRule);
+    return {reinterpret_cast<const char*>(entry) + 3, u2_at(entry + 1)};
 }
 
 std::string_view cpool_class_name(const ClassRewriteState& ci, uint32_t index) {
-    const Constant constant = constant_at(ci, index);
-    require(ci, constant.tag == kClass, kIndexRule);
-    return cpool_text(ci, constant.name_index);
+    const uint8_t* entry = entry_at(ci, index);
+    require(ci, entry[0] == kClass, kIndexRule);
+    return cpool_text(ci, u2_at(entry + 1));
 }
 
 }  // namespace crw

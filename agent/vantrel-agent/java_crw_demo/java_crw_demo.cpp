@@ -1,43 +1,23 @@
 #include "java_crw_demo.h"
 
+#include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <new>
 #include <string_view>
 
 #include "class_image.h"
-#include "class_rewrite_state.h"
+#include "images.h"
+#include "method_rewrite_state.h"
+#include "new_image.h"
 
 namespace crw {
 
 namespace {
 
-struct Free {
-    void operator()(void* block) const { free(block); }
-};
-template <typename T>
-using Owned = std::unique_ptr<T[], Free>;
-
-constexpr const char* kOutOfMemory = "Ran out of malloc memory";
-
-template <typename T>
-Owned<T> allocate(size_t size, JavaCrwDemoErrorHandler handler) {
-    Owned<T> block(static_cast<T*>(malloc(size)));
-    if (!block) {
-        fatal_error(handler, kOutOfMemory);
-    }
-    return block;
-}
-
-// How much longer than the class file its new image may be: every method may double, and a few hundred bytes cover the
-// added constants and members.
-size_t allowance(size_t file_len) {
-    constexpr size_t kForConstantsAndMembers = 512;
-    return 2 * file_len + kForConstantsAndMembers;
-}
-
-void require_argument(bool holds, const char* failure, JavaCrwDemoErrorHandler handler) {
+void require_argument(bool holds, const char* failure) {
     if (!holds) {
-        fatal_error(handler, failure);
+        fatal_error(failure);
     }
 }
 
@@ -46,47 +26,44 @@ bool is_class_signature(const char* signature) {
            std::string_view(signature).ends_with(';');
 }
 
-void require_tracker(const Tracker& tracker, std::string_view signature, const char* failure,
-                     JavaCrwDemoErrorHandler handler) {
+void require_tracker(const Tracker& tracker, std::string_view signature, const char* failure) {
     require_argument(tracker.name == nullptr || (tracker.signature != nullptr && tracker.signature == signature),
-                     failure, handler);
-}
-
-// The arguments have been checked. Returns the new image, and leaves its length in the state's output position.
-Owned<unsigned char> rewrite(ClassRewriteState& ci) {
-    ci.output_len = allowance(ci.input_len);
-    Owned<unsigned char> image = allocate<unsigned char>(ci.output_len, ci.fatal_error_handler);
-    ci.output = image.get();
-    inject_class(ci);
-    // Shrinking leaves the block as it is where it fails.
-    if (void* shrunk = realloc(image.get(), ci.output_position)) {
-        (void)image.release();
-        image.reset(static_cast<unsigned char*>(shrunk));
-    }
-    return image;
+                     failure);
 }
 
 void check_trackers(const ClassRewriteState& ci) {
-    const JavaCrwDemoErrorHandler handler = ci.fatal_error_handler;
-    require_tracker(ci.call_tracker, "(II)V", "call_sig is not (II)V", handler);
-    require_tracker(ci.return_tracker, "(II)V", "return_sig is not (II)V", handler);
-    require_tracker(ci.object_init_tracker, "(Ljava/lang/Object;)V", "obj_init_sig is not (Ljava/lang/Object;)V",
-                    handler);
-    require_tracker(ci.newarray_tracker, "(Ljava/lang/Object;)V", "newarray_sig is not (Ljava/lang/Object;)V", handler);
+    require_tracker(ci.call_tracker, "(II)V", "call_sig is not (II)V");
+    require_tracker(ci.return_tracker, "(II)V", "return_sig is not (II)V");
+    require_tracker(ci.object_init_tracker, "(Ljava/lang/Object;)V", "obj_init_sig is not (Ljava/lang/Object;)V");
+    require_tracker(ci.newarray_tracker, "(Ljava/lang/Object;)V", "newarray_sig is not (Ljava/lang/Object;)V");
 }
 
-// Runs one of the functions below. Their results are set to nothing before a failure can come.
+// Tells the caller of a failure. Leaves by the handler's own exception, if it throws one.
+void tell(const Failure& failure, JavaCrwDemoErrorHandler handler) {
+    if (handler == nullptr) {
+        fprintf(stderr, "CRW: %s [%s:%d]\n", failure.message, failure.file, failure.line);
+        abort();
+    }
+    handler(failure.message, failure.file, failure.line);
+}
+
+// Runs the body of an exported function, and lets nothing but a handler's own exception leave it. The function has set
+// its results to nothing before.
 template <typename Body>
 void guarded(JavaCrwDemoErrorHandler handler, const Body& body) {
     try {
         try {
             body();
         } catch (const std::bad_alloc&) {
-            fatal_error(handler, kOutOfMemory);
+            fatal_error(kOutOfMemory);
         }
-    } catch (const Failed&) {
-        // The handler was told, and returned.
+    } catch (const Failure& failure) {
+        tell(failure, handler);
     }
+}
+
+void tell_method_names(void* callback, unsigned class_number, const char** names, const char** descriptors, int count) {
+    (*static_cast<JavaCrwDemoMethodNames*>(callback))(class_number, names, descriptors, count);
 }
 
 }  // namespace
@@ -101,20 +78,19 @@ void java_crw_demo(unsigned class_number, const char* name, const unsigned char*
                    const char* obj_init_sig, const char* newarray_name, const char* newarray_sig,
                    unsigned char** pnew_file_image, long* pnew_file_len, JavaCrwDemoErrorHandler fatal_error_handler,
                    JavaCrwDemoMethodNames mnum_callback) {
-    const JavaCrwDemoErrorHandler handler = fatal_error_handler;
-    guarded(handler, [&] {
-        require_argument(pnew_file_image != nullptr, "pnew_file_image==NULL", handler);
-        require_argument(pnew_file_len != nullptr, "pnew_file_len==NULL", handler);
+    guarded(fatal_error_handler, [&] {
+        require_argument(pnew_file_image != nullptr, "pnew_file_image==NULL");
+        require_argument(pnew_file_len != nullptr, "pnew_file_len==NULL");
         *pnew_file_image = nullptr;
         *pnew_file_len = 0;
         if (file_len == 0) {
             return;
         }
-        require_argument(file_image != nullptr, "file_image == NULL", handler);
-        require_argument(file_len > 0, "file_len < 0", handler);
-        require_argument(system_class == 0 || system_class == 1, "system_class is not 0 or 1", handler);
-        require_argument(tclass_name != nullptr, "tclass_name == NULL", handler);
-        require_argument(is_class_signature(tclass_sig), "tclass_sig is not a valid class signature", handler);
+        require_argument(file_image != nullptr, "file_image == NULL");
+        require_argument(file_len > 0, "file_len < 0");
+        require_argument(system_class == 0 || system_class == 1, "system_class is not 0 or 1");
+        require_argument(tclass_name != nullptr, "tclass_name == NULL");
+        require_argument(is_class_signature(tclass_sig), "tclass_sig is not a valid class signature");
 
         ClassRewriteState ci;
         ci.number = class_number;
@@ -126,15 +102,17 @@ void java_crw_demo(unsigned class_number, const char* name, const unsigned char*
         ci.return_tracker = {return_name, return_sig};
         ci.object_init_tracker = {obj_init_name, obj_init_sig};
         ci.newarray_tracker = {newarray_name, newarray_sig};
-        ci.fatal_error_handler = handler;
-        ci.mnum_callback = mnum_callback;
+        if (mnum_callback != nullptr) {
+            ci.mnum_callback = tell_method_names;
+            ci.mnum_context = &mnum_callback;
+        }
         check_trackers(ci);
         if (name != nullptr) {
             require(ci, std::string_view(name).find('.') == std::string_view::npos, "strchr(name,'.')==NULL");
             ci.name = name;
             ci.is_thread_class = *ci.name == "java/lang/Thread";
         }
-        *pnew_file_image = rewrite(ci).release();
+        *pnew_file_image = make_new_image(ci, usual_room(ci.input_len)).release();
         *pnew_file_len = static_cast<long>(ci.output_position);
     });
 }
@@ -147,12 +125,11 @@ char* java_crw_demo_classname(const unsigned char* file_image, long file_len,
             return;
         }
         ClassRewriteState ci;
-        ci.fatal_error_handler = fatal_error_handler;
         require(ci, file_len > 0, kInsideImages);
         ci.input = file_image;
         ci.input_len = static_cast<size_t>(file_len);
         const std::string_view name = read_class_name(ci);
-        Owned<char> copy = allocate<char>(name.size() + 1, fatal_error_handler);
+        Owned<char> copy = allocate<char>(name.size() + 1);
         memcpy(copy.get(), name.data(), name.size());
         copy[name.size()] = '\0';
         result = copy.release();

@@ -69,7 +69,7 @@ typedef void (*JavaCrwDemoMethodNames)(unsigned class_number, const char** names
  *   fatal_error_handler, mnum_callback
  *                      may be NULL
  *
- * The new image is at most 2 * file_len + 512 bytes long; a class that would need more fails.
+ * The new image is at most 2 * file_len + 512 bytes long. A class that would need more fails.
  */
 JAVA_CRW_DEMO_EXPORT void java_crw_demo(unsigned class_number, const char* name, const unsigned char* file_image,
                                         long file_len, int system_class, const char* tclass_name,

@@ -52,8 +52,8 @@ enum Opcode : uint8_t {
     kLastOpcode = kJsrW,
 };
 
-// The lengths of the instructions that need nothing but to be copied. 0 for branches, whose offsets change; for
-// switches and `wide`, whose lengths the opcode does not tell; and for what is no instruction.
+// By opcode, the length of an instruction that is only copied, with the opcode. 0 for all others: branches, whose
+// offsets change; switches and `wide`, whose lengths the opcode does not tell; and opcodes that do not exist.
 constexpr std::array<uint8_t, 256> kPlainLength = [] {
     std::array<uint8_t, 256> length{};
     const auto set = [&length](int first, int last, uint8_t value) {
@@ -87,7 +87,7 @@ inline uint32_t length_of_array_creation(uint8_t opcode) {
     return kPlainLength[opcode];
 }
 
-// Where the operands of a switch at a pc begin, behind its padding.
+// Where the operands of a switch at a pc begin, after its padding.
 inline uint32_t switch_operands(uint32_t pc) {
     return (pc + 4) & ~3U;
 }

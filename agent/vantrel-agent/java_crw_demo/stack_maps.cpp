@@ -1,30 +1,14 @@
 #include "stack_maps.h"
 
+#include "images.h"
+#include "landing_frames.h"
+#include "stack_map_format.h"
+
 namespace crw {
 
 namespace {
 
-// The first frame type of each kind (JVM specification, section 4.7.4).
-enum FrameType : uint8_t {
-    kSame = 0,
-    kSameLocalsOneStackItem = 64,
-    kReserved = 128,
-    kSameLocalsOneStackItemExtended = 247,
-    kChop = 248,
-    kSameExtended = 251,
-    kAppend = 252,
-    kFull = 255,
-};
-
-// The short forms have their delta in the type.
-constexpr int32_t kDeltasInType = 64;
-
-enum VerificationType : uint8_t {
-    kObject = 7,
-    kUninitialized = 8,
-};
-
-// An attribute's frames must lie inside it: as long as one of these lives, the input ends where the attribute does.
+// Keeps reading inside one attribute: as long as it lives, the class file ends where the attribute does.
 class InputOfAttribute {
   public:
     InputOfAttribute(ClassRewriteState& ci, uint32_t attr_len) : ci_(ci), whole_(ci.input_len) {
@@ -44,9 +28,9 @@ void copy_verification_types(MethodRewriteState& mi, uint32_t count) {
     for (; count > 0; --count) {
         const uint8_t tag = read_u1(ci);
         write_u1(ci, tag);
-        if (tag == kObject) {
+        if (tag == VerificationType::kObject) {
             copy_u2(ci);
-        } else if (tag == kUninitialized) {
+        } else if (tag == VerificationType::kUninitialized) {
             // The pc of the instruction that makes the object.
             write_u2(ci, static_cast<uint32_t>(mi.new_pc(read_u2(ci))));
         }
@@ -57,7 +41,7 @@ void copy_counted_verification_types(MethodRewriteState& mi) {
     copy_verification_types(mi, copy_u2(mi.ci));
 }
 
-// A short form with its new delta in it, or the extended form where that does not fit.
+// Writes a frame in its short form, or in its extended form where the delta does not fit.
 void write_short_frame(ClassRewriteState& ci, FrameType short_form, FrameType extended_form, int32_t delta) {
     if (delta < kDeltasInType) {
         write_u1(ci, static_cast<uint32_t>(short_form + delta));
@@ -67,7 +51,7 @@ void write_short_frame(ClassRewriteState& ci, FrameType short_form, FrameType ex
     }
 }
 
-// The end of an attribute whose frames have been written: its new length.
+// Writes the new length of an attribute whose frames have all been written.
 void write_length(MethodRewriteState& mi, uint32_t attr_len, size_t length_position) {
     ClassRewriteState& ci = mi.ci;
     const size_t new_attr_len = ci.output_position - length_position - sizeof(uint32_t);
@@ -75,27 +59,16 @@ void write_length(MethodRewriteState& mi, uint32_t attr_len, size_t length_posit
     put_u4(ci.output + length_position, static_cast<uint32_t>(new_attr_len));
 }
 
-// The number of entries. An attribute without any is nothing but that number.
+// Returns the number of frames. An attribute without any holds nothing but that number.
 uint16_t copy_entry_count(ClassRewriteState& ci, uint32_t attr_len) {
     const uint16_t count = copy_u2(ci);
     require(ci, count > 0 || attr_len == sizeof count, "attr_len==2");
     return count;
 }
 
-// The frame before the one that is being written.
-struct LastFrame {
-    int32_t pc = 0;
-    int32_t new_pc = 0;
-    int32_t increment = 0;  // a later frame's position is one more than its delta says
-};
-
 void write_frame(MethodRewriteState& mi, LastFrame& last) {
     ClassRewriteState& ci = mi.ci;
-    const uint8_t type = read_u1(ci);
-    if (type >= kReserved && type < kSameLocalsOneStackItemExtended) {
-        fatal_error(ci.fatal_error_handler, "Unknown frame type in StackMapTable attribute");
-    }
-    const int32_t delta = type < kReserved ? type % kDeltasInType : read_u2(ci);
+    const auto [type, delta] = read_frame_head(ci);
     const int32_t pc = last.pc + delta + last.increment;
     const int32_t new_pc = mi.new_pc(static_cast<uint32_t>(pc));
     const int32_t new_delta = new_pc - last.new_pc - last.increment;
@@ -126,12 +99,19 @@ void write_frame(MethodRewriteState& mi, LastFrame& last) {
 
 void write_stack_map_table(MethodRewriteState& mi, uint32_t attr_len, size_t length_position) {
     const InputOfAttribute input(mi.ci, attr_len);
-    LastFrame last;
+    const size_t count_position = mi.ci.output_position;
     const uint16_t count = copy_entry_count(mi.ci, attr_len);
+    LastFrame last;
+    LandingFrames landings(mi, count);
     for (uint16_t left = count; left > 0; --left) {
-        write_frame(mi, last);
+        landings.write_up_to_next(last);
+        if (!landings.write_instead_of_next(last)) {
+            write_frame(mi, last);
+        }
     }
-    if (count > 0) {
+    landings.write_rest(last);
+    if (count + landings.count() > 0) {
+        put_u2(mi.ci.output + count_position, count + landings.count());
         write_length(mi, attr_len, length_position);
     }
 }

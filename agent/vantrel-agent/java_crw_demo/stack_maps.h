@@ -1,14 +1,17 @@
-// The frames that tell a verifier the types at branch targets and handlers. Their positions are old pcs; where they are
-// stored as differences that no longer fit their short form, the frame takes its extended one.
+// Stack maps: the frames that tell a verifier which types the locals and the stack have at branch targets and handlers.
+//
+// A frame of a StackMapTable (JVM specification, section 4.7.4) does not say its pc, but how far it is from the frame
+// before it. Where that distance has grown beyond what the frame's short form can hold, the frame takes its extended
+// form, and the attribute becomes longer. Frames of the older StackMap say their pc, and are all full ones.
 #ifndef JAVA_CRW_DEMO_STACK_MAPS_H
 #define JAVA_CRW_DEMO_STACK_MAPS_H
 
-#include "injection.h"
+#include "method_rewrite_state.h"
 
 namespace crw {
 
-// Rewrite the body of a StackMapTable (JVM specification, section 4.7.4), or of the older StackMap, whose frames are
-// all full and have positions of their own. The length has been copied, to `length_position` of the output.
+// Rewrite the body of an attribute whose length has been copied to `length_position` of the new image, and write the
+// new length there.
 void write_stack_map_table(MethodRewriteState& mi, uint32_t attr_len, size_t length_position);
 void write_stack_map(MethodRewriteState& mi, uint32_t attr_len, size_t length_position);
 

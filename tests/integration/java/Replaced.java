@@ -15,7 +15,7 @@ public final class Replaced {
         JPanel panel = new JPanel();
         JLabel label = new JLabel("added");
         panel.add(label);
-        int line = new Throwable().getStackTrace()[0].getLineNumber();
+        int line = new Throwable().getStackTrace()[0].getLineNumber() - 1; // that of the call before
         System.out.println("added in line " + line);
         for (StackTraceElement element : StackTraceManager.getStackTrace(label)) {
             System.out.println("at " + element.getClassName() + "." + element.getMethodName() + " line "

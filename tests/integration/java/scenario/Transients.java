@@ -96,15 +96,15 @@ final class Transients {
     String fullScreen(String state) {
         JFrame main = things.get("main", JFrame.class);
         main.getGraphicsConfiguration().getDevice().setFullScreenWindow(state.equals("on") ? main : null);
-        return "";
+                    return "";
     }
 
     String disposeAll() {
-        for (Window window : Window.getWindows()) {
-                        if (!Scenario.isInspectors(window)) {
-                            window.dispose();
-                        }
+                for (Window window : Window.getWindows()) {
+                    if (!Scenario.isInspectors(window)) {
+                        window.dispose();
                     }
-                    return "";
+                }
+                return "";
     }
         }

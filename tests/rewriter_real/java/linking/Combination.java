@@ -21,9 +21,9 @@ enum Combination {
     }
 
     /** Every other class's name is left for the rewriter to find. Throws a Refusal. */
-    byte[] rewrite(String name, byte[] image) {
+    byte[] rewrite(String name, byte[] image, boolean modern) {
         int hash = name.hashCode() & 0x7FFF;
         String known = hash % 2 == 0 ? name.replace('.', '/') : null;
-        return Rewriter.rewrite(image, known, trackers, firstNumber + hash, systemClass);
+        return Rewriter.rewrite(image, known, trackers, firstNumber + hash, systemClass, modern);
     }
 }

@@ -14,14 +14,17 @@ import java.util.zip.ZipFile;
 
 /** The class images in jars and folders, by name; where there are several of a name, the first counts. */
 final class Images {
-    /** The newest version that the rewriter takes. */
+    /** The newest versions that the rewriter takes by its two doors. */
     static final int NEWEST = 52;
+    private static final int NEWEST_MODERN = 69;
 
     private final Map<String, byte[]> images = new LinkedHashMap<>();
+    private final int newest;
     private int newer;
     private int repeated;
 
-    Images(List<Path> places) throws IOException {
+    Images(List<Path> places, boolean modern) throws IOException {
+        newest = modern ? NEWEST_MODERN : NEWEST;
         for (Path place : places) {
             if (Files.isDirectory(place)) {
                 addFolder(place);
@@ -54,7 +57,7 @@ final class Images {
 
     private void addFolder(Path folder) throws IOException {
         try (Stream<Path> files = Files.walk(folder)) {
-            for (Path file : (Iterable<Path>) files.filter(f -> f.toString().endsWith(".class")).sorted()::iterator) {
+            for (Path file : (Iterable<Path>) files.filter(Images::isClass).sorted()::iterator) {
                 add(Files.readAllBytes(file));
             }
         }
@@ -63,7 +66,7 @@ final class Images {
     private void addJar(Path file) throws IOException {
         try (ZipFile jar = new ZipFile(file.toFile())) {
             List<ZipEntry> entries = new ArrayList<>();
-            jar.stream().filter(e -> e.getName().endsWith(".class")).forEach(entries::add);
+            jar.stream().filter(e -> isClass(Path.of(e.getName()))).forEach(entries::add);
             entries.sort(Comparator.comparing(ZipEntry::getName));
             for (ZipEntry entry : entries) {
                 add(jar.getInputStream(entry).readAllBytes());
@@ -71,8 +74,14 @@ final class Images {
         }
     }
 
+    /** A module-info or package-info is nothing to link. */
+    private static boolean isClass(Path file) {
+        String name = file.toString();
+        return name.endsWith(".class") && !name.endsWith("-info.class");
+    }
+
     private void add(byte[] image) {
-        if (version(image) > NEWEST) {
+        if (version(image) > newest) {
             ++newer;
         } else if (images.putIfAbsent(Rewriter.className(image).replace('/', '.'), image) != null) {
             ++repeated;

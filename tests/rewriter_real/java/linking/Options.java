@@ -12,6 +12,8 @@ final class Options {
     Path failures;
     /** Gives classes of version 50 version 51, so that a wrong stack map is not forgiven as it is in version 50. */
     boolean strict;
+    /** Rewrites by the door for the class files of today. */
+    boolean modern;
     /** Only every so manyth class is linked; the others are there for those. */
     int every = 1;
     /** A sequence of bytes, in Latin-1, that is replaced in rewritten images by one of the same length. */
@@ -26,6 +28,9 @@ final class Options {
                     break;
                 case "--failures":
                     failures = Path.of(arguments[++i]);
+                    break;
+                case "--modern":
+                    modern = true;
                     break;
                 case "--strict":
                     strict = true;

@@ -21,11 +21,7 @@ public final class RewriteObject {
         image[6] = 0;
         image[7] = Images.NEWEST;
         Files.write(folder.resolve("Before.class"), image);
-        write(folder.resolve("ObjectInit.class"), image, Rewriter.OBJECT_INIT);
-        write(folder.resolve("All.class"), image, Rewriter.ALL);
-    }
-
-    private static void write(Path file, byte[] image, int trackers) throws IOException {
-        Files.write(file, Rewriter.rewrite(image, "java/lang/Object", trackers, 7, true));
+        Files.write(folder.resolve("After.class"),
+                Rewriter.rewrite(image, "java/lang/Object", Rewriter.ALL, 7, true, false));
     }
 }

@@ -11,8 +11,9 @@ final class Rewriter {
     private Rewriter() {
     }
 
-    /** Throws a Refusal. The name may be null. */
-    static native byte[] rewrite(byte[] image, String name, int trackers, int classNumber, boolean systemClass);
+    /** Throws a Refusal. The name may be null. Modern is what takes the class files of today. */
+    static native byte[] rewrite(
+            byte[] image, String name, int trackers, int classNumber, boolean systemClass, boolean modern);
 
     /** In internal form. Throws a Refusal. */
     static native String className(byte[] image);

@@ -32,7 +32,7 @@ public final class SideBySide {
 
     private SideBySide(Options options) throws IOException {
         this.options = options;
-        images = new Images(options.places);
+        images = new Images(options.places, options.modern);
     }
 
     public static void main(String[] arguments) throws IOException {
@@ -50,7 +50,7 @@ public final class SideBySide {
                     + failures.size() + " failures");
         }
         counts.put("classes", names.size());
-        counts.put("classes newer than version " + Images.NEWEST, images.newer());
+        counts.put("classes that are too new", images.newer());
         counts.put("classes of a name that was there before", images.repeated());
         counts.forEach((what, count) -> System.out.println(what + ": " + count));
         failures.forEach(failure -> System.out.println("failure: " + failure));
@@ -90,7 +90,7 @@ public final class SideBySide {
         Map<String, byte[]> rewritten = new LinkedHashMap<>();
         Side side = new Side(images, (name, image) -> {
             try {
-                rewritten.put(name, damaged(strict(name, combination.rewrite(name, image))));
+                rewritten.put(name, damaged(strict(name, combination.rewrite(name, image, options.modern))));
                 return rewritten.get(name);
             } catch (Refusal refusal) {
                 refusals.put(name, refusal.getMessage());

@@ -15,9 +15,7 @@ public class AgentTest {
     public void itsEndIsNobodysFault() {
         Graphics2D graphics = new BufferedImage(1, 1, BufferedImage.TYPE_INT_RGB).createGraphics();
         Agent.highlight(new JLabel(), graphics);
-        Agent.run(new JLabel(), () -> {
-            throw new AssertionError("there is nobody to run it");
-        });
+        Agent.run(new JLabel(), () -> { throw new AssertionError("there is nobody to run it"); });
         assertFalse(Agent.canHighlight());
     }
 }
