@@ -1,16 +1,21 @@
 # What the build needs besides the compiler and the JDK; scripts/setup installs it on Debian.
 #
-# Gives: PkgConfig::Xcb (not on macOS), PkgConfig::Zip, PkgConfig::Zlib, Threads::Threads, Cli11::headers; and where the
-# tests are built: GTest::gmock, GTest::gtest_main, PkgConfig::XcbTest, and the files JUNIT4_JAR,
-# HAMCREST_JAR, MIGLAYOUT_SWING_JAR and MIGLAYOUT_CORE_JAR.
+# Gives: PkgConfig::Xcb (not on macOS); where more than the library is built: PkgConfig::Zip, PkgConfig::Zlib,
+# Threads::Threads, Cli11::headers; and where the tests are built: GTest::gmock, GTest::gtest_main, PkgConfig::XcbTest,
+# and the files JUNIT4_JAR, HAMCREST_JAR, MIGLAYOUT_SWING_JAR and MIGLAYOUT_CORE_JAR.
+
+if(NOT APPLE)
+    find_package(PkgConfig REQUIRED)
+    pkg_check_modules(Xcb REQUIRED IMPORTED_TARGET xcb)
+endif()
+if(VANTREL_LIBRARY_ONLY)
+    return()
+endif()
 
 find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
 pkg_check_modules(Zip REQUIRED IMPORTED_TARGET libzip)
 pkg_check_modules(Zlib REQUIRED IMPORTED_TARGET zlib)
-if(NOT APPLE)
-    pkg_check_modules(Xcb REQUIRED IMPORTED_TARGET xcb)
-endif()
 
 find_path(CLI11_INCLUDE_DIR CLI/CLI.hpp REQUIRED)
 add_library(Cli11::headers INTERFACE IMPORTED)

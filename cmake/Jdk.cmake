@@ -11,7 +11,8 @@ cmake_path(GET javac PARENT_PATH javac_folder)
 cmake_path(GET javac_folder PARENT_PATH JDK_HOME)
 set(JDK_INCLUDE_DIR ${JDK_HOME}/include)
 
-if(APPLE)
+# The JDK is that of the machine that builds. Whichever that is, its jni_md.h says the same for macOS.
+if(CMAKE_HOST_APPLE)
     set(JDK_PLATFORM_INCLUDE_DIR ${JDK_INCLUDE_DIR}/darwin)
 else()
     set(JDK_PLATFORM_INCLUDE_DIR ${JDK_INCLUDE_DIR}/linux)

@@ -1,0 +1,26 @@
+# Makes the macOS library on Linux: cmake --preset macos-cross. docs/macos.md says how.
+set(CMAKE_SYSTEM_NAME Darwin)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+
+set(tools ${CMAKE_CURRENT_LIST_DIR}/../../build/macos-tools)
+set(llvm /usr/lib/llvm-16/bin)
+foreach(tool ${tools}/arm64/libc++.a ${llvm}/ld64.lld ${llvm}/llvm-lipo)
+    if(NOT EXISTS ${tool})
+        message(FATAL_ERROR "What makes the macOS library is not here; scripts/setup macos installs it.")
+    endif()
+endforeach()
+
+set(CMAKE_CXX_COMPILER ${CMAKE_CURRENT_LIST_DIR}/c++)
+set(CMAKE_AR ${llvm}/llvm-ar)
+set(CMAKE_RANLIB ${llvm}/llvm-ranlib)
+set(CMAKE_INSTALL_NAME_TOOL ${llvm}/llvm-install-name-tool)
+# What runs on this machine is not for macOS.
+set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
+
+# In the place of Apple's SDK: what the linker has to know of two frameworks.
+set(CMAKE_OSX_SYSROOT ${CMAKE_CURRENT_LIST_DIR}/sdk CACHE PATH "")
+# The declarations of Carbon and Quartz that the keyboard's tests have.
+set(CMAKE_CXX_FLAGS_INIT "-isystem ${CMAKE_CURRENT_LIST_DIR}/../../tests/carbon")
+# An arm64 Mac runs no code without a signature. The map to debug information, which the C++ library's files would get,
+# has their times in it.
+set(CMAKE_SHARED_LINKER_FLAGS_INIT "-Wl,-adhoc_codesign -Wl,-S")
