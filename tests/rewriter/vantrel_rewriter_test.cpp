@@ -129,6 +129,7 @@ TEST(SecondDoor, TellsTheMethodsOnce) {
                                                                    descriptors[0] + std::to_string(count));
     };
     ASSERT_EQ(call.run(), 0);
+    EXPECT_STREQ(call.result.class_name, "com/example/Sample");
     EXPECT_THAT(told, ElementsAre("70000m()V1"));
 }
 

@@ -35,7 +35,12 @@ void pass_modern_names_on(void* /*context*/, uint32_t class_number, const char* 
     pass_names_on(class_number, const_cast<const char**>(names), const_cast<const char**>(descriptors), count);
 }
 
-ClassImage rewrite_modern(std::span<const unsigned char> image, const Rewriting& how) {
+struct Modern {
+    ClassImage image;
+    std::string class_name;
+};
+
+Modern rewrite_modern(std::span<const unsigned char> image, const Rewriting& how) {
     VantrelRewriterOptions options{};
     options.size = sizeof options;
     options.tracker_class = "tracking/Tracker";
@@ -52,7 +57,7 @@ ClassImage rewrite_modern(std::span<const unsigned char> image, const Rewriting&
     if (vantrel_rewriter_rewrite(image.data(), image.size(), &options, &result) > VANTREL_REWRITER_CARRIED_OVER) {
         throw std::runtime_error(std::string(result.method) + ": " + result.sentence);
     }
-    const ClassImage rewritten(result.image, result.image + result.length);
+    const Modern rewritten{{result.image, result.image + result.length}, result.class_name};
     vantrel_rewriter_release(&result);
     return rewritten;
 }
@@ -66,7 +71,7 @@ unsigned class_version(std::span<const unsigned char> image) {
 ClassImage rewrite(std::span<const unsigned char> image, const Rewriting& how) {
     current_names = &how.method_names;
     if (how.is_modern) {
-        return rewrite_modern(image, how);
+        return rewrite_modern(image, how).image;
     }
     unsigned char* bytes = nullptr;
     long length = 0;
@@ -82,6 +87,10 @@ ClassImage rewrite(std::span<const unsigned char> image, const Rewriting& how) {
 }
 
 std::string class_name(std::span<const unsigned char> image) {
+    constexpr unsigned kNewest = 52;  // of java_crw_demo_classname, as far as constants go
+    if (class_version(image) > kNewest) {
+        return rewrite_modern(image, {}).class_name;
+    }
     const std::unique_ptr<char, Free> name(
         java_crw_demo_classname(image.data(), static_cast<long>(image.size()), throw_message));
     return name ? name.get() : "";
