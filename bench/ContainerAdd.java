@@ -49,7 +49,8 @@ public final class ContainerAdd {
             container.remove(component);
         });
         System.out.printf("%3d frames: a Throwable %6.0f ns, add and remove %6.0f ns (%.2f Throwables), and asked"
-                + " %6.0f ns%n", depth, throwable, added, added / throwable, asked);
+                        + " %6.0f ns%n",
+                depth, throwable, added, added / throwable, asked);
     }
 
     private static long heapOfAnAddition(int depth) throws Exception {
@@ -85,9 +86,7 @@ public final class ContainerAdd {
         System.out.printf("and an addition takes %.1f ms%n", (System.nanoTime() - start) / 1e6);
     }
 
-    private static final class Plain extends Component {
-        private static final long serialVersionUID = 1L;
-    }
+    private static final class Plain extends Component { private static final long serialVersionUID = 1L; }
 
     private static long usedHeap() throws InterruptedException {
         for (int i = 0; i < 4; i++) {

@@ -37,7 +37,7 @@ public final class InspectorBench {
     private static final int MILLIS_TO_SETTLE = 400;
 
     private static final String[] STEPS = {"open", "search label", "search enabled=false", "search font.size>99",
-        "clear search", "expand all", "half a second of looking"};
+            "clear search", "expand all", "half a second of looking"};
 
     /** The longest event since the last step: nanoseconds on the clock, and of computing. */
     private static final AtomicLong HELD = new AtomicLong();
@@ -100,29 +100,29 @@ public final class InspectorBench {
     private static long run(int step) throws Exception {
         long start = System.nanoTime();
         switch (step) {
-        case 0:
-            Vantrel.showVantrel(null);
-            await(() -> rows() > 1);
-            break;
-        case 1:
-            search("label", PANELS * LABELS);
-            break;
-        case 2:
-            search("enabled=false", PANELS / 100);
-            break;
-        case 3:
-            search("font.size>99", 0);
-            break;
-        case 4:
-            search("", -1);
-            break;
-        case 5:
-            on(InspectorBench::expandAll);
-            await(() -> rows() > PANELS * LABELS);
-            break;
-        default:
-            Thread.sleep(500);
-            break;
+            case 0:
+                Vantrel.showVantrel(null);
+                await(() -> rows() > 1);
+                break;
+            case 1:
+                search("label", PANELS * LABELS);
+                break;
+            case 2:
+                search("enabled=false", PANELS / 100);
+                break;
+            case 3:
+                search("font.size>99", 0);
+                break;
+            case 4:
+                search("", -1);
+                break;
+            case 5:
+                on(InspectorBench::expandAll);
+                await(() -> rows() > PANELS * LABELS);
+                break;
+            default:
+                Thread.sleep(500);
+                break;
         }
         on(InspectorBench::nothing); // what is painted by now is on the screen
         return TimeUnit.NANOSECONDS.toMillis(System.nanoTime() - start);

@@ -15,6 +15,7 @@
 
 #include "keyboard.h"
 #include "process.h"
+#include "x_connection.h"
 #include "x_keys.h"
 #include "x_server.h"
 
@@ -22,11 +23,6 @@ namespace {
 
 using std::chrono::steady_clock;
 using Milliseconds = std::chrono::duration<double, std::milli>;
-
-template <typename T>
-std::unique_ptr<T, void (*)(void*)> owned(T* block) {
-    return {block, free};
-}
 
 [[noreturn]] void give_up(const std::string& why) {
     fprintf(stderr, "hot-key-bench: %s\n", why.c_str());

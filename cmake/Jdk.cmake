@@ -1,7 +1,7 @@
 # The JDK that the build uses: javac and jar, and the JNI and JVMTI headers that lie beside them. JAVA_HOME, where
 # it is set, decides; otherwise the javac on the path does.
 #
-# Gives: UseJava's add_jar, JDK_HOME, JDK_INCLUDE_DIR and the target Jdk::headers.
+# Gives: JDK_HOME, JDK_INCLUDE_DIR, JDK_PLATFORM_INCLUDE_DIR, the target Jdk::headers and add_release_jar.
 
 find_package(Java COMPONENTS Development REQUIRED)
 include(UseJava)
@@ -12,11 +12,11 @@ cmake_path(GET javac_folder PARENT_PATH JDK_HOME)
 set(JDK_INCLUDE_DIR ${JDK_HOME}/include)
 
 if(APPLE)
-    set(jdk_platform_headers ${JDK_INCLUDE_DIR}/darwin)
+    set(JDK_PLATFORM_INCLUDE_DIR ${JDK_INCLUDE_DIR}/darwin)
 else()
-    set(jdk_platform_headers ${JDK_INCLUDE_DIR}/linux)
+    set(JDK_PLATFORM_INCLUDE_DIR ${JDK_INCLUDE_DIR}/linux)
 endif()
-foreach(header ${JDK_INCLUDE_DIR}/jni.h ${JDK_INCLUDE_DIR}/jvmti.h ${jdk_platform_headers}/jni_md.h)
+foreach(header ${JDK_INCLUDE_DIR}/jni.h ${JDK_INCLUDE_DIR}/jvmti.h ${JDK_PLATFORM_INCLUDE_DIR}/jni_md.h)
     if(NOT EXISTS ${header})
         message(FATAL_ERROR "The JDK in ${JDK_HOME} has no ${header}. "
             "Set JAVA_HOME to a whole JDK, 17 or later (Debian: openjdk-17-jdk).")
@@ -24,7 +24,15 @@ foreach(header ${JDK_INCLUDE_DIR}/jni.h ${JDK_INCLUDE_DIR}/jvmti.h ${jdk_platfor
 endforeach()
 
 add_library(Jdk::headers INTERFACE IMPORTED)
-target_include_directories(Jdk::headers INTERFACE ${JDK_INCLUDE_DIR} ${jdk_platform_headers})
+target_include_directories(Jdk::headers INTERFACE ${JDK_INCLUDE_DIR} ${JDK_PLATFORM_INCLUDE_DIR})
 
-# Java sources are compiled for Java 8, whatever the JDK; newer ones remark on the age of that, hence -options.
-set(CMAKE_JAVA_COMPILE_FLAGS --release 8 -encoding UTF-8 -Xlint:all,-options -Werror)
+# add_release_jar(NAME RELEASE ...): UseJava's add_jar, with its arguments from the third on, for the VMs of a Java
+# release and later.
+function(add_release_jar name release)
+    set(CMAKE_JAVA_COMPILE_FLAGS --release ${release} -encoding UTF-8 -Xlint:all -Werror)
+    if(release EQUAL 8)
+        # Newer compilers warn that 8 is old.
+        list(APPEND CMAKE_JAVA_COMPILE_FLAGS -Xlint:-options)
+    endif()
+    add_jar(${name} ${ARGN})
+endfunction()

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # For the scripts beside it: where the project is, and how they speak. Sourced, not run.
 
 set -euo pipefail
@@ -39,4 +40,17 @@ step() {
         exit 1
     fi
     printf '%s %d s\n' "$([ -t 2 ] && printf '%s …' "$what")" $((SECONDS - started)) >&2
+}
+
+# jdks: a line "RELEASE HOME" for each of the JDKs that tests run on, JAVA_HOME's first.
+jdks() {
+    local java release seen=
+    for java in ${JAVA_HOME:+"$JAVA_HOME/bin/java"} /usr/lib/jvm/*/bin/java; do
+        release=$("$java" -XshowSettings:properties -version 2>&1 | sed -n 's/^ *java.specification.version = //p')
+        case "$release:$seen" in
+            17:*17* | 25:*25*) ;;
+            17:* | 25:*) seen="$seen $release" && printf '%s %s\n' "$release" "${java%/bin/java}" ;;
+        esac
+    done
+    [ -n "$seen" ] || give_up "neither JDK 17 nor JDK 25 is in JAVA_HOME or below /usr/lib/jvm"
 }

@@ -4,6 +4,8 @@
 
 #include "failure.h"
 
+namespace command {
+
 std::optional<std::string> parse_command_line(CLI::App& app, int argc, char** argv) {
     try {
         app.parse(argc, argv);
@@ -16,3 +18,5 @@ std::optional<std::string> parse_command_line(CLI::App& app, int argc, char** ar
     }
     return std::nullopt;
 }
+
+}  // namespace command

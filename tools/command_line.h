@@ -9,8 +9,12 @@ namespace CLI {
 class App;
 }
 
+namespace command {
+
 // Parses a command line into the variables that the application's options name. Returns the text that --help or
 // --version prints, and nothing where there is work to do. Throws Failure if the command line makes no sense.
 std::optional<std::string> parse_command_line(CLI::App& app, int argc, char** argv);
+
+}  // namespace command
 
 #endif

@@ -4,9 +4,13 @@
 
 #include <string>
 
+namespace command {
+
 // One line for the user, without the command's name: what is wrong and, where that is not plain, what to do about it.
 struct Failure {
     std::string line;
 };
+
+}  // namespace command
 
 #endif

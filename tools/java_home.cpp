@@ -7,6 +7,8 @@
 
 namespace fs = std::filesystem;
 
+namespace command {
+
 namespace {
 
 bool is_executable(const fs::path& file) {
@@ -54,3 +56,5 @@ std::optional<fs::path> find_vm_library(const fs::path& home) {
     }
     return std::nullopt;
 }
+
+}  // namespace command

@@ -6,6 +6,8 @@
 #include <optional>
 #include <string>
 
+namespace command {
+
 // The file that a shell would run for a name: the name itself if there is a slash in it, or else the first executable
 // file of that name on the path. Nothing if there is none.
 std::optional<std::filesystem::path> find_on_path(const std::string& name);
@@ -16,5 +18,7 @@ std::optional<std::filesystem::path> find_java_home();
 
 // The library of the VM in a home. Nothing if there is none.
 std::optional<std::filesystem::path> find_vm_library(const std::filesystem::path& home);
+
+}  // namespace command
 
 #endif

@@ -32,7 +32,7 @@
 #define JAVA_METHOD(C,m,N)      C##_##m##N
 #define JAVA_FIELD(C,f)         C##_##f
 
-// With `extern` before it a declaration, with an initialiser behind it a definition.
+// With `extern` before it a declaration, with an initialiser after it a definition.
 #define CACHE_JAVA_CLASS(C)                 jclass JAVA_CLASS(C)
 #define CACHE_JAVA_CONSTRUCTOR(C,N)         jmethodID JAVA_CONSTRUCTOR(C,N)
 #define CACHE_JAVA_METHOD(C,m,N)            jmethodID JAVA_METHOD(C,m,N)

@@ -22,7 +22,7 @@ JNIEXPORT void stdout_message(const char* format, ...) __attribute__((format(pri
 //   message  what was tried; null counts as empty
 JNIEXPORT void check_jvmti_error(jvmtiEnv* jvmti, jvmtiError error, const char* message);
 
-// Copies the next token of `str` into `token` and returns the position right behind it in `str`. Null, with an empty
+// Copies the next token of `str` into `token` and returns the position right after it in `str`. Null, with an empty
 // `token`, when there is no token left or when the next one has `maxLength` characters or more: a token that does not
 // fit is refused, not cut.
 //   str         text to read; null counts as empty

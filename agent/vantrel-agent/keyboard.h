@@ -1,6 +1,7 @@
 // The keyboard of the window system that the program runs on: a hot key that works whatever window has the focus, and
 // whether the key that asks for highlights is held. One header, one file per window system: keyboard_carbon.cpp for
-// macOS, keyboard_x11.cpp for X11. They know nothing of the agent; what they need of the VM is handed to them here.
+// macOS, keyboard_x11.cpp for X11. They know nothing of the agent: setHotKeyVmAttachment gives them the two functions
+// of the VM that they need.
 //
 //                   hot key         the modifier         the hot key's callback runs on
 //     Carbon        Command+F12     Command, either      the application's main event thread
@@ -15,27 +16,31 @@
 
 #include <stdio.h>
 
-// How a thread of a window system's own comes to the VM and leaves it.
-struct HotKeyThread {
-    bool (*attach)(const char* name);  // called on the thread before any callback; no callback runs where it says no
-    void (*detach)();                  // called on the thread before it ends, if it was attached
+// How a thread that the keyboard has started becomes one of the VM's threads, and how it stops being one. Both are
+// called on that thread itself.
+struct VmAttachment {
+    bool (*attach)(const char* name);  // called once, before the callback runs; if it returns false, no callback runs
+    void (*detach)();                  // called before the thread ends, if attach has returned true
 };
 
-// Sets what the hot key's thread calls, for bindMacHotKey. Means nothing on Carbon, where no thread is made.
-void setHotKeyThread(HotKeyThread thread);
+// Sets the attachment that the next bindMacHotKey uses. Without effect under Carbon, where no thread is started.
+void setHotKeyVmAttachment(VmAttachment attachment);
 
-// Registers the hot key, which from then on runs `callback` each time it is pressed; a key that is held down counts
-// once. Says on stdout that it did, whether or not that worked, and on X11 says on stderr which key it is and, in
-// another line, why there is none; when the keyboard changes later, X11 says so again, or that there is one now. Called
-// on any thread, and again only after unbindMacHotKey. On X11 an unresponsive display delays it by half a second at
-// most.
+// Registers the hot key. From then on `callback` runs each time it is pressed; a key that is held down counts once.
+//
+// Writes the line of announceHotKey to stdout, whether or not the key could be registered. Under X11 one line on stderr
+// says which key it is and, where there is no hot key, another one says why; when that changes later, because the
+// keyboard does, a line says so.
+//
+// May be called on any thread, but a second time only after unbindMacHotKey. Under X11 it waits for a display that does
+// not answer, for half a second at most.
 void bindMacHotKey(void (*callback)());
 
-// Gives the hot key back if there is one. Waits for nothing: a callback that runs already runs on.
+// Gives the hot key back if there is one. Returns at once, even while a callback is running; that one runs to its end.
 void unbindMacHotKey();
 
-// Whether the modifier is held at this moment. May be called from any thread, and costs one round trip to the window
-// system on X11.
+// Whether the modifier is held at this moment. May be called on any thread. Under X11 it costs one round trip to the
+// server.
 bool isHotKeyModifierHeld();
 
 // The line that bindMacHotKey writes to stdout, the same for every window system.

@@ -26,7 +26,7 @@ OSStatus myHotKeyHandler(EventHandlerCallRef /*next*/, EventRef /*event*/, void*
     return noErr;
 }
 
-void setHotKeyThread(HotKeyThread /*thread*/) {}
+void setHotKeyVmAttachment(VmAttachment /*attachment*/) {}
 
 void bindMacHotKey(void (*callback)()) {
     const EventTypeSpec pressed = {kEventClassKeyboard, kEventHotKeyPressed};

@@ -1,11 +1,10 @@
 // The keyboard under X11. The hot key has two threads of its own:
 //
-//     vantrel-x11      holds the connection with the grabs and waits for presses. It never enters the VM, so that it
-//                      can pass presses on to other programs even while a debugger holds this one.
-//     vantrel-hotkey   is attached to the VM as a daemon and runs the callback, once for each press.
+//     vantrel-x11      has the connection to the server, holds the grabs and waits for presses. It never enters the VM,
+//                      so it can pass presses on to other programs even while a debugger has stopped this one.
+//     vantrel-hotkey   is attached to the VM as a daemon, and runs the callback once for each press.
 //
-// What both share with bindMacHotKey and unbindMacHotKey is a Binding; each of them keeps it for as long as it needs
-// it.
+// Both threads, bindMacHotKey and unbindMacHotKey share a Binding. It lives until the last of them needs it no more.
 #include <pthread.h>
 #include <sys/socket.h>
 
@@ -47,20 +46,20 @@ struct Binding {
     std::string display;
     x11::HotKey hot_key;
     void (*callback)();
-    HotKeyThread vm;
+    VmAttachment vm;
 
-    std::binary_semaphore settled{0};    // the connection's thread has its grabs, or knows why not
-    std::binary_semaphore announced{0};  // bindMacHotKey has said what it has to say
-    std::binary_semaphore attached{0};   // the callback's thread has asked the VM
-    bool let_in = false;                 // what the VM said to that
-    std::string said;                    // why there is no hot key, as bindMacHotKey has told it
+    std::binary_semaphore settled{0};    // released when vantrel-x11 has its grabs, or knows that it gets none
+    std::binary_semaphore announced{0};  // released when bindMacHotKey has written its lines
+    std::binary_semaphore attached{0};   // released when vantrel-hotkey has asked the VM to attach it
+    bool is_attached = false;            // the VM's answer
+    std::string said;                    // why there is no hot key, where bindMacHotKey has said so; or else empty
 
-    std::counting_semaphore<> presses{0};  // that the callback has not run for yet
-    std::atomic<bool> ended = false;       // there will be no more of them
+    std::counting_semaphore<> presses{0};  // one for each press that the callback has not run for yet
+    std::atomic<bool> ended = false;       // set before the last release of `presses`, which stands for no press
 
-    std::mutex socket_lock;  // held for moments only, and never in the VM
-    int socket = -1;         // the connection's; -1 while there is none that unbindMacHotKey may end
-    bool unbound = false;
+    std::mutex socket_lock;  // of the two below; held for moments only, and never while a thread is in the VM
+    int socket = -1;         // the connection's, for unbindMacHotKey to shut down; -1 while it must not
+    bool unbound = false;    // unbindMacHotKey has been called
 };
 using BindingPtr = std::shared_ptr<Binding>;
 
@@ -68,8 +67,8 @@ std::string server_of(const Binding& binding) {
     return "the X server of display " + binding.display;
 }
 
-// Starts a thread of ours, which takes no signal that is meant for the process. Returns false where there is none to be
-// had.
+// Starts a thread that takes no signals: those that come for the process are the program's. Returns false if there can
+// be no further thread.
 bool start_thread(void (*run)(const BindingPtr&), const char* name, const BindingPtr& binding) {
     struct Start {
         void (*run)(const BindingPtr&);
@@ -99,10 +98,10 @@ bool start_thread(void (*run)(const BindingPtr&), const char* name, const Bindin
 
 // The thread that runs the callback.
 void run_presses(const BindingPtr& binding) {
-    binding->let_in = binding->vm.attach(kCallbackThread);
-    const bool let_in = binding->let_in;
+    const bool is_attached = binding->vm.attach(kCallbackThread);
+    binding->is_attached = is_attached;
     binding->attached.release();
-    if (!let_in) {
+    if (!is_attached) {
         return;
     }
     for (binding->presses.acquire(); !binding->ended; binding->presses.acquire()) {
@@ -116,12 +115,12 @@ void end_presses(Binding& binding) {
     binding.presses.release();
 }
 
-// The hot key on one connection: whether we have it, and what was said about that.
+// The hot key on one connection: whether we have it, and what we have said about that.
 struct HotKeyOnDisplay {
     x11::Grabs grabs;
     x11::Agents agents;
     x11::Taking outcome;
-    std::string said;  // the reason for which there is no hot key, as stderr has it; empty while there is none
+    std::string said;  // the reason that stderr was last given for there being no hot key; empty if there is one
 };
 
 // Takes the hot key if it is to be had.
@@ -129,7 +128,8 @@ void take_hot_key(HotKeyOnDisplay& key) {
     x11::set_standing(key.agents, x11::Standing::trying);
     key.outcome = x11::take(key.grabs);
     if (key.outcome == x11::Taking::refused) {
-        // Whoever had it a moment ago may have ended before the server began to tell us.
+        // Another agent has it. We want to hear when that one ends; and as it may have ended before we began to listen,
+        // we try once more.
         (void)x11::look_at_others(key.agents);
         key.outcome = x11::take(key.grabs);
     }
@@ -137,14 +137,14 @@ void take_hot_key(HotKeyOnDisplay& key) {
     x11::set_standing(key.agents, taken ? x11::Standing::has_it : x11::Standing::has_not);
 }
 
-// Says on stderr what has changed since the last time. Where another agent has the key there is one: that agent passes
-// our presses on, and we take the key over when it ends.
+// Says on stderr what has changed since it was last said. If another agent has the key, that counts as having it: that
+// agent passes our presses on to us, and when it ends we take the key over.
 void report(HotKeyOnDisplay& key) {
     std::string reason = x11::reason(key.outcome, key.grabs.hot_key);
     if (key.outcome == x11::Taking::refused) {
         const x11::Standing others = x11::look_at_others(key.agents);
         if (others == x11::Standing::trying) {
-            return;  // it will tell us what comes of it
+            return;  // its standing will change in a moment, which calls this again
         }
         if (others == x11::Standing::has_it) {
             reason.clear();
@@ -200,8 +200,8 @@ void serve(HotKeyOnDisplay& key, Binding& binding) {
     }
 }
 
-// Makes the connection known to unbindMacHotKey. Returns false if that has been called already.
-bool let_unbind_end(Binding& binding, xcb_connection_t* connection) {
+// Lets unbindMacHotKey shut the connection's socket down. Returns false if unbindMacHotKey has already been called.
+bool register_socket(Binding& binding, xcb_connection_t* connection) {
     const std::lock_guard guard(binding.socket_lock);
     if (!binding.unbound) {
         binding.socket = xcb_get_file_descriptor(connection);
@@ -209,7 +209,7 @@ bool let_unbind_end(Binding& binding, xcb_connection_t* connection) {
     return !binding.unbound;
 }
 
-// From here on the socket's number may be another file's.
+// The opposite. It comes before the connection is closed, for then the socket's number may become another file's.
 void forget_socket(Binding& binding) {
     const std::lock_guard guard(binding.socket_lock);
     binding.socket = -1;
@@ -226,14 +226,14 @@ void serve_on(xcb_connection_t* connection, const BindingPtr& binding) {
     binding->announced.acquire();
     key.said = binding->said;
     report(key);
-    if (!let_unbind_end(*binding, connection)) {
+    if (!register_socket(*binding, connection)) {
         return;
     }
     if (!start_thread(run_presses, kCallbackThread, binding)) {
         report_no_hot_key(kNoThread);
     } else {
         binding->attached.acquire();
-        if (binding->let_in) {
+        if (binding->is_attached) {
             serve(key, *binding);
             end_presses(*binding);
         } else {
@@ -255,8 +255,8 @@ void run_connection(const BindingPtr& binding) {
     report_no_hot_key(server_of(*binding) + " cannot be reached, or refuses");
 }
 
-// What bindMacHotKey has made last, for unbindMacHotKey. Never destroyed: at the end of the process threads may still
-// be in here.
+// The binding that bindMacHotKey has made last, for unbindMacHotKey. Never destroyed, because threads may still use it
+// while the process ends.
 struct Current {
     std::mutex lock;
     BindingPtr binding;
@@ -266,12 +266,12 @@ Current& current() {
     return *current;
 }
 
-HotKeyThread hot_key_thread;
+VmAttachment vm_attachment;
 
 }  // namespace
 
-void setHotKeyThread(HotKeyThread thread) {
-    hot_key_thread = thread;
+void setHotKeyVmAttachment(VmAttachment attachment) {
+    vm_attachment = attachment;
 }
 
 void bindMacHotKey(void (*callback)()) {
@@ -281,7 +281,7 @@ void bindMacHotKey(void (*callback)()) {
     binding->display = has_display ? display : "";
     binding->hot_key = x11::hot_key_named(getenv("VANTREL_HOT_KEY"));
     binding->callback = callback;
-    binding->vm = hot_key_thread;
+    binding->vm = vm_attachment;
     const bool started = has_display && start_thread(run_connection, kConnectionThread, binding);
     // A display that hangs must not hang the VM: the thread goes on alone.
     const bool settled = started && binding->settled.try_acquire_for(kPatience);

@@ -201,7 +201,7 @@ void JNICALL cbVMInit(jvmtiEnv* jvmti, JNIEnv* jni, jthread /*thread*/) {
     lift_security_manager(jni);
     puts("Vantrel Initializing.");
     if (initialisation == 1) {
-        setHotKeyThread({attach_as_daemon, detach});
+        setHotKeyVmAttachment({attach_as_daemon, detach});
         bindMacHotKey(keyCallback);
     } else if (initialisation == 2) {
         fprintf(stderr, "vantrel-agent: loaded more than once; one -agentpath is enough (see JAVA_TOOL_OPTIONS).\n");

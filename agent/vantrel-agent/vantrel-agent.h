@@ -42,7 +42,7 @@ void on_load();
 // whether that file exists. The folder ends at the last '/' or '\'; a library path without either gives the bare name.
 // A library or jar path of 1024 bytes or more counts as a jar that does not exist, and so does one that does not fit
 // `dst`; `dst` then holds as much of the path as it can.
-//   dst   room for `size` bytes; all zero behind the path
+//   dst   room for `size` bytes; all zero after the path
 bool GetVantrelCassPath(char* dst, unsigned long size);
 
 // Enter and leave gb_data.lock. A failure ends the process with status 3.

@@ -13,14 +13,16 @@ import javax.swing.JScrollPane;
 import javax.swing.JTextArea;
 
 /** Windows within the window: notes, the weather, and a chart. */
+@SuppressWarnings("serial")
 final class Desk extends JDesktopPane {
     private static final Color GREEN = new Color(0xDFE8D8);
 
     Desk() {
         setName("desk");
         setBackground(GREEN);
-        addFrame("Notes", 24, 20, 280, 180, new JScrollPane(new JTextArea(
-                "Prune the Boskoop before March.\nNew crates are in the barn.\nCall the cider mill.")));
+        addFrame("Notes", 24, 20, 280, 180,
+                new JScrollPane(new JTextArea(
+                        "Prune the Boskoop before March.\nNew crates are in the barn.\nCall the cider mill.")));
         addFrame("Weather", 330, 50, 200, 150, weather());
         addFrame("Elstar", 150, 190, 340, 200, chart());
     }

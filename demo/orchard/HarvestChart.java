@@ -13,6 +13,7 @@ import javax.swing.JComponent;
 import javax.swing.UIManager;
 
 /** The harvest of one variety by month, painted by this class itself. The bar under the pointer shows its number. */
+@SuppressWarnings("serial")
 final class HarvestChart extends JComponent {
     static final String[] MONTHS = {"July", "August", "September", "October", "November", "December"};
 

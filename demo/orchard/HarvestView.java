@@ -15,6 +15,7 @@ import javax.swing.JRadioButton;
 import javax.swing.JSlider;
 
 /** A chart, and beside it a column of what can be changed about it. */
+@SuppressWarnings("serial")
 final class HarvestView extends JPanel {
     private final HarvestChart chart = new HarvestChart();
     private final JPanel controls = new JPanel();

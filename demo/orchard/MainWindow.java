@@ -7,6 +7,7 @@ import javax.swing.JTabbedPane;
 import javax.swing.WindowConstants;
 
 /** The window: menus, tools, a tab for each view, and a line of text below. */
+@SuppressWarnings("serial")
 final class MainWindow extends JFrame {
     private final Orders orders = Orders.sample();
     private final StatusLine status = new StatusLine();

@@ -10,6 +10,7 @@ import javax.swing.JOptionPane;
 import javax.swing.KeyStroke;
 
 /** The window's menus. */
+@SuppressWarnings("serial")
 final class Menus extends JMenuBar {
     private final Window window;
 
@@ -36,8 +37,9 @@ final class Menus extends JMenuBar {
         menu.setName("menu.help");
         menu.setMnemonic('H');
         JMenuItem about = new JMenuItem("About\u2026");
-        about.addActionListener(event -> JOptionPane.showMessageDialog(window,
-                "A program to look into. Control+F12 shows the inspector.", "About", JOptionPane.INFORMATION_MESSAGE));
+        String what = "A program to look into. Control+F12 shows the inspector.";
+        about.addActionListener(
+                event -> JOptionPane.showMessageDialog(window, what, "About", JOptionPane.INFORMATION_MESSAGE));
         menu.add(about);
         return menu;
     }

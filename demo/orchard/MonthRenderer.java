@@ -12,6 +12,7 @@ import javax.swing.JProgressBar;
 import javax.swing.ListCellRenderer;
 
 /** A month, and how much of the whole harvest it brings: a renderer that is made of several components. */
+@SuppressWarnings("serial")
 final class MonthRenderer extends JPanel implements ListCellRenderer<String> {
     private final JLabel month = new JLabel();
     private final JProgressBar share = new JProgressBar();
@@ -28,8 +29,8 @@ final class MonthRenderer extends JPanel implements ListCellRenderer<String> {
     }
 
     @Override
-    public Component getListCellRendererComponent(JList<? extends String> list, String value, int index,
-            boolean isSelected, boolean hasFocus) {
+    public Component getListCellRendererComponent(
+            JList<? extends String> list, String value, int index, boolean isSelected, boolean hasFocus) {
         int sum = 0;
         int all = 0;
         for (Varieties.Variety variety : Varieties.all()) {

@@ -6,7 +6,9 @@ import java.awt.Color;
 final class Order {
     /** How far an order is. */
     enum State {
-        OPEN("open", Palette.HONEY), PACKED("packed", Palette.SKY), DELIVERED("delivered", Palette.LEAF),
+        OPEN("open", Palette.HONEY),
+        PACKED("packed", Palette.SKY),
+        DELIVERED("delivered", Palette.LEAF),
         CANCELLED("cancelled", Palette.CHERRY);
 
         private final String text;

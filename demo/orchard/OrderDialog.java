@@ -13,6 +13,7 @@ import javax.swing.JTextField;
 import javax.swing.WindowConstants;
 
 /** Asks for a new order. */
+@SuppressWarnings("serial")
 final class OrderDialog extends JDialog {
     private static final double PRICE_PER_KILOGRAM = 1.9;
 
@@ -50,8 +51,7 @@ final class OrderDialog extends JDialog {
 
     private void take() {
         int weight = Math.max(1, kilograms.getValue());
-        result = new Order(customer.getText(), (String) variety.getSelectedItem(), weight,
-                weight * PRICE_PER_KILOGRAM);
+        result = new Order(customer.getText(), (String) variety.getSelectedItem(), weight, weight * PRICE_PER_KILOGRAM);
         dispose();
     }
 
@@ -62,18 +62,24 @@ final class OrderDialog extends JDialog {
         layout.setAutoCreateGaps(true);
         layout.setAutoCreateContainerGaps(true);
         JLabel[] labels = {new JLabel("Customer"), new JLabel("Variety"), new JLabel("Kilograms")};
-        layout.setHorizontalGroup(layout.createParallelGroup(GroupLayout.Alignment.TRAILING)
-                .addGroup(layout.createSequentialGroup()
-                        .addGroup(layout.createParallelGroup().addComponent(labels[0]).addComponent(labels[1])
-                                .addComponent(labels[2]))
-                        .addGroup(layout.createParallelGroup().addComponent(customer).addComponent(variety)
-                                .addComponent(kilograms)))
-                .addGroup(layout.createSequentialGroup().addComponent(cancel).addComponent(order)));
-        layout.setVerticalGroup(layout.createSequentialGroup()
-                .addGroup(baseline(layout).addComponent(labels[0]).addComponent(customer))
-                .addGroup(baseline(layout).addComponent(labels[1]).addComponent(variety))
-                .addGroup(layout.createParallelGroup().addComponent(labels[2]).addComponent(kilograms))
-                .addGroup(baseline(layout).addComponent(cancel).addComponent(order)));
+        layout.setHorizontalGroup(
+                layout.createParallelGroup(GroupLayout.Alignment.TRAILING)
+                        .addGroup(layout.createSequentialGroup()
+                                          .addGroup(layout.createParallelGroup()
+                                                            .addComponent(labels[0])
+                                                            .addComponent(labels[1])
+                                                            .addComponent(labels[2]))
+                                          .addGroup(layout.createParallelGroup()
+                                                            .addComponent(customer)
+                                                            .addComponent(variety)
+                                                            .addComponent(kilograms)))
+                        .addGroup(layout.createSequentialGroup().addComponent(cancel).addComponent(order)));
+        layout.setVerticalGroup(
+                layout.createSequentialGroup()
+                        .addGroup(baseline(layout).addComponent(labels[0]).addComponent(customer))
+                        .addGroup(baseline(layout).addComponent(labels[1]).addComponent(variety))
+                        .addGroup(layout.createParallelGroup().addComponent(labels[2]).addComponent(kilograms))
+                        .addGroup(baseline(layout).addComponent(cancel).addComponent(order)));
         layout.linkSize(cancel, order);
         return panel;
     }

@@ -20,6 +20,7 @@ import javax.swing.JTextField;
 import javax.swing.SpinnerNumberModel;
 
 /** One order to look at and change, as labels and fields in two columns. */
+@SuppressWarnings("serial")
 final class OrderForm extends JPanel {
     private final JTextField customer = new JTextField(12);
     private final JComboBox<String> variety = new JComboBox<>(Varieties.names());
@@ -34,8 +35,8 @@ final class OrderForm extends JPanel {
     OrderForm() {
         super(new GridBagLayout());
         setName("order.form");
-        setBorder(BorderFactory.createCompoundBorder(BorderFactory.createEmptyBorder(8, 8, 8, 8),
-                BorderFactory.createTitledBorder("Order")));
+        setBorder(BorderFactory.createCompoundBorder(
+                BorderFactory.createEmptyBorder(8, 8, 8, 8), BorderFactory.createTitledBorder("Order")));
         row("Customer", "customer", customer);
         row("Variety", "variety", variety);
         row("Kilograms", "kilograms", kilograms);

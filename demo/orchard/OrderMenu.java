@@ -5,6 +5,7 @@ import javax.swing.JMenuItem;
 import javax.swing.JPopupMenu;
 
 /** What can be done with the selected order. */
+@SuppressWarnings("serial")
 final class OrderMenu extends JPopupMenu {
     OrderMenu(OrdersView orders) {
         setName("order.menu");

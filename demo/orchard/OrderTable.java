@@ -9,6 +9,7 @@ import javax.swing.RowFilter;
 import javax.swing.table.TableRowSorter;
 
 /** The table of orders, with a renderer for each kind of value. */
+@SuppressWarnings("serial")
 final class OrderTable extends JTable {
     private static final int ROW_HEIGHT = 26;
     private static final int[] WIDTHS = {130, 90, 45, 75, 55, 90};

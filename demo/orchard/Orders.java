@@ -6,6 +6,7 @@ import java.util.List;
 import javax.swing.table.AbstractTableModel;
 
 /** All orders, as a table shows them. */
+@SuppressWarnings("serial")
 final class Orders extends AbstractTableModel {
     static final int CUSTOMER = 0;
     static final int PRICE = 3;
@@ -13,8 +14,8 @@ final class Orders extends AbstractTableModel {
     static final int STATE = 5;
 
     private static final String[] COLUMNS = {"Customer", "Variety", "kg", "Price", "Urgent", "State"};
-    private static final Class<?>[] TYPES = {String.class, String.class, Integer.class, Double.class, Boolean.class,
-        Order.State.class};
+    private static final Class<?>[] TYPES = {
+            String.class, String.class, Integer.class, Double.class, Boolean.class, Order.State.class};
 
     private final transient List<Order> orders = new ArrayList<>();
 

@@ -9,6 +9,7 @@ import javax.swing.JSplitPane;
 import javax.swing.SwingUtilities;
 
 /** The orders: a table, and a form for the one that is selected. */
+@SuppressWarnings("serial")
 final class OrdersView extends JPanel {
     private static final int FORM_WIDTH = 260;
 

@@ -3,6 +3,7 @@ package orchard;
 import java.util.Locale;
 
 /** A price with two digits and its currency. */
+@SuppressWarnings("serial")
 final class PriceRenderer extends PaddedRenderer {
     PriceRenderer() {
         setName("price");

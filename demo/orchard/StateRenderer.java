@@ -11,6 +11,7 @@ import javax.swing.SwingConstants;
 import javax.swing.table.DefaultTableCellRenderer;
 
 /** A state as a coloured label with round ends. */
+@SuppressWarnings("serial")
 final class StateRenderer extends DefaultTableCellRenderer {
     private static final int MARGIN = 4;
 
@@ -22,8 +23,8 @@ final class StateRenderer extends DefaultTableCellRenderer {
     }
 
     @Override
-    public Component getTableCellRendererComponent(JTable table, Object value, boolean isSelected, boolean hasFocus,
-            int row, int column) {
+    public Component getTableCellRendererComponent(
+            JTable table, Object value, boolean isSelected, boolean hasFocus, int row, int column) {
         super.getTableCellRendererComponent(table, value, isSelected, hasFocus, row, column);
         state = (Order.State) value;
         setForeground(Color.WHITE);

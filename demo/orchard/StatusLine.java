@@ -7,6 +7,7 @@ import javax.swing.JLabel;
 import javax.swing.JPanel;
 
 /** One line of text at the foot of the window. */
+@SuppressWarnings("serial")
 final class StatusLine extends JPanel {
     private final JLabel text = new JLabel(" ");
 

@@ -13,6 +13,7 @@ import javax.swing.event.DocumentEvent;
 import javax.swing.event.DocumentListener;
 
 /** The tools above the views. */
+@SuppressWarnings("serial")
 final class ToolRow extends JToolBar {
     private static final int FILTER_COLUMNS = 16;
 

@@ -26,13 +26,13 @@ final class Varieties {
     }
 
     private static final Variety[] ALL = {
-        new Variety("Apples", "Boskoop", 0, 0, 120, 610, 340, 90),
-        new Variety("Apples", "Cox Orange", 0, 60, 430, 280, 40, 0),
-        new Variety("Apples", "Elstar", 0, 150, 520, 310, 60, 0),
-        new Variety("Pears", "Conference", 0, 40, 380, 290, 30, 0),
-        new Variety("Pears", "Williams", 20, 350, 240, 30, 0, 0),
-        new Variety("Plums", "Mirabelle", 90, 260, 40, 0, 0, 0),
-        new Variety("Plums", "Stanley", 10, 210, 330, 50, 0, 0),
+            new Variety("Apples", "Boskoop", 0, 0, 120, 610, 340, 90),
+            new Variety("Apples", "Cox Orange", 0, 60, 430, 280, 40, 0),
+            new Variety("Apples", "Elstar", 0, 150, 520, 310, 60, 0),
+            new Variety("Pears", "Conference", 0, 40, 380, 290, 30, 0),
+            new Variety("Pears", "Williams", 20, 350, 240, 30, 0, 0),
+            new Variety("Plums", "Mirabelle", 90, 260, 40, 0, 0, 0),
+            new Variety("Plums", "Stanley", 10, 210, 330, 50, 0, 0),
     };
 
     private Varieties() {

@@ -13,6 +13,7 @@ import javax.swing.JTree;
 import javax.swing.tree.DefaultMutableTreeNode;
 
 /** The varieties as a tree, the months as a list, and a card for what is selected. */
+@SuppressWarnings("serial")
 final class VarietiesView extends JPanel {
     private final JTree tree = new JTree(Varieties.tree());
     private final CardLayout cards = new CardLayout();

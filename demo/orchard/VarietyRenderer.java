@@ -8,6 +8,7 @@ import javax.swing.tree.DefaultTreeCellRenderer;
 import javax.swing.tree.TreePath;
 
 /** A variety, or a kind, with a dot in the colour of its kind. */
+@SuppressWarnings("serial")
 final class VarietyRenderer extends DefaultTreeCellRenderer {
     @Override
     public Component getTreeCellRendererComponent(JTree tree, Object value, boolean isSelected, boolean isExpanded,
@@ -23,10 +24,14 @@ final class VarietyRenderer extends DefaultTreeCellRenderer {
         TreePath path = tree.getPathForRow(row);
         String kind = path == null || path.getPathCount() < 2 ? "" : path.getPathComponent(1).toString();
         switch (kind) {
-            case "Apples": return Palette.CHERRY;
-            case "Pears": return Palette.HONEY;
-            case "Plums": return Palette.SKY;
-            default: return Palette.LEAF;
+            case "Apples":
+                return Palette.CHERRY;
+            case "Pears":
+                return Palette.HONEY;
+            case "Plums":
+                return Palette.SKY;
+            default:
+                return Palette.LEAF;
         }
     }
 }

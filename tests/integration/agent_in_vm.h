@@ -12,6 +12,8 @@ const std::filesystem::path kLibraryFolder = VANTREL_LIBRARY_FOLDER;
 const std::filesystem::path kLibrary = kLibraryFolder / "libvantrel-agent.so.1";
 const std::filesystem::path kCompanionJar = kLibraryFolder / "vantrel-1.2.3.jar";
 const std::filesystem::path kSampleJar = VANTREL_SAMPLE_JAR;
+const std::filesystem::path kPrograms = kTestFolder / "test-programs.jar";
+const std::filesystem::path kRecordingCompanion = kTestFolder / "recording" / kCompanionJar.filename();
 
 // What the agent writes on a normal run.
 const std::string kAgentOut =
@@ -30,6 +32,16 @@ const std::string kOwnJniReport =
 inline Arguments java_under_agent(int release, const Arguments& arguments,
                                   const std::filesystem::path& library = kLibrary) {
     return Arguments{*find_jdk(release) / "bin" / "java", "-agentpath:" + library.string()} + arguments;
+}
+
+// Copies the agent into a folder, which is made where it is not there, with its jar or one of the tests' own. Returns
+// the library there.
+inline std::filesystem::path copy_agent(const std::filesystem::path& folder,
+                                        const std::filesystem::path& jar = kCompanionJar) {
+    std::filesystem::create_directories(folder);
+    std::filesystem::copy(kLibrary, folder);
+    std::filesystem::copy(jar, folder);
+    return folder / kLibrary.filename();
 }
 
 #endif

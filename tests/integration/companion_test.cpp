@@ -20,19 +20,22 @@ struct UnitTests {
 };
 // clang-format off
 constexpr UnitTests kUnitTests[] = {
-    {"hooks.HooksTest", 4},
-    {"model.AddedAtTest", 4},
-    {"model.ComponentTreeTest", 5},
-    {"model.EditorTest", 4},
-    {"pick.HotKeyTest", 2},
-    {"stacktrace.StackTraceManagerTest", 5},
-    {"util.ClassFileEditorTest", 6},
+    {"com.vantrel.hooks.HooksTest", 4},
+    {"com.vantrel.model.AddedAtTest", 4},
+    {"com.vantrel.model.ComponentTreeTest", 5},
+    {"com.vantrel.model.EditorTest", 4},
+    {"com.vantrel.model.LayoutFactsTest", 2},
+    {"com.vantrel.pick.HotKeyTest", 2},
+    {"com.vantrel.stacktrace.StackTraceManagerTest", 5},
+    {"com.vantrel.util.ClassFileEditorTest", 6},
+    {"program.ChangesTest", 5},
 };
 constexpr UnitTests kProgramsUnitTests[] = {
-    {"model.EditsTest", 4},
-    {"model.FormatsTest", 2},
-    {"model.KeysTest", 3},
-    {"model.ReadingTest", 4},
+    {"com.vantrel.AgentTest", 1},
+    {"com.vantrel.model.EditsTest", 4},
+    {"com.vantrel.model.FormatsTest", 2},
+    {"com.vantrel.model.KeysTest", 4},
+    {"com.vantrel.model.ReadingTest", 4},
 };
 // clang-format on
 
@@ -42,7 +45,7 @@ void expect_to_pass(const Tests& classes, const Command& command) {
     Arguments options = {"-Djava.awt.headless=true", "org.junit.runner.JUnitCore"};
     int count = 0;
     for (const auto& [name, tests] : classes) {
-        options.push_back("com.vantrel." + std::string(name));
+        options.emplace_back(name);
         count += tests;
     }
     const Finished finished = run(command(options));
@@ -50,14 +53,13 @@ void expect_to_pass(const Tests& classes, const Command& command) {
     EXPECT_THAT(finished.out, HasSubstr("\nOK (" + std::to_string(count) + " tests)\n"));
 }
 
-class Companion : public testing::TestWithParam<int> {};
-INSTANTIATE_TEST_SUITE_P(OnJdk, Companion, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
+class Companion : public OnEachJdk {};
+ON_EACH_JDK(Companion);
 
 // Under the agent, for what it adds to the toolkit's classes. The tests are loaded by the loader that then has the
 // companion's own classes, or they would not be in the same packages.
 TEST_P(Companion, PassesItsUnitTests) {
-    SKIP_WITHOUT_JDK(GetParam());
-    const std::string boot_path = (kTestFolder / "companion-tests.jar").string() + ":" + VANTREL_JUNIT_JARS;
+    const std::string boot_path = (kTestFolder / "companion-tests.jar").string() + ":" + VANTREL_UNIT_TEST_JARS;
     expect_to_pass(kUnitTests, [&](const Arguments& options) {
         return java_under_agent(GetParam(), Arguments{"-Xbootclasspath/a:" + boot_path} + options);
     });
@@ -65,11 +67,10 @@ TEST_P(Companion, PassesItsUnitTests) {
 
 // On the class path, tests are a program's: the inspector tells its classes from the toolkit's.
 TEST_P(Companion, PassesItsUnitTestsAsAProgram) {
-    SKIP_WITHOUT_JDK(GetParam());
     const std::string class_path =
-        (kTestFolder / "companion-tests.jar").string() + ":" + kCompanionJar.string() + ":" + VANTREL_JUNIT_JARS;
+        (kTestFolder / "companion-tests.jar").string() + ":" + kCompanionJar.string() + ":" + VANTREL_UNIT_TEST_JARS;
     expect_to_pass(kProgramsUnitTests, [&](const Arguments& options) {
-        return Arguments{*find_jdk(GetParam()) / "bin" / "java", "-cp", class_path} + options;
+        return Arguments{tool("java"), "-cp", class_path} + options;
     });
 }
 

@@ -101,7 +101,7 @@ int main(int argument_count, char** arguments) {
     pthread_sigmask(SIG_BLOCK, &awaited, nullptr);
     signal(SIGUSR2, [](int) { signal_taken = 1; });
 
-    setHotKeyThread({attach, detach});
+    setHotKeyVmAttachment({attach, detach});
     const auto start = std::chrono::steady_clock::now();
     bindMacHotKey(on_press);
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;

@@ -31,13 +31,10 @@ using testing::StartsWith;
 namespace {
 
 const std::string kWindow = "Vantrel";
-const fs::path kPrograms = kTestFolder / "test-programs.jar";
 
 // A program under the agent on a display of its own.
-class Inspector : public testing::TestWithParam<int> {
+class Inspector : public OnEachJdk {
   protected:
-    void SetUp() override { SKIP_WITHOUT_JDK(GetParam()); }
-
     void start(const Arguments& arguments, const fs::path& library = kLibrary) {
         program.emplace(java_under_agent(GetParam(), arguments, library),
                         ProcessOptions{.folder = folder.path, .environment = environment});
@@ -48,9 +45,7 @@ class Inspector : public testing::TestWithParam<int> {
         ASSERT_TRUE(says("started\n")) << program->err();
     }
     void start_recorded(const std::string& then) {
-        fs::copy(kLibrary, folder.path);
-        fs::copy(kTestFolder / "recording" / kCompanionJar.filename(), folder.path);
-        start({"-Dthen=" + then, "-cp", kPrograms, "Ending", "exit"}, folder.path / kLibrary.filename());
+        start({"-Dthen=" + then, "-cp", kPrograms, "Ending", "exit"}, copy_agent(folder.path, kRecordingCompanion));
         ASSERT_TRUE(says("started\n")) << program->err();
     }
     void tell_to_end() { std::ofstream(folder.path / "end"); }
@@ -75,7 +70,7 @@ class Inspector : public testing::TestWithParam<int> {
     std::vector<std::string> environment = {x.display()};  // of the program
     std::optional<Process> program;
 };
-INSTANTIATE_TEST_SUITE_P(OnJdk, Inspector, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
+ON_EACH_JDK(Inspector);
 
 TEST_P(Inspector, TheHotKeyShowsAndHidesItsWindow) {
     for (const bool managed : {false, true}) {
@@ -124,10 +119,8 @@ TEST_P(Inspector, ProgramsOnOneDisplayShareTheHotKey) {
     for (int i = 0; i < 3; ++i) {
         programs.push_back(std::make_unique<Program>());
         Program& added = *programs.back();
-        fs::copy(kLibrary, added.folder.path);
-        fs::copy(kTestFolder / "recording" / kCompanionJar.filename(), added.folder.path);
         added.process.emplace(java_under_agent(GetParam(), {"-cp", kPrograms, "Ending", "dispose"},
-                                               added.folder.path / kLibrary.filename()),
+                                               copy_agent(added.folder.path, kRecordingCompanion)),
                               ProcessOptions{.folder = added.folder.path, .environment = {x.display()}});
         ASSERT_TRUE(added.process->reaches([&] { return windows.shown_by(added.process->id()) != XCB_NONE; }))
             << added.process->err();
@@ -243,10 +236,10 @@ TEST_P(Inspector, TheNativesDoTheirWork) {
 
     // The AWT of some VMs has faults of its own. The agent's natives call Java several times in a row and leave what it
     // throws to their caller: that is all that the VM has against them.
-    const std::set<std::string> others = jni_reports(
-        run({*find_jdk(GetParam()) / "bin" / "java", "-Xcheck:jni", "-cp", kPrograms, "Ending", "dispose", "at once"},
-            {.folder = {}, .environment = {x.display()}})
-            .out);
+    const std::set<std::string> others =
+        jni_reports(run({tool("java"), "-Xcheck:jni", "-cp", kPrograms, "Ending", "dispose", "at once"},
+                        {.folder = {}, .environment = {x.display()}})
+                        .out);
     for (const std::string& report : jni_reports(program->out() + program->err())) {
         if (!others.contains(report)) {
             EXPECT_THAT(report, StartsWith("WARNING in native method: JNI call made without checking exceptions when "
@@ -300,9 +293,10 @@ TEST_P(Inspector, ADisplayThatGoesAwayDoesNotEndAProgramWithoutWindows) {
     EXPECT_EQ(program->err(), kAgentErr);
 }
 
-// Some by themselves; some are ended while the hot key is pressed at any moment of their life.
-TEST_P(Inspector, StartsAndEndsTwoHundredTimes) {
-    constexpr int kCycles = 100;  // of each kind
+// Some by themselves; some are ended while the hot key is pressed at any moment of their life. With --gtest_repeat this
+// goes on for as long as one likes.
+TEST_P(Inspector, StartsAndEndsManyTimes) {
+    constexpr int kCycles = 25;  // of each kind
     struct Way {
         const char* name;
         int status;
@@ -342,7 +336,7 @@ TEST_P(Inspector, EndsWhileItsNativesRun) {
 // An agent in Java that comes first ends the VM before ours is initialised, while it is, or soon after.
 TEST_P(Inspector, EndsBeforeItHasBegun) {
     for (const char* way : {"at once", "meanwhile", "meanwhile", "meanwhile", "meanwhile"}) {
-        const Arguments command = {*find_jdk(GetParam()) / "bin" / "java",
+        const Arguments command = {tool("java"),
                                    "-javaagent:" + kPrograms.string() + "=" + way,
                                    "-agentpath:" + kLibrary.string(),
                                    "-cp",

@@ -2,6 +2,8 @@
 #ifndef VANTREL_JAVA_VM_H
 #define VANTREL_JAVA_VM_H
 
+#include <gtest/gtest.h>
+
 #include <filesystem>
 #include <optional>
 #include <set>
@@ -24,5 +26,16 @@ constexpr int kReleases[] = {17, 25};
         GTEST_SKIP() << "no JDK " << (release) << " in JAVA_HOME or below /usr/lib/jvm"; \
     }                                                                                    \
     static_assert(true)
+
+// A test that runs on each of them.
+class OnEachJdk : public testing::TestWithParam<int> {
+  protected:
+    void SetUp() override { SKIP_WITHOUT_JDK(GetParam()); }
+
+    // A program of the JDK.
+    static std::filesystem::path tool(const char* name) { return *find_jdk(GetParam()) / "bin" / name; }
+};
+#define ON_EACH_JDK(suite) \
+    INSTANTIATE_TEST_SUITE_P(OnJdk, suite, testing::ValuesIn(kReleases), testing::PrintToStringParamName())
 
 #endif

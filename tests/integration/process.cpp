@@ -17,7 +17,9 @@ using std::chrono::steady_clock;
 
 namespace {
 
-constexpr auto kPollInterval = std::chrono::milliseconds(20);
+// What a condition asks may be costly; the end of a process is not.
+constexpr auto kTryInterval = std::chrono::milliseconds(20);
+constexpr auto kEndInterval = std::chrono::milliseconds(2);
 
 fs::path new_folder() {
     std::string name = testing::TempDir() + "vantrel-XXXXXX";
@@ -107,7 +109,7 @@ int Process::wait(std::chrono::seconds limit) {
             ended_ = true;
             return -1;
         }
-        std::this_thread::sleep_for(kPollInterval);
+        std::this_thread::sleep_for(kEndInterval);
     }
     return WIFEXITED(status_) ? WEXITSTATUS(status_) : 128 + WTERMSIG(status_);
 }
@@ -118,7 +120,7 @@ bool Process::reaches(const std::function<bool()>& condition, std::chrono::secon
         if (ended() || steady_clock::now() > deadline) {
             return false;
         }
-        std::this_thread::sleep_for(kPollInterval);
+        std::this_thread::sleep_for(kTryInterval);
     }
     return true;
 }

@@ -16,8 +16,8 @@ using testing::EndsWith;
 
 namespace {
 
-class ProxiesInVm : public testing::TestWithParam<int> {};
-INSTANTIATE_TEST_SUITE_P(OnJdk, ProxiesInVm, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
+class ProxiesInVm : public OnEachJdk {};
+ON_EACH_JDK(ProxiesInVm);
 
 std::vector<std::string> lines_with(std::istream& text, const std::string& prefix) {
     std::vector<std::string> lines;
@@ -35,10 +35,8 @@ std::vector<std::string> lines_with(const std::string& text, const std::string& 
 }
 
 TEST_P(ProxiesInVm, InitialiseAndCallJava) {
-    SKIP_WITHOUT_JDK(GetParam());
-    const Finished program =
-        run({*find_jdk(GetParam()) / "bin" / "java", "-agentpath:" + kLibrary.string(), "-Djava.awt.headless=true",
-             "-cp", kTestFolder / "test-programs.jar", "ProxyCalls", VANTREL_PROXY_CALLS});
+    const Finished program = run(java_under_agent(
+        GetParam(), {"-Djava.awt.headless=true", "-cp", kPrograms, "ProxyCalls", VANTREL_PROXY_CALLS}));
     ASSERT_EQ(program.status, 0) << program.out << program.err;
     EXPECT_EQ(lines_with(program.out, "initialised ").size(), 17u);
     EXPECT_THAT(program.out, EndsWith("results as expected\n"));

@@ -23,7 +23,10 @@ void Scenario::run_under_agent(const Arguments& options) {
     }
     asked_ = 0;
     std::filesystem::remove(folder.path / "commands");
-    program.emplace(java_under_agent(GetParam(), Arguments{"-Duser.home=" + folder.path.string()} + options),
+    // A program that runs for seconds is done sooner with the simpler compiler and collector, which take less of the
+    // processors' time away from it.
+    const Arguments vm = {"-XX:TieredStopAtLevel=1", "-XX:+UseSerialGC", "-Duser.home=" + folder.path.string()};
+    program.emplace(java_under_agent(GetParam(), vm + options),
                     ProcessOptions{.folder = folder.path, .environment = {x.display(), "XDG_CONFIG_HOME="}});
 }
 
@@ -105,6 +108,18 @@ bool Scenario::eventually(const std::function<bool()>& condition, milliseconds l
         std::this_thread::sleep_for(kPollInterval);
     }
     return true;
+}
+
+int Scenario::line_of(const std::string& file, const std::string& text) {
+    std::ifstream source(std::filesystem::path(VANTREL_SCENARIO_SOURCES) / "scenario" / file);
+    std::string line;
+    for (int number = 1; std::getline(source, line); ++number) {
+        if (line.find(text) != std::string::npos) {
+            return number;
+        }
+    }
+    ADD_FAILURE() << file << " has no line with " << text;
+    return 0;
 }
 
 void Scenario::take_picture(const std::string& name) {

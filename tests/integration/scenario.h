@@ -30,10 +30,8 @@ struct Place {
     int height = 0;
 };
 
-class Scenario : public testing::TestWithParam<int> {
+class Scenario : public OnEachJdk {
   protected:
-    void SetUp() override { SKIP_WITHOUT_JDK(GetParam()); }
-
     // Starts the program; it has its window on the screen, and the focus, when this returns.
     // options   of the VM, such as -Dtheme=dark
     void start(const Arguments& options = {});
@@ -65,6 +63,9 @@ class Scenario : public testing::TestWithParam<int> {
     // Whether a condition comes true in time.
     static bool eventually(const std::function<bool()>& condition,
                            std::chrono::milliseconds limit = std::chrono::seconds(10));
+
+    // The number of the line with a text in a source file of the program, found there, so that it may move.
+    static int line_of(const std::string& file, const std::string& text);
 
     // Writes a picture of the screen beside the other products of the tests, for people to look at.
     void take_picture(const std::string& name);

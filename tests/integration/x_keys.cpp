@@ -8,26 +8,7 @@
 #include <thread>
 #include <vector>
 
-namespace {
-
-template <typename T>
-std::unique_ptr<T, void (*)(void*)> owned(T* block) {
-    return {block, free};
-}
-
-}  // namespace
-
-XKeys::XKeys(const std::string& display)
-    : connection_(xcb_connect(display.c_str(), nullptr), xcb_disconnect),
-      root_(xcb_connection_has_error(connection_.get()) == 0
-                ? xcb_setup_roots_iterator(xcb_get_setup(connection_.get())).data->root
-                : 0) {
-    EXPECT_EQ(xcb_connection_has_error(connection_.get()), 0) << "no connection to " << display;
-}
-
-void XKeys::settle() {
-    owned(xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
-}
+XKeys::XKeys(const std::string& display) : connection_(display) {}
 
 // Level 1 is that of the keysyms that a key makes with Shift. 0 where no key does.
 xcb_keycode_t XKeys::find_key(xcb_keysym_t keysym, size_t level) const {
@@ -54,9 +35,9 @@ xcb_keycode_t XKeys::key_of(xcb_keysym_t keysym) const {
 void XKeys::send(unsigned char type, unsigned char detail, int x, int y) {
     // A server's clock counts milliseconds, and nobody presses two keys in one.
     std::this_thread::sleep_for(std::chrono::milliseconds(2));
-    xcb_test_fake_input(connection_.get(), type, detail, XCB_CURRENT_TIME, root_, static_cast<int16_t>(x),
+    xcb_test_fake_input(connection_.get(), type, detail, XCB_CURRENT_TIME, connection_.root(), static_cast<int16_t>(x),
                         static_cast<int16_t>(y), 0);
-    settle();
+    connection_.settle();
 }
 
 void XKeys::down(xcb_keysym_t keysym) {
@@ -121,7 +102,7 @@ void XKeys::wheel(int notches) {
 void XKeys::change(xcb_keysym_t from, xcb_keysym_t to) {
     const xcb_keysym_t levels[] = {to, to};
     xcb_change_keyboard_mapping(connection_.get(), 1, key_of(from), 2, levels);
-    settle();
+    connection_.settle();
 }
 
 void XKeys::give_modifier(xcb_keysym_t keysym, unsigned modifier) {
@@ -149,17 +130,18 @@ void XKeys::go_to_screen(int screen) {
         xcb_screen_next(&screens);
     }
     xcb_warp_pointer(connection_.get(), XCB_NONE, screens.data->root, 0, 0, 0, 0, 100, 100);
-    settle();
+    connection_.settle();
 }
 
 bool XKeys::grab_with_control(xcb_keysym_t keysym) {
     xcb_connection_t* x = connection_.get();
-    return owned(xcb_request_check(x, xcb_grab_key_checked(x, 0, root_, XCB_MOD_MASK_CONTROL, key_of(keysym),
-                                                           XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC))) == nullptr;
+    return owned(
+               xcb_request_check(x, xcb_grab_key_checked(x, 0, connection_.root(), XCB_MOD_MASK_CONTROL, key_of(keysym),
+                                                         XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC))) == nullptr;
 }
 
 int XKeys::grabbed_presses() {
-    settle();
+    connection_.settle();
     int presses = 0;
     while (const auto event = owned(xcb_poll_for_event(connection_.get()))) {
         presses += event->response_type == XCB_KEY_PRESS ? 1 : 0;

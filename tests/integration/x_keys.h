@@ -7,8 +7,9 @@
 #include <xcb/xcb.h>
 
 #include <initializer_list>
-#include <memory>
 #include <string>
+
+#include "x_connection.h"
 
 class XKeys {
   public:
@@ -55,10 +56,8 @@ class XKeys {
     [[nodiscard]] xcb_keycode_t find_key(xcb_keysym_t keysym, size_t level) const;
     [[nodiscard]] xcb_keycode_t key_of(xcb_keysym_t keysym) const;
     void send(unsigned char type, unsigned char detail, int x = 0, int y = 0);
-    void settle();
 
-    std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t*)> connection_;
-    xcb_window_t root_;
+    XConnection connection_;
 };
 
 #endif

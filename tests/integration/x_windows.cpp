@@ -3,20 +3,8 @@
 #include <unistd.h>
 
 #include <climits>
-#include <cstdlib>
 
-namespace {
-
-template <typename T>
-std::unique_ptr<T, void (*)(void*)> owned(T* block) {
-    return {block, free};
-}
-
-}  // namespace
-
-XWindows::XWindows(const std::string& display)
-    : connection_(xcb_connect(display.c_str(), nullptr), xcb_disconnect),
-      root_(xcb_setup_roots_iterator(xcb_get_setup(connection_.get())).data->root) {}
+XWindows::XWindows(const std::string& display) : connection_(display) {}
 
 std::string XWindows::own_machine() {
     char name[HOST_NAME_MAX + 1] = "";
@@ -34,8 +22,8 @@ xcb_atom_t XWindows::atom(const std::string& name) const {
 xcb_window_t XWindows::make(pid_t process, const std::string& machine) {
     xcb_connection_t* x = connection_.get();
     const xcb_window_t outer = xcb_generate_id(x);
-    xcb_create_window(x, XCB_COPY_FROM_PARENT, outer, root_, 80, 80, 50, 50, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
-                      XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_create_window(x, XCB_COPY_FROM_PARENT, outer, connection_.root(), 80, 80, 50, 50, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
     xcb_change_property(x, XCB_PROP_MODE_REPLACE, outer, atom("_NET_WM_PID"), XCB_ATOM_CARDINAL, 32, 1, &process);
     xcb_change_property(x, XCB_PROP_MODE_REPLACE, outer, XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING, 8,
                         static_cast<uint32_t>(machine.size()), machine.data());
@@ -51,7 +39,7 @@ xcb_window_t XWindows::make(pid_t process, const std::string& machine) {
 xcb_window_t XWindows::shown_by(pid_t process) const {
     xcb_connection_t* x = connection_.get();
     const xcb_atom_t pid = atom("_NET_WM_PID");
-    const auto tree = owned(xcb_query_tree_reply(x, xcb_query_tree(x, root_), nullptr));
+    const auto tree = owned(xcb_query_tree_reply(x, xcb_query_tree(x, connection_.root()), nullptr));
     for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
         const xcb_window_t window = xcb_query_tree_children(tree.get())[i];
         const auto name =
@@ -69,7 +57,7 @@ xcb_window_t XWindows::shown_by(pid_t process) const {
 
 void XWindows::focus(xcb_window_t window) {
     xcb_set_input_focus(connection_.get(), XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
-    (void)focused();  // the server has done it when this has its answer
+    connection_.settle();
 }
 
 xcb_window_t XWindows::focused() const {

@@ -5,8 +5,9 @@
 #include <sys/types.h>
 #include <xcb/xcb.h>
 
-#include <memory>
 #include <string>
+
+#include "x_connection.h"
 
 class XWindows {
   public:
@@ -29,8 +30,7 @@ class XWindows {
   private:
     [[nodiscard]] xcb_atom_t atom(const std::string& name) const;
 
-    std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t*)> connection_;
-    xcb_window_t root_;
+    XConnection connection_;
 };
 
 #endif

@@ -8,7 +8,7 @@
 #
 # KIND is CONSTRUCTOR, METHOD, STATIC_METHOD, FIELD or STATIC_FIELD. Run over the header and then the source of a proxy,
 # pair after pair. What is cached comes from the header's variables, what is wrapped from its prototypes and the
-# comments behind them, and what is looked up from the source's Init.
+# comments after them, and what is looked up from the source's Init.
 
 function end_of_proxy(    i, m) {
     if (class_name == "") {

@@ -118,21 +118,6 @@ TEST_P(AtLoad, EcjCompiles) {
                      300);
 }
 
-TEST_P(AtLoad, AntBuilds) {
-    SKIP_WITHOUT_JDK(GetParam());
-    expect_same_work(GetParam(),
-                     {"-cp", installed_jar("ant-launcher.jar"), "-Dant.home=/usr/share/ant",
-                      "org.apache.tools.ant.launch.Launcher", "-silent", "-f", kScripts / "build.xml",
-                      "-Dsources=" + (kSources / "tests/rewriter_real/java/programs").string()},
-                     100);
-}
-
-TEST_P(AtLoad, GroovyRunsAScript) {
-    SKIP_WITHOUT_JDK(GetParam());
-    expect_same_work(GetParam(),
-                     {"-cp", installed_jar("groovy-all.jar"), "groovy.ui.GroovyMain", kScripts / "script.groovy"}, 300);
-}
-
 TEST_P(AtLoad, JythonRunsAScript) {
     SKIP_WITHOUT_JDK(GetParam());
     expect_same_work(

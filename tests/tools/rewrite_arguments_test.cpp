@@ -2,7 +2,9 @@
 // that says what is wrong, and leaves the folder as it was.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -12,6 +14,8 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::SizeIs;
 using testing::StartsWith;
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -39,11 +43,15 @@ TEST_P(Refusal, IsOneLineAndLeavesAllAsItWas) {
     write(folder / "script.jar", "#!/bin/sh\n" + jar);
     write(folder / "start.jar", "#!/bin/sh\n" + jar);
     ASSERT_EQ(run({"zip", "-qA", folder / "start.jar"}).status, 0);
+    const size_t extra_field_size = 28;  // of the first entry, which is no class
+    write(folder / "damaged.jar", std::string(jar).replace(extra_field_size, 2, "\xFF\xFF"));
+    fs::create_symlink("nothing", folder / "dangling");
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), S_IRWXU), 0);
     const auto before = names_in(folder);
 
     Words command{kRewrite};
     command.insert(command.end(), GetParam().arguments.begin(), GetParam().arguments.end());
-    const Finished refused = run(command, {.folder = folder, .environment = {}});
+    const Finished refused = run_in(folder, command);
 
     EXPECT_EQ(refused.status, 2);
     EXPECT_EQ(refused.out, "");
@@ -57,7 +65,7 @@ TEST_P(Refusal, IsOneLineAndLeavesAllAsItWas) {
 }
 
 Words with_tracker(Words arguments) {
-    arguments.insert(arguments.begin(), {"--tracker", "com/x/Tracker"});
+    arguments.insert(arguments.begin(), {"--tracker", "com/x/Tracker", "--object-init", "made"});
     return arguments;
 }
 
@@ -70,12 +78,23 @@ INSTANTIATE_TEST_SUITE_P(
         {"NoInput", with_tracker({"-o", "out"}), "IN is required"},
         {"UnknownOption", with_tracker({"--trace", "-o", "out", "A.class"}), "--trace"},
         {"OptionWithoutValue", with_tracker({"-o", "out", "A.class", "--call"}), "--call"},
+        {"NoCalls", {"--tracker", "T", "-o", "out", "A.class"}, "which calls? give one or more of --call"},
         {"EmptyTracker", {"--tracker", "", "-o", "out", "A.class"}, "'' is not a class name"},
         {"TrackerWithGap", {"--tracker", "com..x", "-o", "out", "A.class"}, "'com..x' is not a class name"},
         {"TrackerAsDescriptor", {"--tracker", "Lx/T;", "-o", "out", "A.class"}, "'Lx/T;' is not a class name"},
         {"MethodWithClass", with_tracker({"--call", "T.in", "-o", "out", "A.class"}), "'T.in' is not a method's name"},
         {"MethodWithParameters", with_tracker({"--return", "out()", "-o", "out", "A.class"}), "--return: 'out()'"},
         {"EmptyMethod", with_tracker({"--new-array", "", "-o", "out", "A.class"}), "--new-array: ''"},
+        {"TrackerNotUtf8",
+         {"--tracker", "a\xFFz", "--call", "c", "-o", "out", "A.class"},
+         "'a\\xffz' is not a name in"},
+        {"MethodNotUtf8", with_tracker({"--call", "\xED\xA0\xB5", "-o", "out", "A.class"}),
+         "--call: '\\xed\\xa0\\xb5'"},
+        {"KeepNotUtf8", with_tracker({"--keep", "\xC0\x80", "-o", "out", "A.class"}), "--keep: '\\xc0\\x80'"},
+        {"LongTracker",
+         {"--tracker", std::string(65534, 'x'), "--call", "c", "-o", "out", "A.class"},
+         "--tracker: a name of 65534 bytes is too long"},
+        {"LongMethod", with_tracker({"--call", std::string(65534, 'x'), "-o", "out", "A.class"}), "--call: a name of"},
         {"NoWorkers", with_tracker({"-j", "0", "-o", "out", "A.class"}), "-j"},
         {"WorkersInWords", with_tracker({"-j", "two", "-o", "out", "A.class"}), "-j"}}),
     [](const auto& info) { return info.param.name; });
@@ -86,6 +105,9 @@ INSTANTIATE_TEST_SUITE_P(
         {"Missing", with_tracker({"-o", "out", "A.class", "none.jar"}), "none.jar: there is no such file"},
         {"NoClassAndNoJar", with_tracker({"-o", "out", "text"}), "text is neither a class file nor a jar"},
         {"JarInNameOnly", with_tracker({"-o", "out", "text.jar"}), "cannot read text.jar: Not a zip archive"},
+        {"NameForTerminals", with_tracker({"-o", "out", "no\033[2J\n\xC2\x9B.jar"}),
+         "no\\x1b[2J\\n\\xc2\\x9b.jar: there"},
+        {"DamagedEntry", with_tracker({"-o", "out", "damaged.jar"}), "cannot read damaged.jar: "},
         {"CutJar", with_tracker({"-o", "out", "short.jar"}), "cannot read short.jar: "},
         {"CutJarBehindAGoodOne", with_tracker({"-o", "out", "program.jar", "short.jar"}), "cannot read short.jar: "},
         {"BadJarInAFolder", with_tracker({"-o", "out", "bad"}), "cannot read bad/text.jar: Not a zip archive"},
@@ -95,14 +117,38 @@ INSTANTIATE_TEST_SUITE_P(
         {"Device", with_tracker({"-o", "out", "/dev/null"}), "/dev/null is neither a file nor a folder"}}),
     [](const auto& info) { return info.param.name; });
 
+// The program's own jar is the class path here.
+Words with_path(const std::string& path, const std::string& tracker) {
+    return {"--tracker", tracker, "--tracker-path", path, "--call", "sum", "-o", "out", "A.class"};
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    OfTrackers, Refusal,
+    testing::ValuesIn(std::vector<Refused>{
+        {"PathMissing", with_path("program.jar:none", "a.T"), "--tracker-path: there is no none"},
+        {"PathOfNoJar", with_path("text", "a.T"), "cannot read text: Not a zip archive"},
+        {"Missing", with_path("program.jar:tree", "a.T"), "--tracker-path: there is no class a.T in program.jar:tree"},
+        {"OtherClass", with_path("tree", "A"), "--tracker-path: the class in the place of A is Program"},
+        {"Interface", with_path("program.jar", "Program$Shape"), "Program$Shape is an interface"},
+        {"NotPublic", with_path("program.jar", "Program$Square"), "Program$Square is not public"},
+        {"OtherParameters", with_path("tree:program.jar", "Program"), "has no method sum(II)V; there is sum(I)I"}}),
+    [](const auto& info) { return info.param.name; });
+
 INSTANTIATE_TEST_SUITE_P(
     OfOutputs, Refusal,
     testing::ValuesIn(std::vector<Refused>{
         {"InNoFolder", with_tracker({"-o", "none/out", "A.class"}), "none is not a folder; make it first"},
         {"InAFile", with_tracker({"-o", "text/out", "A.class"}), "text/out"},
         {"FileForSeveral", with_tracker({"-o", "text", "A.class", "program.jar"}), "text is a file; several results"},
-        {"Device", with_tracker({"-o", "/dev/null", "A.class"}), "/dev/null is not a file that can be replaced"},
+        {"Pipe", with_tracker({"-o", "pipe", "A.class"}), "pipe is not a file that can be replaced"},
         {"NotWritable", with_tracker({"-o", "/proc/out", "A.class"}), "cannot write /proc/"},
+        {"DanglingLink", with_tracker({"-o", "dangling", "A.class"}),
+         "write dangling: it is a link to something that is"},
+        {"DanglingMap", with_tracker({"--map", "dangling", "-o", "out", "A.class"}), "write dangling: it is a link"},
+        {"FolderToStdout", with_tracker({"-o", "-", "tree"}), "-o -: only one class file or one jar"},
+        {"SeveralToStdout", with_tracker({"-o", "-", "A.class", "program.jar"}),
+         "-o -: only one class file or one jar"},
+        {"MapToStdoutToo", with_tracker({"--map", "-", "-o", "-", "A.class"}), "--map -: the result goes to stdout"},
         {"FolderThatIsThere", with_tracker({"-o", "there", "tree"}), "there/tree is there already; remove it"},
         {"FolderInsideTheInput", with_tracker({"-o", "tree/out", "tree"}), "would be in the input tree"},
         {"TheInputItself", with_tracker({"-o", ".", "tree"}), "would be in the input tree"},
@@ -127,7 +173,7 @@ TEST(Arguments, HelpAndVersionGoToStdout) {
 TEST(Arguments, ManualDescribesEachOptionOfHelp) {
     const std::string manual = contents(VANTREL_REWRITE_MANUAL);
     const std::vector<std::string> options = options_in_help(run({kRewrite, "--help"}).out);
-    EXPECT_THAT(options, SizeIs(12));
+    EXPECT_THAT(options, SizeIs(14));
     for (const std::string& option : options) {
         EXPECT_THAT(manual, HasSubstr("`" + option));
     }

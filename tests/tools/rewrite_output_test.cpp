@@ -1,6 +1,8 @@
 // Where vantrel-rewrite puts its results, and that they do not depend on how many threads made them.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <string>
@@ -93,7 +95,8 @@ TEST(Output, MayBeTheInput) {
     EXPECT_THAT(names_in(scratch.path / "there"), ElementsAre("a.jar"));
 }
 
-// As with cp, a file that is there lends its permissions to what replaces it, and a new one has the input's.
+// As with cp, a file that is there lends its owner and its permissions to what replaces it, and a new one has the
+// input's.
 TEST(Output, HasThePermissionsThatACopyWouldHave) {
     const ScratchFolder scratch;
     const fs::perms own = fs::perms::owner_read | fs::perms::owner_write;
@@ -101,8 +104,17 @@ TEST(Output, HasThePermissionsThatACopyWouldHave) {
     write(scratch.path / "old.class", "old");
     fs::permissions(scratch.path / "A.class", own);
     fs::permissions(scratch.path / "old.class", fs::perms::owner_all);
+    struct stat old {};
+    if (geteuid() == 0) {
+        ASSERT_EQ(chown((scratch.path / "old.class").c_str(), 4711, 4712), 0);
+    }
+    ASSERT_EQ(stat((scratch.path / "old.class").c_str(), &old), 0);
     ASSERT_EQ(rewrite({"-o", "old.class", "A.class"}, scratch.path).status, 0);
     ASSERT_EQ(rewrite({"-o", "new.class", "A.class"}, scratch.path).status, 0);
+    struct stat now {};
+    ASSERT_EQ(stat((scratch.path / "old.class").c_str(), &now), 0);
+    EXPECT_EQ(now.st_uid, old.st_uid);
+    EXPECT_EQ(now.st_gid, old.st_gid);
     EXPECT_EQ(fs::status(scratch.path / "old.class").permissions(), fs::perms::owner_all);
     EXPECT_EQ(fs::status(scratch.path / "new.class").permissions(), own);
 }
@@ -127,6 +139,50 @@ TEST(Output, NumbersClassesInOrder) {
                             "4\t0\tProgram$Shape\tcorners\t()I",  //
                             "5\t0\tProgram$Square\t<init>\t()V", "5\t1\tProgram$Square\tcorners\t()I",
                             "5\t2\tProgram$Square\t<clinit>\t()V"));
+}
+
+// What goes to a pipe is what would go to a file, and nothing else; the rest of what is said goes to stderr.
+TEST(Output, MayBeAPipe) {
+    const ScratchFolder scratch;
+    make_inputs(scratch.path);
+    ASSERT_EQ(rewrite({"--map", "map", "-o", "out.jar", "a.jar"}, scratch.path).status, 0);
+    ASSERT_EQ(rewrite({"-o", "out.class", "A.class"}, scratch.path).status, 0);
+    const std::string said = "1 class: 1 rewritten, 0 too new, 0 failed\n";
+    const struct {
+        Words arguments;
+        std::string written;
+    } cases[] = {{{"-o", "-", "a.jar"}, contents(scratch.path / "out.jar")},
+                 {{"-o", "-", "A.class"}, contents(scratch.path / "out.class")},
+                 {{"--map", "-", "-o", "other.jar", "a.jar"}, contents(scratch.path / "map")}};
+    const auto before = names_in(scratch.path);
+    for (const auto& c : cases) {
+        const Finished done = rewrite(c.arguments, scratch.path);
+        EXPECT_EQ(done.status, 0);
+        EXPECT_EQ(done.out, c.written);
+        EXPECT_EQ(done.err, said);
+        EXPECT_TRUE(c.arguments[0] == "-o" || fs::remove(scratch.path / "other.jar"));
+        EXPECT_EQ(names_in(scratch.path), before);
+
+        // Nothing is put in place where that cannot be written.
+        Words full{"bash", "-c", "exec \"$@\" >/dev/full", "bash"};
+        const Words command = rewrite_command(c.arguments);
+        full.insert(full.end(), command.begin(), command.end());
+        const Finished failed = run_in(scratch.path, full);
+        EXPECT_EQ(failed.status, 2);
+        EXPECT_EQ(failed.err, "vantrel-rewrite: cannot write to stdout: No space left on device\n");
+        EXPECT_EQ(names_in(scratch.path), before);
+    }
+}
+
+// What goes to a pipe is made in the folder for temporary files first.
+TEST(Output, ForAPipeNeedsAFolderForTemporaryFiles) {
+    const ScratchFolder scratch;
+    make_inputs(scratch.path);
+    const Finished done =
+        run(rewrite_command({"-o", "-", "a.jar"}), {.folder = scratch.path, .environment = {"TMPDIR=/no"}});
+    EXPECT_EQ(done.status, 2);
+    EXPECT_EQ(done.err, "vantrel-rewrite: TMPDIR names no folder for what goes to stdout: No such file or directory\n");
+    EXPECT_EQ(done.out, "");
 }
 
 // A name may hold whatever the map uses to tell its columns apart.
@@ -160,7 +216,7 @@ TEST(Output, IsTheSameWithAnyNumberOfThreads) {
         EXPECT_EQ(more.out, one.out);
         EXPECT_EQ(more.err, one.err);
         EXPECT_EQ(contents(scratch.path / ("map" + workers)), contents(scratch.path / "map1"));
-        const Finished diff = run({"diff", "-r", "out1", "out" + workers}, {.folder = scratch.path, .environment = {}});
+        const Finished diff = run_in(scratch.path, {"diff", "-r", "out1", "out" + workers});
         EXPECT_EQ(diff.status, 0) << diff.out;
     }
 }

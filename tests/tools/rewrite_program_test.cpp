@@ -8,8 +8,10 @@
 
 #include "tool_kit.h"
 
+using testing::AllOf;
 using testing::ElementsAreArray;
 using testing::HasSubstr;
+using testing::Not;
 
 namespace fs = std::filesystem;
 
@@ -18,14 +20,13 @@ namespace {
 // Compiles com.x.Tracker into the folder `tracker`.
 void compile_tracker(const fs::path& folder, const std::string& source) {
     write(folder / "Tracker.java", source);
-    const Finished javac =
-        run({kJdk / "bin/javac", "--release", "8", "-Xlint:all,-options", "-Werror", "-d", "tracker", "Tracker.java"},
-            {.folder = folder, .environment = {}});
+    const Finished javac = run_in(folder, {kJdk / "bin/javac", "--release", "8", "-Xlint:all,-options", "-Werror", "-d",
+                                           "tracker", "Tracker.java"});
     ASSERT_EQ(javac.status, 0) << javac.out << javac.err;
 }
 
 Finished run_program(const fs::path& folder) {
-    return run({kJdk / "bin/java", "-cp", "tracked.jar:tracker", "Program"}, {.folder = folder, .environment = {}});
+    return run_in(folder, {kJdk / "bin/java", "-cp", "tracked.jar:tracker", "Program"});
 }
 
 // The manual's example, as it stands there.
@@ -39,9 +40,15 @@ std::string tracker_of_manual() {
 TEST(RewrittenProgram, IsCountedByTheManualsTracker) {
     const ScratchFolder scratch;
     compile_tracker(scratch.path, tracker_of_manual());
-    const Finished done =
-        rewrite({"--return", "left", "--new-array", "made", "-o", "tracked.jar", kProgramJar}, scratch.path);
+    // The tracker is in the input, too; it must not call itself.
+    std::vector<Entry> entries = entries_of(kProgramJar);
+    entries.push_back({"com/x/Tracker.class", contents(scratch.path / "tracker/com/x/Tracker.class")});
+    make_jar(scratch.path / "program.jar", entries);
+    const Finished done = rewrite({"--return", "left", "--new-array", "made", "--tracker-path", "program.jar:tracker",
+                                   "-o", "tracked.jar", "program.jar"},
+                                  scratch.path);
     ASSERT_EQ(done.status, 0) << done.err;
+    fs::remove_all(scratch.path / "tracker");
     const Finished program = run_program(scratch.path);
     EXPECT_EQ(program.status, 0);
     EXPECT_EQ(program.out, "24 55 4\n");
@@ -87,33 +94,75 @@ TEST(RewrittenProgram, IsReadWithTheMap) {
     EXPECT_THAT(entered, ElementsAreArray(expected));
 }
 
-// Each option names what it names, and what is not asked for is not there.
+// Letters outside of the basic plane are two characters in a class file.
+TEST(RewrittenProgram, CallsATrackerOfAnyName) {
+    const ScratchFolder scratch;
+    const std::vector<std::string> locale{"LC_ALL=C.UTF-8"};
+    write(scratch.path / "Tracker.java",
+          "package \xC3\xA9; public class \xF0\x9D\x92\x9C {"
+          "public static void \xF0\x9D\x92\x9Ez(int type, int method) { System.err.println(\"called\"); } }");
+    fs::rename(scratch.path / "Tracker.java", scratch.path / "\xF0\x9D\x92\x9C.java");
+    const Finished javac = run({kJdk / "bin/javac", "-encoding", "UTF-8", "--release", "8", "-Xlint:-options", "-d",
+                                "tracker", "\xF0\x9D\x92\x9C.java"},
+                               {.folder = scratch.path, .environment = locale});
+    ASSERT_EQ(javac.status, 0) << javac.out << javac.err;
+    const Finished done =
+        run_in(scratch.path, {kRewrite, "--tracker", "\xC3\xA9.\xF0\x9D\x92\x9C", "--tracker-path", "tracker", "--call",
+                              "\xF0\x9D\x92\x9Ez", "-o", "tracked.jar", kProgramJar});
+    ASSERT_EQ(done.status, 0) << done.err;
+    const Finished program = run({kJdk / "bin/java", "-cp", "tracked.jar:tracker", "Program"},
+                                 {.folder = scratch.path, .environment = locale});
+    EXPECT_EQ(program.out, "24 55 4\n");
+    EXPECT_EQ(lines_of(program.err), std::vector<std::string>(23, "called"));
+}
+
+// Methods may be in a class that the tracker extends.
+TEST(Tracker, IsCheckedWhereItsPathIsKnown) {
+    const ScratchFolder scratch;
+    compile_tracker(scratch.path,
+                    "package com.x;\n"
+                    "class Base {\n"
+                    "    public static void entered(int type, int method) { }\n"
+                    "}\n"
+                    "public final class Tracker extends Base {\n"
+                    "    public void unbound(int type, int method) { }\n"
+                    "    static void hidden(Object array) { }\n"
+                    "    public static void made(Object array) { }\n"
+                    "}\n");
+    const struct {
+        Words calls;
+        std::string says;
+    } cases[] = {
+        {{"--new-array", "made", "--object-init", "made"}, ""},
+        {{"--return", "unbound"}, "the method unbound(II)V of com.x.Tracker is not static"},
+        {{"--new-array", "hidden"}, "the method hidden(Ljava/lang/Object;)V of com.x.Tracker is not public"},
+        {{"--object-init", "none"}, "com.x.Tracker has no method none(Ljava/lang/Object;)V"},
+        {{"--return", "made"}, "com.x.Tracker has no method made(II)V; there is made(Ljava/lang/Object;)V"},
+    };
+    for (const auto& c : cases) {
+        Words arguments{"--tracker-path", "tracker", "-o", "out.jar", kProgramJar};
+        arguments.insert(arguments.end(), c.calls.begin(), c.calls.end());
+        const Finished done = rewrite(arguments, scratch.path);
+        EXPECT_EQ(done.status, c.says.empty() ? 0 : 2);
+        EXPECT_EQ(done.err, c.says.empty() ? "" : "vantrel-rewrite: --tracker-path: " + c.says + "\n");
+        EXPECT_EQ(fs::remove(scratch.path / "out.jar"), c.says.empty());
+    }
+}
+
+// Each option names what it names, the tracker with dots or with slashes, and what is not asked for is not there.
 TEST(RewrittenClass, HoldsTheNamesThatWereGiven) {
     const ScratchFolder scratch;
     write(scratch.path / "A.class", program_class());
     const std::vector<std::string> options{"--call", "--return", "--object-init", "--new-array"};
     for (const std::string& given : options) {
-        ASSERT_EQ(run({kRewrite, "--tracker", "com.x.Tracker", given, "tracked" + given, "-o", "B.class", "A.class"},
-                      {.folder = scratch.path, .environment = {}})
-                      .status,
-                  0);
+        const std::string tracker = given == "--call" ? "com/x/Tracker" : "com.x.Tracker";
+        const Finished done = run_in(
+            scratch.path, {kRewrite, "--tracker", tracker, given, "tracked" + given, "-o", "B.class", "A.class"});
+        ASSERT_EQ(done.status, 0) << done.err;
         const std::string image = contents(scratch.path / "B.class");
-        EXPECT_THAT(image, HasSubstr("com/x/Tracker"));
-        EXPECT_THAT(image, HasSubstr("tracked" + given));
+        EXPECT_THAT(image, AllOf(HasSubstr("com/x/Tracker"), HasSubstr("tracked" + given)));
+        EXPECT_THAT(image, Not(HasSubstr("com.x.Tracker")));
     }
-}
-
-TEST(RewrittenClass, IsTheSameForATrackerWithDotsAndWithSlashes) {
-    const ScratchFolder scratch;
-    write(scratch.path / "A.class", program_class());
-    for (const std::string name : {"com.x.Tracker", "com/x/Tracker"}) {
-        const std::string out = name == "com.x.Tracker" ? "dots" : "slashes";
-        ASSERT_EQ(run({kRewrite, "--tracker", name, "--call", "in", "-o", out, "A.class"},
-                      {.folder = scratch.path, .environment = {}})
-                      .status,
-                  0);
-    }
-    EXPECT_EQ(contents(scratch.path / "dots"), contents(scratch.path / "slashes"));
 }
 
 // What sets a class up is left alone in a system class.

@@ -34,6 +34,10 @@ std::string read_entry(zip_t* zip, zip_uint64_t index, size_t size) {
 
 }  // namespace
 
+Finished run_in(const fs::path& folder, const Words& command) {
+    return run(command, {.folder = folder, .environment = {}});
+}
+
 Words rewrite_command(const Words& arguments) {
     Words command{kRewrite, "--tracker", "com.x.Tracker", "--call", "entered"};
     command.insert(command.end(), arguments.begin(), arguments.end());
@@ -41,7 +45,7 @@ Words rewrite_command(const Words& arguments) {
 }
 
 Finished rewrite(const Words& arguments, const fs::path& folder) {
-    return run(rewrite_command(arguments), {.folder = folder, .environment = {}});
+    return run_in(folder, rewrite_command(arguments));
 }
 
 std::vector<std::string> options_in_help(const std::string& help) {

@@ -15,6 +15,9 @@ const std::filesystem::path kProgramJar = VANTREL_PROGRAM_JAR;
 
 using Words = std::vector<std::string>;
 
+// Runs a command in a folder.
+Finished run_in(const std::filesystem::path& folder, const Words& command);
+
 // The command with a tracker whose method is called at each entry.
 Words rewrite_command(const Words& arguments);
 Finished rewrite(const Words& arguments, const std::filesystem::path& folder);

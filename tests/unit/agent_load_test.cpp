@@ -1,7 +1,6 @@
 // What the VM sees of the agent's start: the calls of Agent_OnLoad in order, and the outcome of a failure of each.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstring>
 #include <filesystem>
@@ -11,6 +10,7 @@
 
 #include "fake_vm.h"
 #include "jc/StackTraceManager.h"
+#include "own_folder.h"
 #include "vantrel-agent.h"
 
 namespace fs = std::filesystem;
@@ -22,11 +22,7 @@ namespace {
 
 struct AgentLoad : testing::Test {
     void SetUp() override {
-        folder = fs::path(testing::TempDir()) / ("agent load " + std::to_string(getpid()));
-        fs::create_directories(folder);
-        jar = (folder / "vantrel-1.2.3.jar").string();
-        std::ofstream create(folder / "vantrel-1.2.3.jar");
-        library = (folder / "libvantrel-agent.so.1").string();
+        std::ofstream create(jar);
         before = gb_data;
         gb_data = {.jvmti = nullptr, .jvm = nullptr, .lock = nullptr, .libraryPath = library.c_str(), .loaded = 0};
         steps = {
@@ -40,10 +36,7 @@ struct AgentLoad : testing::Test {
             "SetEventNotificationMode enable 57 null",
         };
     }
-    void TearDown() override {
-        gb_data = before;
-        fs::remove_all(folder);
-    }
+    void TearDown() override { gb_data = before; }
 
     std::vector<std::string> first_steps(size_t count) const {
         return {steps.begin(), std::next(steps.begin(), static_cast<std::ptrdiff_t>(count))};
@@ -63,9 +56,9 @@ struct AgentLoad : testing::Test {
     }
 
     FakeVm vm;
-    fs::path folder;
-    std::string jar;
-    std::string library;
+    const OwnFolder folder;
+    const std::string jar = folder.path / "vantrel-1.2.3.jar";
+    const std::string library = folder.path / "libvantrel-agent.so.1";
     AgentData before{};
     std::vector<std::string> steps;
 };
@@ -148,7 +141,7 @@ TEST_F(AgentLoad, AMissingJarIsNamed) {
 }
 
 TEST_F(AgentLoad, ALibraryPathThatDoesNotFitIsAMissingJar) {
-    const std::string deep = folder.string() + std::string(1100, '/') + "libvantrel-agent.so.1";
+    const std::string deep = folder.path.string() + std::string(1100, '/') + "libvantrel-agent.so.1";
     gb_data.libraryPath = deep.c_str();
     const Outcome outcome = load();
     EXPECT_EQ(outcome.result, -1);

@@ -48,7 +48,7 @@ TEST(GetToken, SplitsAndRefusesWhatDoesNotFit) {
         }
         EXPECT_EQ(tokens, c.expected);
         EXPECT_EQ(token[0], '\0') << "a refusal leaves an empty token";
-        EXPECT_EQ(token[c.max_length], '#') << "nothing is written behind the room given";
+        EXPECT_EQ(token[c.max_length], '#') << "nothing is written past the room given";
     }
 }
 

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstring>
@@ -7,6 +6,7 @@
 #include <fstream>
 #include <string>
 
+#include "own_folder.h"
 #include "vantrel-agent.h"
 
 namespace fs = std::filesystem;
@@ -16,20 +16,10 @@ namespace {
 constexpr std::string_view kJar = "vantrel-1.2.3.jar";
 
 struct CompanionPath : testing::Test {
-    void SetUp() override {
-        folder = fs::path(testing::TempDir()) / ("companion path " + std::to_string(getpid()));
-        fs::create_directories(folder);
-        home = fs::current_path();
-        library = gb_data.libraryPath;
-    }
-    void TearDown() override {
-        gb_data.libraryPath = library;
-        fs::current_path(home);
-        fs::remove_all(folder);
-    }
+    void TearDown() override { gb_data.libraryPath = library; }
 
     // What GetVantrelCassPath makes of a library path: the path written, and whether the jar exists. Nothing may be
-    // written behind `size` bytes, and all bytes behind the path must be zero.
+    // written past `size` bytes, and all bytes after the path must be zero.
     bool find(const char* library_path, unsigned long size = 1024) {
         gb_data.libraryPath = library_path;
         std::string buffer(size + 64, '#');
@@ -37,13 +27,13 @@ struct CompanionPath : testing::Test {
         EXPECT_EQ(buffer.substr(size), std::string(64, '#'));
         const size_t length = std::min(buffer.find('\0'), size);
         path = buffer.substr(0, length);
-        EXPECT_GE(buffer.find_first_not_of('\0', length), size) << "all zero behind the path";
+        EXPECT_GE(buffer.find_first_not_of('\0', length), size) << "all zero after the path";
         return found;
     }
 
-    fs::path folder;
-    fs::path home;
-    const char* library = nullptr;
+    const OwnFolder own;  // the working folder
+    const fs::path folder = own.path;
+    const char* library = gb_data.libraryPath;
     std::string path;
 };
 
@@ -75,6 +65,8 @@ TEST_F(CompanionPath, IsFoundWhereTheFileIs) {
     EXPECT_TRUE(find(beside.c_str()));
     EXPECT_EQ(path, (folder / kJar).string());
 
+    fs::create_directory("elsewhere");
+    fs::current_path("elsewhere");
     EXPECT_FALSE(find("libagent.so"));
     fs::current_path(folder);
     EXPECT_TRUE(find("libagent.so")) << "a bare name is looked up in the working folder";
@@ -114,7 +106,7 @@ TEST_F(CompanionPath, IsRefusedWhereItDoesNotFit) {
 
 TEST_F(CompanionPath, LibraryPathIsRecordedBeforeMain) {
     ASSERT_NE(library, nullptr);
-    EXPECT_TRUE(fs::equivalent(library, "/proc/self/exe"));
+    EXPECT_TRUE(fs::equivalent(own.before / library, "/proc/self/exe"));
 }
 
 }  // namespace

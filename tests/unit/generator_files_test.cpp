@@ -9,10 +9,14 @@
 #include <vector>
 
 #include "CodeGenerater/CodeGenerater.h"
+#include "CodeGenerater/generator.h"
 #include "fake_vm.h"
 #include "own_folder.h"
 
 namespace fs = std::filesystem;
+using generator::kPrivate;
+using generator::kProtected;
+using generator::kStatic;
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -23,7 +27,7 @@ using testing::StartsWith;
 
 namespace {
 
-constexpr int kPublic = 0x0001;
+constexpr int kAccPublic = 0x0001;
 
 // Generates into the working directory; whether both files were written.
 bool generate(FakeVm& vm, std::string name, std::string directory = "out") {
@@ -162,16 +166,16 @@ constexpr const char* kBody =
 
 jclass add_gauge(FakeVm& vm) {
     const jclass gauge = vm.add_class("com/example/Gauge2D");
-    set_modifiers(vm.add_field(gauge, "serialVersionUID", "J"), kPublic | kStatic);
+    set_modifiers(vm.add_field(gauge, "serialVersionUID", "J"), kAccPublic | kStatic);
     vm.add_field(gauge, "parent", "Ljava/awt/Container;");
     set_modifiers(vm.add_field(gauge, "secret", "I"), kPrivate);
-    set_modifiers(vm.add_field(gauge, "LIMITS", "[I"), kPublic | kStatic);
+    set_modifiers(vm.add_field(gauge, "LIMITS", "[I"), kAccPublic | kStatic);
     vm.add_method(gauge, "<init>", "()V");
     vm.add_method(gauge, "<init>", "(Ljava/awt/Component;[I)V");
     set_modifiers(vm.add_method(gauge, "measure", "()V"), kProtected);
     vm.add_method(gauge, "show", "(S)V");
     vm.add_method(gauge, "show", "([[Ljava/lang/String;)[Ljava/lang/String;");
-    set_modifiers(vm.add_method(gauge, "steps", "(D)[I"), kPublic | kStatic);
+    set_modifiers(vm.add_method(gauge, "steps", "(D)[I"), kAccPublic | kStatic);
     set_modifiers(vm.add_method(gauge, "reset", "()V"), kStatic);
     return gauge;
 }
@@ -354,7 +358,7 @@ TEST(GeneratorMacros, HaveLettersInUpperCase) {
         std::string name = c.name;
         char macro[kClassNameSize] = "X";
         GetHeaderMacro(macro, name.data());
-        EXPECT_EQ(macro, std::string("X") + c.macro) << "behind what is there";
+        EXPECT_EQ(macro, std::string("X") + c.macro) << "added to what is there";
     }
 }
 

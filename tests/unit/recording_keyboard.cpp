@@ -4,8 +4,8 @@
 #include "keyboard.h"
 #include "vantrel-agent.h"
 
-void setHotKeyThread(HotKeyThread /*thread*/) {
-    record_call("setHotKeyThread");
+void setHotKeyVmAttachment(VmAttachment /*attachment*/) {
+    record_call("setHotKeyVmAttachment");
 }
 
 void bindMacHotKey(void (*callback)()) {

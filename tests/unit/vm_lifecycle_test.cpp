@@ -155,7 +155,7 @@ TEST_F(VmLifecycle, InitialisationFillsTheProxiesInOrderUnderTheMonitor) {
                     "RegisterNatives global com/vantrel/VantrelFrame setOpacity:(I)V", "GetSystemProperty java.home",
                     "SetFieldModificationWatch global java/awt/Component "
                     "java/awt/Component.parent:Ljava/awt/Container;",
-                    set_security_manager, "ExceptionClear", "stdout Vantrel Initializing.\n", "setHotKeyThread",
+                    set_security_manager, "ExceptionClear", "stdout Vantrel Initializing.\n", "setHotKeyVmAttachment",
                     "bindMacHotKey keyCallback", "RawMonitorExit monitor agent data"));
 }
 

@@ -16,7 +16,9 @@ constexpr const char* kFooter =
     R"(The classes are loaded and initialised in a Java VM of the command's own, without a display. The VM is the one in
 --java-home, in JAVA_HOME, or the one that the java on the path belongs to.
 
-Exit status: 0 if all is well, 1 if a class could not be written, 2 if nothing was done.
+Names that would be no C++ are changed, and a line on stderr tells each; --list shows them.
+
+Exit status: 0 if all is well, 1 if a class or the list could not be written, 2 if nothing was done.
 
 Examples:
   vantrel-generate --out proxies java.util.EventObject java.awt.Container
@@ -27,7 +29,7 @@ Examples:
 
 }  // namespace
 
-std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
+std::variant<generate::Arguments, std::string> generate::parse_arguments(int argc, char** argv) {
     Arguments arguments;
     CLI::App app(kDescription, "vantrel-generate");
     app.footer(kFooter);
@@ -42,14 +44,16 @@ std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
     auto* out = app.add_option("--out", arguments.out, "The folder for the files; is made if it is not there")
                     ->type_name("DIR");
     app.add_flag("--list", arguments.list, "Print the members that would be written, and write nothing")->excludes(out);
+    app.add_flag("--literal", arguments.literal, "Change no name, even where the files are no C++ then");
+    app.add_flag("--force", arguments.force, "Replace files in DIR that are not the same class's proxy")->needs(out);
     app.add_option("CLASS", arguments.classes, "A class, like java.awt.Container or java/awt/Container")
         ->required()
         ->type_name("");
-    if (auto text = parse_command_line(app, argc, argv)) {
+    if (auto text = command::parse_command_line(app, argc, argv)) {
         return *std::move(text);
     }
     if (arguments.out.empty() && !arguments.list) {
-        throw Failure{"--out is required; vantrel-generate --help tells the options"};
+        throw command::Failure{"--out is required; vantrel-generate --help tells the options"};
     }
     return arguments;
 }

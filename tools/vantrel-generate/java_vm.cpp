@@ -25,17 +25,29 @@ fs::path find_home(const std::string& given) {
     if (!given.empty()) {
         return given;
     }
-    if (auto home = find_java_home()) {
+    if (auto home = command::find_java_home()) {
         return *std::move(home);
     }
-    throw Failure{"there is no Java: no --java-home, no JAVA_HOME, no java on the path"};
+    throw command::Failure{"there is no Java: no --java-home, no JAVA_HOME, no java on the path"};
 }
 
 fs::path find_library(const fs::path& home) {
-    if (auto library = find_vm_library(home)) {
+    if (auto library = command::find_vm_library(home)) {
         return *std::move(library);
     }
-    throw Failure{"there is no Java VM in " + home.string()};
+    throw command::Failure{"there is no Java VM in " + home.string()};
+}
+
+// A VM without the class library ends the process before it takes note of the abort hook. It looks for the classes from
+// where its own library is, links followed: in `modules`, or in `rt.jar` up to Java 8.
+void check_class_library(const fs::path& home, const fs::path& library) {
+    fs::path folder = fs::canonical(library).parent_path();
+    for (int up = 0; up < 4; ++up, folder = folder.parent_path()) {
+        if (fs::exists(folder / "modules") || fs::exists(folder / "rt.jar")) {
+            return;
+        }
+    }
+    throw command::Failure{"there is no whole Java in " + home.string() + ": it has a VM, but no classes"};
 }
 
 // The command itself leaves without the handlers of exit(), so whoever gets here is the VM: it could not start and has
@@ -61,16 +73,17 @@ extern "C" JNIEXPORT jint JNICALL Agent_OnLoad_vantrel_generate(JavaVM* vm, char
     return JNI_OK;
 }
 
-RunningVm start_vm(const std::string& java_home, const std::vector<std::string>& options) {
+generate::RunningVm generate::start_vm(const std::string& java_home, const std::vector<std::string>& options) {
     const fs::path home = find_home(java_home);
     const fs::path path = find_library(home);
+    check_class_library(home, path);
     void* library = dlopen(path.c_str(), RTLD_NOW | RTLD_GLOBAL);
     if (library == nullptr) {
-        throw Failure{"cannot load the Java VM: " + std::string(dlerror())};
+        throw command::Failure{"cannot load the Java VM: " + std::string(dlerror())};
     }
     auto* const create = reinterpret_cast<decltype(&JNI_CreateJavaVM)>(dlsym(library, "JNI_CreateJavaVM"));
     if (create == nullptr) {
-        throw Failure{path.string() + " is no Java VM"};
+        throw command::Failure{path.string() + " is no Java VM"};
     }
 
     // The VM does not write to the texts.
@@ -89,8 +102,8 @@ RunningVm start_vm(const std::string& java_home, const std::vector<std::string>&
     void* env = nullptr;
     const jint status = create(&vm, &env, &arguments);
     if (status != JNI_OK || agent_jvmti == nullptr) {
-        throw Failure{"the Java VM in " + home.string() +
-                      " does not start (JNI_CreateJavaVM: " + std::to_string(status) + ")"};
+        throw command::Failure{"the Java VM in " + home.string() +
+                               " does not start (JNI_CreateJavaVM: " + std::to_string(status) + ")"};
     }
     return {static_cast<JNIEnv*>(env), agent_jvmti};
 }

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace generate {
+
 // A running VM, as the thread that started it sees it. It is not shut down: threads that a class has started might keep
 // it from that for ever. It ends with the process.
 struct RunningVm {
@@ -18,5 +20,7 @@ struct RunningVm {
 // stderr. A VM that ends the process, now or later, leaves a line on stderr and status 2.
 //   java_home  empty for JAVA_HOME's, or else the one that the java on the path belongs to
 RunningVm start_vm(const std::string& java_home, const std::vector<std::string>& options);
+
+}  // namespace generate
 
 #endif

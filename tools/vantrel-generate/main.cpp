@@ -1,21 +1,27 @@
 // vantrel-generate: proxies of Java classes from the command line.
+#include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <exception>
 #include <filesystem>
 #include <set>
 #include <string>
+#include <system_error>
 #include <variant>
 #include <vector>
 
 #include "arguments.h"
+#include "class_output.h"
+#include "class_path.h"
 #include "failure.h"
-#include "generation.h"
 #include "java_vm.h"
 
 namespace fs = std::filesystem;
+using generate::Arguments;
 
 namespace {
 
@@ -45,7 +51,7 @@ void report(const std::string& message) {
 std::vector<std::string> vm_options(const Arguments& arguments) {
     // Ours come first, so that the user's win. Standard output is for --list: what the VM has to say is not.
     std::vector<std::string> options = {"-XX:+DisplayVMOutputToStderr", "-Djava.awt.headless=true",
-                                        "-Djava.class.path=" + arguments.class_path};
+                                        "-Djava.class.path=" + generate::expand_class_path(arguments.class_path)};
     options.insert(options.end(), arguments.vm_options.begin(), arguments.vm_options.end());
     return options;
 }
@@ -54,40 +60,63 @@ void make_folder(const fs::path& folder) {
     std::error_code error;
     fs::create_directories(folder, error);
     if (error) {
-        throw Failure{"cannot make the folder " + folder.string() + ": " + error.message()};
+        throw command::Failure{"cannot make the folder " + folder.string() + ": " + error.message()};
     }
 }
 
+// Standard output, for the list alone: from here on what others write to it goes to stderr, as a class may when it is
+// initialised. Null if it is closed.
+FILE* take_standard_output() {
+    const int taken = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    dup2(STDERR_FILENO, STDOUT_FILENO);
+    return taken >= 0 ? fdopen(taken, "w") : nullptr;
+}
+
 int generate_all(const Arguments& arguments) {
-    const RunningVm vm = start_vm(arguments.java_home, vm_options(arguments));
+    generate::Output output{arguments.out, take_standard_output(), arguments.literal, arguments.force, report};
+    const generate::RunningVm vm = generate::start_vm(arguments.java_home, vm_options(arguments));
     if (!arguments.list) {
         make_folder(arguments.out);
     }
     int status = kAllWell;
-    std::set<std::string> written;
+    std::set<std::string> done;
     size_t number = 0;
     for (const std::string& name : arguments.classes) {
         show_progress(++number, arguments.classes.size(), name);
         try {
-            generate(vm, name, arguments.out, written);
-        } catch (const Failure& failure) {
+            const std::string internal_name = generate::internal_name_of(name);
+            if (done.insert(internal_name).second) {
+                generate::write_or_list(vm, internal_name, output);
+            }
+        } catch (const command::Failure& failure) {
             report(failure.line);
             status = kClassFailed;
+        } catch (const std::system_error& error) {
+            report(error.what());
+            return kClassFailed;
         }
     }
     clear_progress();
     return status;
 }
 
+// Prints what --help and --version ask for.
+int print(const std::string& text) {
+    if (fputs(text.c_str(), stdout) < 0 || fflush(stdout) != 0) {
+        report(std::string("cannot write to standard output: ") + strerror(errno));
+        return kNothingDone;
+    }
+    return kAllWell;
+}
+
 int run(int argc, char** argv) {
     try {
-        const auto parsed = parse_arguments(argc, argv);
+        const auto parsed = generate::parse_arguments(argc, argv);
         if (const auto* text = std::get_if<std::string>(&parsed)) {
-            fputs(text->c_str(), stdout);
-            return kAllWell;
+            return print(*text);
         }
         return generate_all(std::get<Arguments>(parsed));
-    } catch (const Failure& failure) {
+    } catch (const command::Failure& failure) {
         report(failure.line);
     } catch (const std::exception& error) {
         report(error.what());
@@ -99,7 +128,6 @@ int run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     const int status = run(argc, argv);
-    fflush(stdout);
     // Not exit(): threads that a class has started in the VM would run while the process is taken apart.
     _Exit(status);
 }

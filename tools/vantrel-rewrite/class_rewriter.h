@@ -2,30 +2,34 @@
 #ifndef VANTREL_REWRITE_CLASS_REWRITER_H
 #define VANTREL_REWRITE_CLASS_REWRITER_H
 
-#include <cstdlib>
-#include <memory>
+#include <cstddef>
+#include <functional>
 #include <string>
 
 #include "arguments.h"
-#include "file.h"
+#include "file_io.h"
 
-enum class Outcome { Rewritten, TooNew, Failed };
+namespace vantrel_rewrite {
 
-struct FreeImage {
-    void operator()(unsigned char* image) const { std::free(image); }
-};
+// The newest version of class files that can be rewritten, that of Java 8.
+constexpr unsigned kNewestVersion = 52;
+
+enum class Outcome { Rewritten, Kept, TooNew, Failed };
 
 struct RewrittenClass {
     Outcome outcome = Outcome::Failed;
-    std::string reason;  // why it was not rewritten
-    std::string map;     // the map's lines for its methods; empty where it was not rewritten
-    std::unique_ptr<unsigned char, FreeImage> image;
-    size_t size = 0;
-
-    [[nodiscard]] BytesView bytes() const { return {image.get(), size}; }
+    std::string reason;     // why it was not rewritten, for the user
+    std::string map_lines;  // of its methods; empty where it was not rewritten
+    Bytes image;            // the same
 };
 
-// Any number of threads may rewrite at the same time.
-RewrittenClass rewrite_class(const Tracker& tracker, unsigned number, BytesView image);
+// Reads on in a class file: at most so many bytes, fewer only at its end.
+using ReadClass = std::function<Bytes(size_t at_most)>;
+
+// Reads no more of the file than it takes to decide. What `read` throws is thrown on. Any number of threads may rewrite
+// at the same time.
+RewrittenClass rewrite_class(const Arguments& arguments, unsigned number, const ReadClass& read);
+
+}  // namespace vantrel_rewrite
 
 #endif

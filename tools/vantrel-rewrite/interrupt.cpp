@@ -4,39 +4,64 @@
 #include <csignal>
 #include <cstdlib>
 
+namespace vantrel_rewrite::interrupt {
+
 namespace {
 
 std::atomic<int> received{0};
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler writes it");
 
-void note(int number) {
+void remember(int number) {
     received = number;
 }
 
+void watch_for(int number) {
+    struct sigaction action {};
+    struct sigaction before {};
+    action.sa_handler = remember;  // without SA_RESTART: what waits for a pipe is to come back
+    sigemptyset(&action.sa_mask);
+    if (sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN) {
+        sigaction(number, &action, nullptr);
+    }  // ignored in a job in the background, or below nohup, it stays so
+}
+
+// All that end a process but those that tell of its own faults.
+constexpr int kEnding[] = {
+    SIGHUP, SIGINT, SIGQUIT,   SIGUSR1, SIGUSR2, SIGALRM, SIGTERM, SIGXCPU, SIGVTALRM, SIGPROF,
+#ifdef __linux__
+    SIGIO,  SIGPWR, SIGSTKFLT,
+#endif
+};
+
 }  // namespace
 
-void interrupt::watch() {
-    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-        if (std::signal(number, note) == SIG_IGN) {
-            std::signal(number, SIG_IGN);  // a job in the background, or below nohup
-        }
+void watch() {
+    for (const int number : kEnding) {
+        watch_for(number);
     }
+#ifdef __linux__
+    for (int number = SIGRTMIN; number <= SIGRTMAX; ++number) {
+        watch_for(number);
+    }
+#endif
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
-bool interrupt::requested() {
+bool requested() {
     return received != 0;
 }
 
-void interrupt::check() {
+void check() {
     if (requested()) {
         throw Interrupted{};
     }
 }
 
-void interrupt::end_by_signal() {
+void end_by_signal() {
     std::signal(received, SIG_DFL);
     std::raise(received);
     std::abort();  // not reached
 }
+
+}  // namespace vantrel_rewrite::interrupt

@@ -2,13 +2,14 @@
 #ifndef VANTREL_REWRITE_INTERRUPT_H
 #define VANTREL_REWRITE_INTERRUPT_H
 
-namespace interrupt {
+namespace vantrel_rewrite::interrupt {
 
 // Thrown where the mark is seen.
 struct Interrupted {};
 
-// From now on SIGINT, SIGTERM and SIGHUP leave the mark, unless they were ignored before; a closed pipe and a file that
-// grows too large are errors of writing and no longer end the process.
+// From now on all signals that would end the process leave the mark, unless they were ignored before; not KILL, which
+// cannot, nor those that tell of faults, as SEGV does. A closed pipe and a file that
+// grows too large are errors of writing, and no longer end the process.
 void watch();
 
 bool requested();
@@ -19,6 +20,6 @@ void check();
 // Ends the process by the signal that left the mark, as its parent expects.
 [[noreturn]] void end_by_signal();
 
-}  // namespace interrupt
+}  // namespace vantrel_rewrite::interrupt
 
 #endif

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cctype>
 
+namespace vantrel_rewrite {
+
 namespace {
 
 constexpr std::string_view kFolder = "META-INF/";
@@ -90,3 +92,5 @@ std::string without_digests(std::string_view manifest) {
     }
     return result;
 }
+
+}  // namespace vantrel_rewrite

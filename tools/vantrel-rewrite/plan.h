@@ -4,25 +4,21 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <vector>
 
 #include "arguments.h"
-#include "jar.h"
+#include "input_kind.h"
+#include "rewritten_jar.h"
 #include "staging.h"
 
-enum class Kind {
-    ClassFile,
-    Jar,
-    Folder,
-    Link,  // in a folder; carried over as a link
-    Other
-};
+namespace vantrel_rewrite {
 
 // One file or folder that is made.
 struct Piece {
     Kind kind;
-    std::filesystem::path source;   // nothing, for a folder that only holds the results
-    std::filesystem::path target;   // where it is made
+    std::filesystem::path source;  // nothing, for a folder that only holds the results
+    NewFile target;
     size_t first_class = 0;         // the number of its first class
     std::vector<JarClass> classes;  // a jar's
 };
@@ -30,11 +26,13 @@ struct Piece {
 struct Plan {
     std::vector<Piece> pieces;  // a folder comes before what is in it
     size_t class_count = 0;
-    std::filesystem::path map;  // empty where none is wanted
+    std::optional<NewFile> map;  // nothing where none is wanted
 };
 
 // Looks at the inputs and at what is there under the results' names, stages the results, and numbers the classes. A
 // Failure is thrown for what cannot be done; nothing has been written then.
 Plan make_plan(const Arguments& arguments, Staging& staging);
+
+}  // namespace vantrel_rewrite
 
 #endif

@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <string>
 
+namespace vantrel_rewrite {
+
 namespace {
 
 constexpr auto kInterval = std::chrono::milliseconds(100);
@@ -46,3 +48,5 @@ void Progress::draw() {
     std::fflush(stderr);
     drawn_ = std::chrono::steady_clock::now();
 }
+
+}  // namespace vantrel_rewrite

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <mutex>
 
+namespace vantrel_rewrite {
+
 // A line on stderr, if that is a terminal, that tells how many of the classes are done.
 class Progress {
   public:
@@ -29,5 +31,7 @@ class Progress {
     size_t done_ = 0;
     std::chrono::steady_clock::time_point drawn_;
 };
+
+}  // namespace vantrel_rewrite
 
 #endif

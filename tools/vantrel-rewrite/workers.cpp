@@ -2,10 +2,13 @@
 
 #include <atomic>
 #include <exception>
+#include <system_error>
 #include <thread>
 #include <vector>
 
 #include "interrupt.h"
+
+namespace vantrel_rewrite {
 
 void for_each_index(unsigned workers, size_t count, const std::function<void(unsigned, size_t)>& work) {
     std::atomic<size_t> next{0};
@@ -24,7 +27,11 @@ void for_each_index(unsigned workers, size_t count, const std::function<void(uns
     {
         std::vector<std::jthread> threads;
         for (unsigned worker = 1; worker < workers && worker < count; ++worker) {
-            threads.emplace_back(run, worker);
+            try {
+                threads.emplace_back(run, worker);
+            } catch (const std::system_error&) {
+                break;  // there can be no more of them; those that are there do the work
+            }
         }
         run(0);
     }
@@ -34,3 +41,5 @@ void for_each_index(unsigned workers, size_t count, const std::function<void(uns
         }
     }
 }
+
+}  // namespace vantrel_rewrite

@@ -10,6 +10,8 @@
 
 namespace fs = std::filesystem;
 
+namespace launch {
+
 namespace {
 
 // The agent's own limit, with the end of the string.
@@ -37,7 +39,7 @@ void check_path(const std::string& library) {
                             : library.size() >= kMaxPathSize         ? "its path has 1024 bytes or more"
                                                                      : "";
     if (!why.empty()) {
-        throw Failure{"the agent cannot be loaded from " + library + ", because " + why + "; move it"};
+        throw command::Failure{"the agent cannot be loaded from " + library + ", because " + why + "; move it"};
     }
 }
 
@@ -62,8 +64,8 @@ std::string agent_option() {
     const fs::path library = own_file().parent_path().parent_path() / "lib" / VANTREL_LIBRARY_NAME;
     for (const fs::path& file : {library, library.parent_path() / kJarName}) {
         if (!fs::is_regular_file(file)) {
-            throw Failure{"there is no " + file.string() +
-                          "; the command needs the agent in the folder lib beside its own"};
+            throw command::Failure{"there is no " + file.string() +
+                                   "; the command needs the agent in the folder lib beside its own"};
         }
     }
     check_path(library);
@@ -77,3 +79,5 @@ std::string tool_options(const std::string& already, const std::vector<std::stri
     }
     return all;
 }
+
+}  // namespace launch

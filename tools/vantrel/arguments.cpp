@@ -8,6 +8,8 @@
 #include "command_line.h"
 #include "failure.h"
 
+namespace launch {
+
 namespace {
 
 constexpr const char* kDescription = "Brings the inspector of Swing user interfaces into a program.\n";
@@ -52,8 +54,8 @@ int words_before_program(const CLI::App& run, int argc, char** argv) {
 
 }  // namespace
 
-std::variant<RunArguments, std::string> parse_arguments(int argc, char** argv) {
-    RunArguments arguments;
+std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
+    Arguments arguments;
     CLI::App app(kDescription, "vantrel");
     app.footer("vantrel COMMAND --help tells more about a command.");
     app.set_help_flag("-h,--help", "Print this text and exit");
@@ -70,13 +72,15 @@ std::variant<RunArguments, std::string> parse_arguments(int argc, char** argv) {
         ->allow_extra_args(false);
 
     const int own_words = words_before_program(*run, argc, argv);
-    if (auto text = parse_command_line(app, own_words, argv)) {
+    if (auto text = command::parse_command_line(app, own_words, argv)) {
         return *std::move(text);
     }
     const bool has_mark = own_words < argc && argv[own_words] == std::string("--");
     arguments.program.assign(argv + own_words + (has_mark ? 1 : 0), argv + argc);
     if (arguments.program.empty()) {
-        throw Failure{"which program? vantrel run PROGRAM ARGUMENTS... starts it"};
+        throw command::Failure{"which program? vantrel run PROGRAM ARGUMENTS... starts it"};
     }
     return arguments;
 }
+
+}  // namespace launch

@@ -3,16 +3,18 @@
 #include <algorithm>
 #include <string_view>
 
+namespace launch {
+
 namespace {
 
-// The launcher's options whose value is the next word. Some may have it behind a '=' instead.
+// The launcher's options whose value is the next word. Some may have it after a '=' instead.
 constexpr std::string_view kWithValue[] = {
     "-cp",           "-classpath",     "-p",           "--add-exports",          "--add-modules",
     "--add-opens",   "--add-reads",    "--class-path", "--enable-native-access", "--limit-modules",
     "--module-path", "--patch-module", "--source",     "--upgrade-module-path",
 };
 
-// What ends the options: what comes behind is the program's.
+// What ends the options: what comes after it is the program's.
 constexpr std::string_view kProgram[] = {"-jar", "-m", "--module"};
 
 bool is_in(const auto& list, std::string_view word) {
@@ -36,3 +38,5 @@ size_t place_for_agent(const std::vector<std::string>& words) {
     }
     return place;
 }
+
+}  // namespace launch

@@ -23,15 +23,15 @@ int report(const std::string& line, int status) {
 
 int main(int argc, char** argv) {
     try {
-        const auto parsed = parse_arguments(argc, argv);
+        const auto parsed = launch::parse_arguments(argc, argv);
         if (const auto* text = std::get_if<std::string>(&parsed)) {
             fputs(text->c_str(), stdout);
             return kAllWell;
         }
-        run(std::get<RunArguments>(parsed));
-    } catch (const NotStarted& failure) {
+        launch::run(std::get<launch::Arguments>(parsed));
+    } catch (const launch::NotStarted& failure) {
         return report(failure.line, failure.status);
-    } catch (const Failure& failure) {
+    } catch (const command::Failure& failure) {
         return report(failure.line, kNothingDone);
     } catch (const std::exception& failure) {
         return report(failure.what(), kNothingDone);

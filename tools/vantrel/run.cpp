@@ -14,6 +14,8 @@
 
 namespace fs = std::filesystem;
 
+namespace launch {
+
 namespace {
 
 constexpr int kNotStarted = 126;
@@ -38,7 +40,7 @@ void check_is_file(const std::string& name) {
 }
 
 fs::path find_program(const std::string& name) {
-    if (auto file = find_on_path(name)) {
+    if (auto file = command::find_on_path(name)) {
         return *std::move(file);
     }
     if (name.find('/') == std::string::npos) {
@@ -53,7 +55,7 @@ fs::path find_program(const std::string& name) {
 
 fs::path java_for_jar(const std::string& jar) {
     check_is_file(jar);
-    const auto home = find_java_home();
+    const auto home = command::find_java_home();
     if (!home) {
         throw NotStarted{"there is no Java for " + jar + ": no JAVA_HOME, and no java on the path", kNotFound};
     }
@@ -64,7 +66,7 @@ fs::path java_for_jar(const std::string& jar) {
 // one.
 bool is_java(const fs::path& program) {
     const fs::path file = fs::canonical(program);
-    return file.filename() == "java" && find_vm_library(file.parent_path().parent_path());
+    return file.filename() == "java" && command::find_vm_library(file.parent_path().parent_path());
 }
 
 [[noreturn]] void become(const fs::path& program, const Words& words) {
@@ -81,7 +83,7 @@ bool is_java(const fs::path& program) {
 
 }  // namespace
 
-void run(const RunArguments& arguments) {
+void run(const Arguments& arguments) {
     const std::string& name = arguments.program.front();
     Words words = arguments.program;
     fs::path program;
@@ -112,3 +114,5 @@ void run(const RunArguments& arguments) {
     }
     become(program, words);
 }
+
+}  // namespace launch

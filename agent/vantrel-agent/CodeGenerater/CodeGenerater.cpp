@@ -1,123 +1,63 @@
-// From a class in the VM to its records, and the way through all of the generator.
+// The exported functions that make records and files: a shell around generator.h that speaks of texts of the heap, puts
+// what fits into records, and ends the process where a descriptor cannot be read.
 #include "CodeGenerater.h"
 
-#include <cstdio>
 #include <cstring>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "assertion.h"
-#include "entities.h"
+#include "descriptors.h"
 #include "fitting.h"
+#include "generator.h"
 #include "jvmti_memory.h"
-#include "names.h"
-#include "overloads.h"
+#include "records.h"
 #include "reports.h"
-#include "writers.h"
+#include "source_file.h"
 
+using generator::Argument;
 using generator::copy_fitting;
+using generator::Field;
 using generator::FieldPointer;
-using generator::JvmtiArray;
+using generator::Method;
 using generator::MethodPointer;
+using generator::Proxy;
 using generator::report;
-using generator::report_left_out;
+using std::string_view;
 
 namespace {
 
-// The name and descriptor of a member.
-struct MemberText {
-    JvmtiArray<char> name;
-    JvmtiArray<char> descriptor;
-};
-
-MemberText text_of(jvmtiEnv* jvmti, jclass clazz, jfieldID field) {
-    char* name = nullptr;
-    char* descriptor = nullptr;
-    char* generic = nullptr;
-    jvmti->GetFieldName(clazz, field, &name, &descriptor, &generic);
-    const JvmtiArray<char> unused(generic, {jvmti});
-    return {{name, {jvmti}}, {descriptor, {jvmti}}};
+generator::Filter filter_of(EntityFilter filter) {
+    return [filter](string_view class_name, string_view name, int modifiers) {
+        return filter == nullptr || filter(std::string(class_name).data(), std::string(name).data(), modifiers) != 0;
+    };
 }
 
-MemberText text_of(jvmtiEnv* jvmti, jmethodID method) {
-    char* name = nullptr;
-    char* descriptor = nullptr;
-    char* generic = nullptr;
-    jvmti->GetMethodName(method, &name, &descriptor, &generic);
-    const JvmtiArray<char> unused(generic, {jvmti});
-    return {{name, {jvmti}}, {descriptor, {jvmti}}};
-}
-
-// Whether JVMTI gave both texts; a member without is not there any more.
-bool is_known(const MemberText& text) {
-    return text.name != nullptr && text.descriptor != nullptr;
-}
-
-bool is_wanted(EntityFilter filter, char* class_name, const MemberText& text, int modifiers) {
-    return filter == nullptr || filter(class_name, text.name.get(), modifiers) != 0;
-}
-
-constexpr const char* kTooLong = "its name or descriptor is too long";
-
-struct TypeWords {
-    char descriptor;
-    std::string_view jni_type;
-    std::string_view word;
-};
-
-constexpr TypeWords kResultTypes[] = {
-    {'B', "jbyte", "Byte"}, {'C', "jchar", "Char"},       {'D', "jdouble", "Double"}, {'F', "jfloat", "Float"},
-    {'I', "jint", "Int"},   {'J', "jlong", "Long"},       {'L', "jobject", "Object"}, {'S', "jshort", "Short"},
-    {'V', "void", "Void"},  {'Z', "jboolean", "Boolean"},
-};
-
-// Of arguments. An object's word is the simple name of its class; a short's is none that a class could have, too.
-constexpr TypeWords kArgumentTypes[] = {
-    {'B', "jbyte", "Byte"},   {'C', "jchar", "Char"},      {'D', "jdouble", "Double"},
-    {'F', "jfloat", "Float"}, {'I', "jint", "Int"},        {'J', "jlong", "Long"},
-    {'L', "jobject", ""},     {'S', "jshort", "shortVal"}, {'Z', "jboolean", "Boolean"},
-};
-
-template <size_t Count>
-const TypeWords* find_words(const TypeWords (&table)[Count], char descriptor) {
-    for (const TypeWords& words : table) {
-        if (words.descriptor == descriptor) {
-            return &words;
-        }
-    }
-    return nullptr;
-}
-
-// The position behind the dimensions of an array.
-const char* read_dimensions(const char* descriptor, int* is_array, int* array_dims) {
-    const char* element = descriptor + strspn(descriptor, "[");
-    *array_dims = static_cast<int>(element - descriptor);
-    *is_array = *array_dims > 0 ? 1 : 0;
-    return element;
-}
-
-void copy_whole(char* to, std::string_view text) {
+void copy_whole(char* to, string_view text) {
     memcpy(to, text.data(), text.size());
     to[text.size()] = '\0';
 }
 
-// Whether the parameter list and each of its parameters fit what the wrapper's declaration has room for.
-bool parameters_fit(const MethodEntity& method) {
-    constexpr size_t one_size = 128;
-    constexpr size_t all_size = 512;
-    size_t all = 0;
-    for (int i = 0; i < method.argu_count; ++i) {
-        const ArgumentEntity& argument = *method.argus[i];
-        const int one = snprintf(nullptr, 0, ", %s%s %s%d", argument.type_name, argument.is_array != 0 ? "Array" : "",
-                                 argument.argu_name, i);
-        if (one < 0 || static_cast<size_t>(one) >= one_size) {
-            return false;
-        }
-        all += static_cast<size_t>(one);
-    }
-    return all < all_size;
+// "java/awt/Component" of "Ljava/awt/Component;".
+string_view internal_name_of(string_view signature) {
+    signature.remove_prefix(signature.starts_with('L') ? 1 : 0);
+    signature.remove_suffix(signature.ends_with(';') ? 1 : 0);
+    return signature;
+}
+
+// The accepted members of a class, by way of the records, so that it has what fits them.
+Proxy read_by_records(jvmtiEnv* jvmti, jclass clazz, char* class_name, string_view internal_name) {
+    FieldEntity** fields = nullptr;
+    MethodEntity** methods = nullptr;
+    int field_count = 0;
+    int method_count = 0;
+    GetFieldEntities(jvmti, clazz, class_name, &fields, &field_count, CanAcceptField);
+    GetMethodEntities(jvmti, clazz, class_name, &method_count, &methods, CanAcceptMethod);
+    Proxy proxy = generator::proxy_of(class_name, internal_name, methods, method_count, fields, field_count);
+    FreeFieldEntities(fields, field_count);
+    FreeMethodEntiry(methods, method_count);
+    return proxy;
 }
 
 }  // namespace
@@ -128,106 +68,83 @@ bool parameters_fit(const MethodEntity& method) {
 #endif
 
 char* GetTypeInformation(const char* descriptor, int* is_array, int* array_dims, char* jni_type, char* call_type) {
-    const TypeWords* words = find_words(kResultTypes, *read_dimensions(descriptor, is_array, array_dims));
-    if (words == nullptr) {
+    const generator::Type type = generator::read_type(descriptor);
+    *array_dims = type.dimensions;
+    *is_array = type.dimensions > 0 ? 1 : 0;
+    if (type.name.empty()) {
         assert(FALSE);
     }
-    copy_whole(jni_type, words->jni_type);
-    copy_whole(call_type, *is_array != 0 ? "Object" : words->word);
+    copy_whole(jni_type, type.name);
+    copy_whole(call_type, type.word);
     return jni_type;
 }
 
 void GetFieldEntities(jvmtiEnv* jvmti, jclass clazz, char* class_name, FieldEntity*** fields, int* count,
                       EntityFilter filter) {
-    jint found = 0;
-    jfieldID* ids = nullptr;
-    jvmti->GetClassFields(clazz, &found, &ids);
-    const JvmtiArray<jfieldID> given(ids, {jvmti});
-    std::vector<FieldPointer> entities;
-    for (jint i = 0; i < found; ++i) {
-        jint modifiers = 0;
-        jvmti->GetFieldModifiers(clazz, ids[i], &modifiers);
-        const MemberText text = text_of(jvmti, clazz, ids[i]);
-        if (!is_known(text) || !is_wanted(filter, class_name, text, modifiers)) {
-            continue;
-        }
-        auto field = std::make_unique<FieldEntity>();
-        field->modifiers = modifiers;
-        if (!copy_fitting(field->name, text.name.get()) || !copy_fitting(field->signature, text.descriptor.get())) {
-            report_left_out(class_name, text.name.get(), text.descriptor.get(), kTooLong);
-            continue;
-        }
-        GetTypeInformation(field->signature, &field->is_array, &field->array_dims, field->type_name, field->call_type);
-        entities.push_back(std::move(field));
+    std::vector<Field> found = generator::read_fields(jvmti, clazz, class_name, filter_of(filter));
+    generator::leave_out_unfitting(class_name, found);
+    std::vector<FieldPointer> records;
+    for (const Field& field : found) {
+        FieldEntity& record = *records.emplace_back(std::make_unique<FieldEntity>());
+        copy_fitting(record.name, field.name);
+        copy_fitting(record.signature, field.descriptor);
+        record.modifiers = field.modifiers;
+        GetTypeInformation(record.signature, &record.is_array, &record.array_dims, record.type_name, record.call_type);
     }
-    *count = static_cast<int>(entities.size());
-    *fields = generator::release_all(entities);
+    *count = static_cast<int>(records.size());
+    *fields = generator::release_all(records);
 }
 
 void GetMethodEntities(jvmtiEnv* jvmti, jclass clazz, char* class_name, int* count, MethodEntity*** methods,
                        EntityFilter filter) {
-    jint found = 0;
-    jmethodID* ids = nullptr;
-    jvmti->GetClassMethods(clazz, &found, &ids);
-    const JvmtiArray<jmethodID> given(ids, {jvmti});
-    std::vector<MethodPointer> entities;
-    for (jint i = 0; i < found; ++i) {
-        jint modifiers = 0;
-        jvmti->GetMethodModifiers(ids[i], &modifiers);
-        const MemberText text = text_of(jvmti, ids[i]);
-        if (!is_known(text) || !is_wanted(filter, class_name, text, modifiers)) {
-            continue;
+    std::vector<Method> found = generator::read_methods(jvmti, clazz, class_name, filter_of(filter));
+    generator::leave_out_unfitting(class_name, found);
+    generator::rename_overloads(class_name, found);
+    generator::leave_out_long_wrappers(class_name, found);
+    std::vector<MethodPointer> records;
+    for (const Method& method : found) {
+        MethodEntity& record = *records.emplace_back(generator::new_method());
+        copy_fitting(record.name, method.name);
+        copy_fitting(record.func_name, method.wrapper);
+        copy_fitting(record.signature, method.descriptor);
+        record.modifiers = method.modifiers;
+        record.is_constructor = method.is_constructor ? 1 : 0;
+        record.is_void = method.is_void ? 1 : 0;
+        const std::string result(generator::result_of(method.descriptor));
+        GetTypeInformation(result.c_str(), &record.is_array, &record.array_dims, record.return_type, record.call_type);
+        if (method.is_constructor) {
+            copy_fitting(record.return_type, method.result.name);
         }
-        MethodPointer method = generator::new_method();
-        method->modifiers = modifiers;
-        method->is_constructor = strcmp(text.name.get(), "<init>") == 0 ? 1 : 0;
-        const char* name = method->is_constructor != 0 ? class_name : text.name.get();
-        if (!copy_fitting(method->name, name) || !copy_fitting(method->func_name, name) ||
-            !copy_fitting(method->signature, text.descriptor.get())) {
-            report_left_out(class_name, text.name.get(), text.descriptor.get(), kTooLong);
-            continue;
-        }
-
-        const char* end = strrchr(method->signature, ')');
-        GetTypeInformation(end != nullptr ? end + 1 : "", &method->is_array, &method->array_dims, method->return_type,
-                           method->call_type);
-        method->is_void = strcmp(method->return_type, "void") == 0 ? 1 : 0;
-        if (method->is_constructor != 0) {
-            copy_fitting(method->return_type, "jobject");
-            method->is_void = 0;
-        }
-
-        // The assertions below name this function, so the arguments are read here.
-        const char* str = method->signature + (method->signature[0] == '(' ? 1 : 0);
-        while (str < end && method->argu_count < kMaxArguments) {
-            auto* arg = new ArgumentEntity{};
-            method->argus[method->argu_count++] = arg;
-            str = read_dimensions(str, &arg->is_array, &arg->array_dims);
-            const TypeWords* words = find_words(kArgumentTypes, *str);
-            if (words == nullptr) {
+        // Callers know these two assertions by this function's name and by their texts, so both stand here.
+        for (const Argument& argument : method.arguments) {
+            if (argument.type.empty()) {
                 assert(FALSE);
             }
-            copy_fitting(arg->type_name, words->jni_type);
-            copy_fitting(arg->argu_name, words->word);
-            if (*str == 'L') {
-                // clang-format off
-                assert(GetSimpleArgumentName(str, arg->argu_name, sizeof(arg->argu_name)));
-                // clang-format on
-                str += strcspn(str, ";)");
+            auto* arg = new ArgumentEntity{};
+            record.argus[record.argu_count++] = arg;
+            copy_fitting(arg->type_name, argument.type);
+            arg->array_dims = argument.dimensions;
+            arg->is_array = argument.dimensions > 0 ? 1 : 0;
+            if (argument.type != "jobject") {
+                copy_fitting(arg->argu_name, argument.word);
+                continue;
             }
-            ++str;
-        }
-        if (str < end) {
-            report_left_out(class_name, text.name.get(), text.descriptor.get(), "it has more than 36 arguments");
-        } else if (!parameters_fit(*method)) {
-            report_left_out(class_name, text.name.get(), text.descriptor.get(), "its parameter list is too long");
-        } else {
-            entities.push_back(std::move(method));
+            const char* str = argument.descriptor.c_str();
+            // clang-format off
+            assert(GetSimpleArgumentName(str, arg->argu_name, sizeof(arg->argu_name)));
+            // clang-format on
         }
     }
-    generator::rename_overloads(class_name, entities);
-    *count = static_cast<int>(entities.size());
-    *methods = generator::release_all(entities);
+    *count = static_cast<int>(records.size());
+    *methods = generator::release_all(records);
+}
+
+int IsMethodEntityFuncNameExists(MethodEntity** methods, int count, MethodEntity* entity) {
+    const bool found = std::any_of(methods, methods + count, [&](const MethodEntity* other) {
+        return other != entity && other->argu_count == entity->argu_count &&
+               strcmp(other->func_name, entity->func_name) == 0;
+    });
+    return found ? 1 : 0;
 }
 
 bool GenerateFiles(jvmtiEnv* jvmti, JNIEnv* env, char* name) {
@@ -240,17 +157,15 @@ bool GenerateFiles(jvmtiEnv* jvmti, JNIEnv* env, char* name, char* directory) {
     assert(clazz);
     char* signature = nullptr;
     jvmti->GetClassSignature(clazz, &signature, nullptr);
-    const JvmtiArray<char> given(signature, {jvmti});
+    const generator::JvmtiArray<char> given(signature, {jvmti});
     if (signature == nullptr) {
         return report(std::string("the VM does not give the signature of ") + name);
     }
     const std::string nothing_written = std::string("nothing written for ") + name + ": ";
-    const char* slash = strrchr(name, '/');
-    if (strlen(slash != nullptr ? slash + 1 : name) >= kClassNameSize) {
+    char class_name[kClassNameSize];
+    if (!copy_fitting(class_name, generator::simple_name(name))) {
         return report(nothing_written + "its name is too long");
     }
-    char class_name[kClassNameSize] = {};
-    GetClassName(class_name, name);
     char header_path[kFilePathSize];
     char body_path[kFilePathSize];
     GetHeaderFileName(header_path, directory, class_name);
@@ -258,8 +173,20 @@ bool GenerateFiles(jvmtiEnv* jvmti, JNIEnv* env, char* name, char* directory) {
     if (header_path[0] == '\0' || body_path[0] == '\0') {
         return report(nothing_written + "the path of its files is too long");
     }
+    const Proxy proxy = read_by_records(jvmti, clazz, class_name, internal_name_of(signature));
+    return report(generator::write_proxy(proxy, header_path, body_path));
+}
 
-    generator::cut_to_internal_name(signature);
-    return report(generator::write_proxy(header_path, body_path, signature,
-                                         generator::AcceptedEntities(jvmti, clazz, class_name).all));
+bool WriteHeaderFile(char* path, char* class_name, MethodEntity** methods, int method_count, FieldEntity** fields,
+                     int field_count) {
+    const Proxy proxy = generator::proxy_of(class_name, "", methods, method_count, fields, field_count);
+    return report(generator::write_source_files({{path, generator::header_text(proxy)}}));
+}
+
+bool WriteCPPFile(char* class_signature, char* path, char* class_name, MethodEntity** methods, int method_count,
+                  FieldEntity** fields, int field_count) {
+    const std::string internal_name(internal_name_of(class_signature));
+    strcpy(class_signature, internal_name.c_str());  // NOLINT: what is left of a text fits where that was
+    const Proxy proxy = generator::proxy_of(class_name, internal_name, methods, method_count, fields, field_count);
+    return report(generator::write_source_files({{path, generator::body_text(proxy)}}));
 }

@@ -21,11 +21,6 @@
 #include <jni.h>
 #include <jvmti.h>
 
-// Java's access flags, as far as the generator looks at them.
-constexpr int kPrivate = 0x0002;
-constexpr int kProtected = 0x0004;
-constexpr int kStatic = 0x0008;
-
 constexpr int kMaxArguments = 36;
 constexpr unsigned long kClassNameSize = 64;  // of a class's simple name, and of its header macro
 constexpr unsigned long kFilePathSize = 1024;

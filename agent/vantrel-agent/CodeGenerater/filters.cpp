@@ -4,19 +4,18 @@
 #include <string_view>
 
 #include "CodeGenerater.h"
+#include "generator.h"
 
 using std::string_view;
 
-int CanAcceptMethod(char* class_name, char* name, int modifiers) {
-    const string_view method = name;
-    const bool compilers_own = method.starts_with("access$") || method == "<clinit>";
+bool generator::is_method_of_proxy(string_view class_name, string_view name, int modifiers) {
+    const bool compilers_own = name.starts_with("access$") || name == "<clinit>";
     // Container's protected methods are where components are added and laid out.
-    const bool hidden =
-        (modifiers & kPrivate) != 0 || ((modifiers & kProtected) != 0 && string_view(class_name) != "Container");
-    return !compilers_own && !hidden ? 1 : 0;
+    const bool hidden = (modifiers & kPrivate) != 0 || ((modifiers & kProtected) != 0 && class_name != "Container");
+    return !compilers_own && !hidden;
 }
 
-int CanAcceptField(char* class_name, char* name, int modifiers) {
+bool generator::is_field_of_proxy(string_view class_name, string_view name, int modifiers) {
     // Not in every VM, or of no use outside it.
     static constexpr string_view kFields[] = {"eventCache", "nativeInLightFixer", "backgroundEraseDisabled",
                                               "serialVersionUID"};
@@ -25,5 +24,13 @@ int CanAcceptField(char* class_name, char* name, int modifiers) {
         return std::find(std::begin(list), std::end(list), text) != std::end(list);
     };
     const bool hidden = (modifiers & (kPrivate | kProtected)) != 0;
-    return !hidden && !is_in(kFields, name) && !is_in(kClasses, class_name) ? 1 : 0;
+    return !hidden && !is_in(kFields, name) && !is_in(kClasses, class_name);
+}
+
+int CanAcceptMethod(char* class_name, char* name, int modifiers) {
+    return generator::is_method_of_proxy(class_name, name, modifiers) ? 1 : 0;
+}
+
+int CanAcceptField(char* class_name, char* name, int modifiers) {
+    return generator::is_field_of_proxy(class_name, name, modifiers) ? 1 : 0;
 }

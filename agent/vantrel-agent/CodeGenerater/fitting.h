@@ -1,4 +1,4 @@
-// Texts in the records' fixed-size arrays: what fits goes in.
+// Texts in the records' fixed-size arrays.
 #ifndef VANTREL_FITTING_H
 #define VANTREL_FITTING_H
 

@@ -1,6 +1,4 @@
-// The names that the generator makes: of classes, header macros and files.
-#include "names.h"
-
+// The exported functions that make names: of classes, header macros and files.
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
@@ -8,6 +6,7 @@
 #include <string_view>
 
 #include "CodeGenerater.h"
+#include "generator.h"
 
 namespace {
 
@@ -38,12 +37,12 @@ void format_path(char* path, const char* directory, const char* name, const char
 
 }  // namespace
 
-void generator::cut_to_internal_name(char* signature) {
-    const std::string_view all = signature;
-    const size_t begin = all.starts_with('L') ? 1 : 0;
-    const size_t end = all.ends_with(';') ? all.size() - 1 : all.size();
-    memmove(signature, signature + begin, end - begin);
-    signature[end - begin] = '\0';
+std::string generator::header_macro(std::string_view class_name) {
+    std::string macro(class_name);
+    // Not toupper: the locale has no say in a macro's name.
+    std::transform(macro.begin(), macro.end(), macro.begin(),
+                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+    return macro;
 }
 
 int GetSimpleName(const char* descriptor, char* name, unsigned long size) {
@@ -66,9 +65,7 @@ int GetSimpleArgumentName(const char* descriptor, char* name, unsigned long size
 }
 
 char* GetClassName(char* out, char* internal_name) {
-    const char* slash = strrchr(internal_name, '/');
-    const char* found = slash != nullptr ? slash + 1 : internal_name;
-    memcpy(out + strlen(out), found, strlen(found) + 1);
+    strcat(out, generator::simple_name(internal_name).data());  // NOLINT: the caller knows that there is room
     return out;
 }
 
@@ -77,10 +74,7 @@ char* CopyOf(const char* text) {
 }
 
 void GetHeaderMacro(char* macro, char* name) {
-    // Not toupper: the locale has no say in a macro's name.
-    char* end = std::transform(name, name + strlen(name), macro + strlen(macro),
-                               [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-    *end = '\0';
+    strcat(macro, generator::header_macro(name).c_str());  // NOLINT: the caller knows that there is room
 }
 
 void GetHeaderFileName(char* path, char* directory, char* name) {

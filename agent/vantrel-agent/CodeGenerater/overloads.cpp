@@ -1,61 +1,42 @@
-#include "overloads.h"
-
+// Names for the wrappers of overloaded methods.
 #include <algorithm>
-#include <cstring>
-#include <string>
 #include <string_view>
 
-#include "fitting.h"
-#include "reports.h"
+#include "generator.h"
 
+using generator::Method;
 using std::string_view;
 
 namespace {
 
-bool collides(const MethodEntity& method, const MethodEntity& other) {
-    return &other != &method && other.argu_count == method.argu_count && strcmp(other.func_name, method.func_name) == 0;
+bool collide(const Method& method, const Method& other) {
+    return &other != &method && other.arguments.size() == method.arguments.size() && other.wrapper == method.wrapper;
 }
 
-std::string name_with_arguments(const MethodEntity& method) {
-    std::string name = std::string(method.name) + "With";
-    for (int i = 0; i < method.argu_count; ++i) {
-        name += method.argus[i]->argu_name;
+std::string name_with_arguments(const Method& method) {
+    std::string name = method.name + "With";
+    for (const generator::Argument& argument : method.arguments) {
+        name += argument.word;
     }
     return name;
 }
 
-// Two static methods have an instance method of the same name and arguments but one, which C++ takes for the same as
-// the instance method's wrapper has its object in front.
-void rename_special_case(string_view class_name, MethodEntity& method) {
-    if ((method.modifiers & kStatic) == 0) {
-        return;
-    }
-    const string_view name = method.func_name;
-    if (class_name == "Component" && name == "getContainingWindow") {
-        generator::copy_fitting(method.func_name, "staticGetContainingWindow");
-    } else if (class_name == "JComponent" && name == "computeVisibleRect") {
-        generator::copy_fitting(method.func_name, "staticComputeVisibleRect");
-    }
+// Two classes have a static method beside an instance method of the same name, which has one argument less. To C++ both
+// wrappers have the same parameters, for the instance method's has its object in front.
+bool is_special_case(string_view class_name, const Method& method) {
+    return generator::is_static(method) && ((class_name == "Component" && method.wrapper == "getContainingWindow") ||
+                                            (class_name == "JComponent" && method.wrapper == "computeVisibleRect"));
 }
 
 }  // namespace
 
-int IsMethodEntityFuncNameExists(MethodEntity** methods, int count, MethodEntity* entity) {
-    return std::any_of(methods, methods + count, [&](MethodEntity* other) { return collides(*entity, *other); }) ? 1
-                                                                                                                 : 0;
-}
-
-void generator::rename_overloads(const char* class_name, std::vector<MethodPointer>& methods) {
-    for (size_t i = 0; i < methods.size();) {
-        MethodEntity& method = *methods[i];
-        const bool found = std::any_of(methods.begin(), methods.end(),
-                                       [&](const MethodPointer& other) { return collides(method, *other); });
-        if (found && !copy_fitting(method.func_name, name_with_arguments(method))) {
-            report_left_out(class_name, method.name, method.signature, "the name of its wrapper is too long");
-            methods.erase(methods.begin() + static_cast<std::ptrdiff_t>(i));
-            continue;
+void generator::rename_overloads(string_view class_name, std::vector<Method>& methods) {
+    for (Method& method : methods) {
+        if (std::any_of(methods.begin(), methods.end(), [&](const Method& other) { return collide(method, other); })) {
+            method.wrapper = name_with_arguments(method);
         }
-        rename_special_case(class_name, method);
-        ++i;
+        if (is_special_case(class_name, method)) {
+            method.wrapper = class_name == "Component" ? "staticGetContainingWindow" : "staticComputeVisibleRect";
+        }
     }
 }

@@ -1,4 +1,4 @@
-// What the generator says on stderr.
+// What the exported functions say on stderr.
 #ifndef VANTREL_REPORTS_H
 #define VANTREL_REPORTS_H
 
@@ -13,12 +13,6 @@ inline bool report(const std::string& fault) {
         fprintf(stderr, "CodeGenerater: %s\n", fault.c_str());
     }
     return fault.empty();
-}
-
-// Says that the generator goes on without a member.
-inline void report_left_out(const std::string& class_name, const char* member, const char* descriptor,
-                            const char* reason) {
-    report("left out " + class_name + "." + member + " " + descriptor + ": " + reason);
 }
 
 }  // namespace generator

@@ -37,8 +37,8 @@ struct Agent {
     Standing standing;
 };
 
-// Requests are sent for all windows before the first answer is waited for: each function below costs one round trip,
-// however many windows there are.
+// A function below that asks about many windows first sends all its requests and then reads all the answers, so that it
+// waits for the server once and not once for each window.
 
 xcb_intern_atom_cookie_t ask_for_atom(xcb_connection_t* connection, std::string_view name) {
     return xcb_intern_atom(connection, 0, static_cast<uint16_t>(name.size()), name.data());
@@ -82,7 +82,7 @@ std::string own_machine() {
     return name;
 }
 
-// Reads what windows say of themselves, and drops those that are no agents with our hot key.
+// Reads the agents' properties of windows, and drops the windows that are not those of agents with our hot key.
 void read_agents(const Agents& agents, std::vector<Agent>& windows) {
     std::vector<xcb_get_property_cookie_t> requests;
     requests.reserve(windows.size());
@@ -121,7 +121,7 @@ std::vector<Agent> all_agents(const Agents& agents) {
     return windows;
 }
 
-// Fills in what all_agents leaves out.
+// Adds the machine and the time of asking, which all_agents leaves out.
 void add_details(const Agents& agents, std::vector<Agent>& found) {
     xcb_connection_t* x = agents.connection;
     std::vector<xcb_get_property_cookie_t> machines;
@@ -137,7 +137,7 @@ void add_details(const Agents& agents, std::vector<Agent>& found) {
     }
 }
 
-// The window that has the focus or, while none has it and keys go to where the pointer is, the innermost one there.
+// The window that has the focus. Where the focus follows the pointer, that is the innermost window under the pointer.
 xcb_window_t focused_window(xcb_connection_t* x) {
     const Owned<xcb_get_input_focus_reply_t> focus(xcb_get_input_focus_reply(x, xcb_get_input_focus(x), NULL));
     if (!focus || focus->focus == XCB_INPUT_FOCUS_NONE) {
@@ -162,12 +162,13 @@ xcb_window_t focused_window(xcb_connection_t* x) {
     return XCB_NONE;
 }
 
-// The process that a window or the next window around it names (_NET_WM_PID and WM_CLIENT_MACHINE).
+// The process that a window belongs to, as _NET_WM_PID and WM_CLIENT_MACHINE say.
 struct Owner {
     uint32_t pid;
     std::string machine;
 };
 
+// Asks the window and then, while there is no answer, the windows around it. Process 0 if none of them says.
 Owner owner_of(const Agents& agents, xcb_window_t window) {
     xcb_connection_t* x = agents.connection;
     while (window != XCB_NONE) {
@@ -242,7 +243,7 @@ Standing look_at_others(const Agents& agents) {
         const uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
         xcb_change_window_attributes(agents.connection, agent.window, XCB_CW_EVENT_MASK, &events);
     }
-    // What was read before the server began to tell us may have changed since.
+    // Read again: what has changed before the server took the request above, it has sent no event about.
     read_agents(agents, others);
     const auto one_stands = [&](Standing standing) {
         return std::any_of(others.begin(), others.end(),

@@ -1,6 +1,6 @@
-// A connection of our own to an X server, by XCB, and what every file in this folder needs of it. Never Xlib: its error
-// handler is the process's only one and belongs to the AWT. The rules that these files follow are those of the X Window
-// System Protocol, version 11.
+// A connection of our own to an X server, and what every file in this folder needs of it. It is made by XCB and not by
+// Xlib, because Xlib has one error handler for the whole process, and that is the AWT's. The rules that these files
+// follow are those of the X Window System Protocol, version 11.
 #ifndef VANTREL_X11_CONNECTION_H
 #define VANTREL_X11_CONNECTION_H
 
@@ -13,7 +13,7 @@
 
 namespace x11 {
 
-// A reply, error or event: XCB allocates it with malloc, and its receiver frees it.
+// A reply, an error or an event. XCB allocates them with malloc, and whoever gets one from XCB frees it.
 struct Free {
     void operator()(void* block) const { free(block); }
 };
@@ -25,13 +25,14 @@ struct Disconnect {
 };
 using Connection = std::unique_ptr<xcb_connection_t, Disconnect>;
 
-// What kind of event this is, whether the server has sent it by itself or for another client.
+// What kind of event this is, without the mark of an event that another client has sent.
 inline uint8_t kind_of(const xcb_generic_event_t& event) {
     constexpr uint8_t kSentByAClient = 0x80;
     return event.response_type & static_cast<uint8_t>(~kSentByAClient);
 }
 
-// A connection to a display, the one that DISPLAY names for NULL. Null where the display cannot be reached or refuses.
+// Connects to a display, or to the one that DISPLAY names if `display` is NULL. The result is null if there is no such
+// display, or if it refuses.
 inline Connection connect(const char* display) {
     Connection connection(xcb_connect(display, NULL));
     if (xcb_connection_has_error(connection.get()) != 0) {
@@ -54,7 +55,7 @@ inline std::vector<xcb_keycode_t> keys_of_modifier(const xcb_get_modifier_mappin
     const size_t width = map.keycodes_per_modifier;
     const xcb_keycode_t* row = xcb_get_modifier_mapping_keycodes(&map) + modifier * width;
     std::vector<xcb_keycode_t> keys(row, row + width);
-    std::erase(keys, 0);  // fills rows up
+    std::erase(keys, 0);  // a row with fewer keys than the longest one is filled up with zeros
     return keys;
 }
 

@@ -35,7 +35,7 @@ std::optional<Keyboard> ask_for_keyboard(xcb_connection_t* connection) {
     return keyboard;
 }
 
-// What a key makes, the first one when it is pressed alone.
+// The keysyms that a key makes: the first one when it is pressed alone, the others with modifiers.
 std::span<const xcb_keysym_t> keysyms_of(const Keyboard& keyboard, xcb_keycode_t key) {
     const size_t width = keyboard.keysyms->keysyms_per_keycode;
     return {xcb_get_keyboard_mapping_keysyms(keyboard.keysyms.get()) + (key - keyboard.first) * width, width};
@@ -72,15 +72,16 @@ std::optional<uint16_t> modifiers_of(const Keyboard& keyboard, const HotKey& hot
             if (bits == 0) {
                 return std::nullopt;
             }
-            // Where several do, one is enough, and the lowest is the usual one.
+            // If several modifiers have such a key, one of them is enough, and the lowest one is the usual one.
             mask |= bits & -static_cast<unsigned>(bits);
         }
     }
     return static_cast<uint16_t>(mask);
 }
 
-// The hot key with every key that makes it, and with every combination of the modifiers that lock keys set: a grab
-// holds for exactly the modifiers that it names. Empty where no key makes it.
+// All combinations that are the hot key: every key that makes it, with its modifiers and any of Caps Lock, Num Lock and
+// Scroll Lock. They are needed one by one, because a grab is for exactly the modifiers that it names. Empty if no key
+// makes the hot key.
 std::vector<Combination> combinations_of(const Keyboard& keyboard, const HotKey& hot_key) {
     const std::optional<uint16_t> modifiers = modifiers_of(keyboard, hot_key);
     if (!modifiers) {
@@ -104,8 +105,9 @@ std::vector<Combination> combinations_of(const Keyboard& keyboard, const HotKey&
     return combinations;
 }
 
-// What follows asks for the combinations in one order and gives them back in the opposite one. The first of them is
-// thus a lock: of several agents that want the key at once, who gets it gets the others, too.
+// Several agents may ask for the same combinations at the same time. So that one of them gets all, each asks for the
+// combinations in the same order, and goes on only when it has got the first one; and each gives them back in the
+// opposite order, so that whoever gets the first one finds the others free.
 
 // Releases the first `count` of the combinations on a root.
 void release_first(const Grabs& grabs, xcb_window_t root, size_t count) {
@@ -132,7 +134,7 @@ bool is_granted(const Grabs& grabs, xcb_void_cookie_t request) {
     return Owned<xcb_generic_error_t>(xcb_request_check(grabs.connection, request)) == nullptr;
 }
 
-// Returns false, and holds nothing, where a part is refused.
+// Returns true if all are granted. If one of them is refused, gives the others back and returns false.
 bool grab_all(Grabs& grabs) {
     if (!is_granted(grabs, request(grabs, grabs.roots.front(), grabs.combinations.front()))) {
         grabs.combinations.clear();
@@ -174,7 +176,7 @@ Taking take(Grabs& grabs) {
 }
 
 bool is_hot_key(const Grabs& grabs, const xcb_key_press_event_t& event) {
-    // Behind the modifiers, `state` holds the pointer's buttons and the keyboard's group.
+    // The higher bits of `state` are the pointer's buttons and the keyboard's group.
     constexpr uint16_t kModifiers = 0xFF;
     const Combination pressed{event.detail, static_cast<uint16_t>(event.state & kModifiers)};
     return std::find(grabs.combinations.begin(), grabs.combinations.end(), pressed) != grabs.combinations.end();

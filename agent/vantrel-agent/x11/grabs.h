@@ -34,14 +34,15 @@ enum class Taking {
     no_answer,  // the server does not say what keys there are
 };
 
-// Takes what the server's tables of keys ask for now, in place of what `grabs` holds. Holds all that it asks for
-// afterwards, on every screen, or nothing.
+// Reads the server's tables of keys, and grabs the keys that are the hot key by them, on every screen, in place of
+// those that `grabs` holds so far. Afterwards it holds all of them or, if one is refused, none.
 Taking take(Grabs& grabs);
 
-// Whether a press is one that was grabbed for. While the hot key is held, all other keys come as well.
+// Whether a press is one of the hot key. While the hot key is held down, the server sends us the presses of all other
+// keys, too.
 bool is_hot_key(const Grabs& grabs, const xcb_key_press_event_t& event);
 
-// Why there is no hot key, for a line on stderr: all but `taken`.
+// Why there is no hot key, for a line on stderr. Empty for `taken`.
 std::string reason(Taking outcome, const HotKey& hot_key);
 
 }  // namespace x11

@@ -29,9 +29,9 @@ uint8_t modifier_named(const std::string& name) {
     return 0;
 }
 
-// The table of names is Xlib's, which is there wherever the AWT can open a window. This one function of it knows no
-// display and no error handler; it is looked up here so that the agent loads where there is no Xlib. Xlib stays loaded,
-// for it keeps what it has read for the look-up.
+// The keysym of a name, by the table that Xlib has. Xlib is there wherever the AWT can open a window, but the agent
+// must also load where it is not, so the one function is looked up at run time; that function needs no display and
+// touches no error handler. Xlib is not unloaded again, because it keeps what it has read from its table.
 xcb_keysym_t keysym_named(const std::string& name) {
     void* xlib = dlopen("libX11.so.6", RTLD_LAZY | RTLD_LOCAL);
     if (xlib == NULL) {
@@ -40,12 +40,12 @@ xcb_keysym_t keysym_named(const std::string& name) {
     const auto find = reinterpret_cast<unsigned long (*)(const char*)>(dlsym(xlib, "XStringToKeysym"));
     auto keysym = static_cast<xcb_keysym_t>(find != NULL ? find(name.c_str()) : XCB_NO_SYMBOL);
     if (keysym >= XK_A && keysym <= XK_Z) {
-        keysym += XK_a - XK_A;  // a letter's key makes the small one when it is pressed alone
+        keysym += XK_a - XK_A;  // pressed alone, a letter's key makes the small letter
     }
     return keysym;
 }
 
-// No keysym where the text names no hot key.
+// The hot key that a text names; its keysym is XCB_NO_SYMBOL if the text names none.
 HotKey parse(std::string_view text) {
     HotKey key{XCB_NO_SYMBOL, 0, std::string(text)};
     for (size_t plus = text.find('+'); plus != std::string_view::npos; plus = text.find('+')) {

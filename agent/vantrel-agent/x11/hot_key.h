@@ -9,7 +9,8 @@
 
 namespace x11 {
 
-// Modifiers as people know them. Which bit of an event's state Alt, Meta and Super are is the keyboard's business.
+// Modifiers by the names of their keys. Which bits Alt, Meta and Super are in an event's state differs from keyboard to
+// keyboard; grabs.cpp finds them out.
 enum Modifier : uint8_t { kShift = 1, kControl = 2, kAlt = 4, kMeta = 8, kSuper = 16 };
 
 struct HotKey {
@@ -23,8 +24,8 @@ struct HotKey {
 HotKey default_hot_key();
 
 // The hot key that `text` names: modifiers (Shift, Control, Alt, Meta, Super, in any case; Ctrl is Control) and the
-// name of an X keysym, with '+' between them: "Control+Shift+F11". The default for NULL and for an empty text; the
-// default, too, with a line on stderr, for a text that names none.
+// name of an X keysym, with '+' between them: "Control+Shift+F11". For NULL and for an empty text it is the default.
+// For a text that names no key it is the default as well, and a line on stderr says so.
 HotKey hot_key_named(const char* text);
 
 }  // namespace x11

@@ -6,12 +6,14 @@
 
 namespace x11 {
 
-// Fed with the presses of the hot key and with all releases, in the order in which they come. While the hot key is held
-// the server sends every key to the client that has grabbed it: presses of those are not to be fed, for a key that is
-// pressed meanwhile says nothing about the hot key's own.
+// While a key is held, the server sends presses of it again and again; some servers send a release before each of them,
+// which then has the same time as the press. So a press repeats if the same key has not been released since its last
+// press, or if it was released at the very time of this press.
 //
-// Repeated presses follow upon the last press of the same key, or upon a release of it that has the very same time.
+// Give it the presses of the hot key and the releases of all keys, in the order in which they come. Presses of other
+// keys, which the server sends us while the hot key is held, are not for it.
 struct KeyRepeat {
+    // Whether a person has made this press.
     bool is_new_press(const xcb_key_press_event_t& event) {
         const bool repeats = event.detail == key && (down || event.time == released_at);
         key = event.detail;

@@ -18,19 +18,6 @@ const fs::path kFile = kSources / "scenario" / "MainFrame.java";
 const std::string kList = "vantrel.addedAt.list";
 const std::string kMessage = "vantrel.addedAt.message";
 
-// The number of the line that puts fields into the form; found in the source, so that it may move.
-int line_of_form() {
-    std::ifstream source(kFile);
-    std::string line;
-    for (int number = 1; std::getline(source, line); ++number) {
-        if (line.find("form.add(right,") != std::string::npos) {
-            return number;
-        }
-    }
-    ADD_FAILURE() << "the form adds no fields in " << kFile;
-    return 0;
-}
-
 std::string contents(const fs::path& file) {
     std::ostringstream text;
     text << std::ifstream(file).rdbuf();
@@ -39,7 +26,7 @@ std::string contents(const fs::path& file) {
 
 class AddedAt : public Scenario {
   protected:
-    const std::string number = std::to_string(line_of_form());
+    const std::string number = std::to_string(line_of("MainFrame.java", "form.add(right,"));
     const std::string line = "MainFrame.row(MainFrame.java:" + number + ")";
 
     // Has the field selected, and waits for its line to be there, marked.

@@ -90,6 +90,29 @@ class InspectorDetails : public Scenario {
 };
 INSTANTIATE_TEST_SUITE_P(OnJdk, InspectorDetails, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
 
+// The program's line beside the property that it has set, and on demand the whole stack.
+TEST_P(InspectorDetails, TellWhoHasSetAProperty) {
+    start();
+    open_inspector();
+    select("JLabel amount.label");
+    EXPECT_THAT(shown(), HasSubstr("text | "));
+    EXPECT_THAT(shown(), Not(HasSubstr("Commands.java:")));
+    ask("text amount.label Price");
+    const std::string line = "Commands.java:" + std::to_string(line_of("Commands.java", ".invoke(component"));
+    EXPECT_TRUE(shows("text | Price | " + line)) << shown();
+
+    // What is set here is not the program's doing.
+    find_property("text");
+    edit("Ours");
+    EXPECT_TRUE(shows("text | Ours | this window")) << shown();
+
+    ask("text amount.label Theirs");
+    EXPECT_TRUE(shows("text | Theirs | " + line)) << shown();
+    keys.press({XK_F4});
+    EXPECT_TRUE(shows("* Commands.call(" + line + ")", "vantrel.changes.stack.list"))
+        << shown("vantrel.changes.stack.list");
+}
+
 TEST_P(InspectorDetails, EditsAreSeenInTheProgramAndCanBeUndone) {
     start();
     open_inspector();
@@ -155,6 +178,29 @@ TEST_P(InspectorDetails, FollowTheProgramAndLeaveTheUserInPeace) {
     expect_focus("vantrel.properties");
     EXPECT_THAT(shown(), HasSubstr("* columns | 8 | "));
     EXPECT_THAT(ask("inspector-dump"), Not(HasSubstr("vantrel.complaint")));
+
+    // Rows are copied, numbers counted up, and line feeds kept.
+    keys.press({XK_Control_L, XK_c});
+    EXPECT_TRUE(eventually([&] { return ask("clipboard") == "8"; })) << ask("clipboard");
+    find_property("bounds");
+    const std::string bounds = shown().substr(shown().find("* bounds | ") + 11);
+    keys.press({XK_F2});
+    expect_focus("vantrel.value");
+    keys.press({XK_Home});
+    keys.press({XK_Up});
+    const std::string counted = std::to_string(std::stoi(bounds) + 1) + bounds.substr(bounds.find(','));
+    EXPECT_TRUE(eventually([&] { return counted.starts_with(ask("inspector vantrel.value")); }))
+        << ask("inspector vantrel.value");
+    keys.press({XK_Escape});
+    select("JTextArea notes");
+    find_property("longer");
+    keys.press({XK_F2});
+    expect_focus("vantrel.value");
+    keys.press({XK_End});
+    keys.type("!");
+    keys.press({XK_Return});
+    EXPECT_TRUE(shows("\"Notes that are longer than one line!\"", "vantrel.tree")) << "with its line feed";
+    select("JTextField amount");
 
     // The component goes while it is selected, has been changed, and can be changed back.
     find_property("border");

@@ -3,17 +3,20 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <set>
 
 #include "scenario.h"
 
 using std::chrono::milliseconds;
 using testing::Contains;
 using testing::HasSubstr;
+using testing::MatchesRegex;
 using testing::Not;
 
 namespace {
 
 const std::string kBox = "FC7E00";
+const std::string kLabel = "26282B";
 
 class Picking : public Scenario {
   protected:
@@ -22,7 +25,14 @@ class Picking : public Scenario {
         start(options);
         open_inspector();
         click(where("room"));
-        EXPECT_TRUE(eventually([this] { return ask("focus").find("inspector") == std::string::npos; }));
+        EXPECT_TRUE(program_gets_focus());
+    }
+    // Between two windows, nobody has it.
+    bool program_gets_focus() {
+        return eventually([this] {
+            const std::string focus = ask("focus");
+            return focus != "none" && focus.find("inspector") == std::string::npos;
+        });
     }
     void hold() { keys.down(XK_Control_L); }
     void let_go() { keys.up(XK_Control_L); }
@@ -39,6 +49,16 @@ class Picking : public Scenario {
         return lines_of(run({"convert", picture, "-depth", "8", "-format", format, "info:"}).out);
     }
     std::string colour_at(int across, int down) { return colours_at({{across, down}}).at(0); }
+
+    // The colours along the middle of the button that picks: no other place has the same.
+    std::vector<std::string> colours_of_button() {
+        const Place button = where("vantrel.pick");
+        std::vector<std::pair<int, int>> places;
+        for (int across = 4; across < button.width; across += 2) {
+            places.emplace_back(button.x + across, button.y + button.height / 2);
+        }
+        return colours_at(places);
+    }
 
     // A box one pixel wide, exactly on the bounds.
     void expect_box(const Place& place) {
@@ -103,6 +123,10 @@ TEST_P(Picking, DrawsABoxAndWalksByWheelAndArrows) {
     keys.press({XK_Up});
     keys.press({XK_Return});
     EXPECT_TRUE(selects("form")) << ask("selected");
+    const Place file = where("file");
+    point_at(file);
+    EXPECT_TRUE(eventually([&] { return colour_at(file.x + 2, file.y + file.height + 2) == kLabel; }))
+        << "below the box where there is no room above it";
     let_go();
     EXPECT_TRUE(eventually([&] { return colour_at(ok.x, ok.y) != kBox; }));
     EXPECT_EQ(ask("log"), "");
@@ -152,19 +176,101 @@ TEST_P(Picking, NeverDrawsOverTheInspector) {
                 Not(Contains(kBox)));
 }
 
+// A click brings a window to the front, whoever the click was for.
+TEST_P(Picking, InAProgramInFullScreenAndTheInspectorStaysInSight) {
+    start_picking();
+    const std::vector<std::string> button = colours_of_button();
+    EXPECT_GT(std::set(button.begin(), button.end()).size(), 2U);
+    const auto is_in_sight = [&] { return colours_of_button() == button; };
+    ask("fullscreen on");
+    ASSERT_TRUE(eventually([&] { return where("main").width > 1700; }));
+    const auto unseen = [&] {
+        click({100, 1050, 10, 10});
+        return program_gets_focus() && eventually([&] { return !is_in_sight(); });
+    };
+    EXPECT_TRUE(unseen()) << "the program lies over it";
+    take_picture("full-screen-1");
+    keys.press({XK_Control_L, XK_F12});
+    EXPECT_TRUE(eventually([&] { return is_in_sight(); })) << "the key brings it to the front";
+    take_picture("full-screen-2");
+    hold();
+    click(where("notes"));
+    EXPECT_TRUE(selects("notes")) << ask("selected");
+    let_go();
+    std::this_thread::sleep_for(milliseconds(1200));
+    EXPECT_TRUE(is_in_sight()) << "after picking";
+    take_picture("full-screen-3");
+    EXPECT_TRUE(unseen());
+    keys.press({XK_Control_L, XK_F12});
+    EXPECT_TRUE(eventually([&] { return is_in_sight(); }));
+    close_inspector();
+    ask("fullscreen off");
+}
+
 TEST_P(Picking, OfCells) {
     start_picking();
     hold();
     for (const auto& [owner, at] : {std::pair{"table", "table 1 1"}, {"tree", "tree 0"}, {"list", "list 2"}}) {
         SCOPED_TRACE(at);
         const Place place = cell(at);
+        // Only the cell is tinted, and not what lies below it.
+        const std::vector<std::pair<int, int>> inside = {{place.x + place.width - 3, place.y + 3}};
+        const std::vector<std::pair<int, int>> outside = {{place.x + place.width - 3, place.y + place.height + 3}};
+        const std::vector<std::string> plain = colours_at(inside);
+        const std::vector<std::string> beside = colours_at(outside);
         point_at(place);
         expect_box(place);
+        EXPECT_TRUE(eventually([&] { return colours_at(inside) != plain; })) << "the tint";
+        EXPECT_EQ(colours_at(outside), beside);
         take_picture("picking-" + std::string(owner));
         keys.click();
         EXPECT_TRUE(selects(owner)) << ask("selected");
     }
     let_go();
+}
+
+TEST_P(Picking, OfInternalFramesAndWhatIsInThem) {
+    start_picking();
+    ask("tab tabs 1");
+    ask("follow inner.button");
+    const Place inner = where("inner");
+    const Place button = where("inner.button");
+    const Place lower = where("lower.button");
+    ask("log");
+    hold();
+    for (const auto& [name, at] :
+         {std::pair{"inner.button", button}, {"lower.button", lower}, {"desktop", {inner.x - 5, inner.y, 2, 2}}}) {
+        SCOPED_TRACE(name);
+        click(at);
+        EXPECT_TRUE(selects(name)) << ask("selected");
+    }
+    // One lies over the other there, and the lower one has a glass pane as long as it is not the active one.
+    click({lower.x, lower.y, inner.x + inner.width - 15 - lower.x, 10});
+    EXPECT_TRUE(selects("inner.button")) << ask("selected");
+    keys.press({XK_Right});
+    expect_box(where("lower.button"));
+    point_at({inner.x + 40, inner.y + 8, 10, 10});
+    keys.press({XK_Up});
+    expect_box(inner);
+    keys.press({XK_Return});
+    EXPECT_TRUE(selects("inner")) << ask("selected");
+    let_go();
+    EXPECT_EQ(ask("log"), "");
+
+    // An icon stands for a frame that is in no window meanwhile.
+    ask("set inner icon true");
+    EXPECT_TRUE(
+        eventually([&] { return ask("inspector vantrel.tree").find("JDesktopIcon \"Inner\"") != std::string::npos; }));
+    const Place icon = where("inner.icon");
+    hold();
+    point_at(icon);
+    keys.press({XK_Up});
+    expect_box(icon);
+    keys.press({XK_Return});
+    EXPECT_TRUE(selects("inner.icon")) << ask("selected");
+    let_go();
+    EXPECT_THAT(ask("log"), Not(HasSubstr("MOUSE")));
+    take_picture("picking-internal");
 }
 
 TEST_P(Picking, OfPopupItemsAndTheyStayOpen) {
@@ -214,6 +320,77 @@ TEST_P(Picking, OfWhatIsInDialogsBehindThemAndBelowAGlassPane) {
     click(where("ok"));
     EXPECT_TRUE(selects("ok")) << ask("selected");
     let_go();
+}
+
+TEST_P(Picking, TheTreeShowsWhatItsRowsStandFor) {
+    start_picking();
+    const Place ok = where("ok");
+    const Place label = where("amount.label");
+    const auto is_boxed = [&](const Place& it) {
+        return eventually([&] { return colour_at(it.x + it.width / 2, it.y + it.height - 1) == kBox; });
+    };
+    const auto is_plain = [&](const Place& it) {
+        return eventually([&] { return colour_at(it.x + it.width / 2, it.y + it.height - 1) != kBox; });
+    };
+    click(place("inspector-row vantrel.tree JButton cancel"));
+    EXPECT_TRUE(eventually([this] { return ask("focus") == "inspector vantrel.tree"; })) << ask("focus");
+    ask("log");
+    point_at(place("inspector-row vantrel.tree JButton ok"));
+    expect_box(ok);
+    point_at(where("vantrel.search"));
+    EXPECT_TRUE(is_plain(ok));
+
+    // The row's menu, by the right button.
+    const auto choose = [&](const std::string& row, const std::string& item) {
+        click(place("inspector-row vantrel.tree " + row), 3);
+        EXPECT_TRUE(eventually([&] { return ask("inspector-dump").find("JPopupMenu") != std::string::npos; }));
+        take_picture("row-menu");
+        click(place("inspector-button " + item));
+    };
+    const auto copies = [&](const std::string& text) { return eventually([&] { return ask("clipboard") == text; }); };
+    const std::string path = R"(JFrame "main" > JSplitPane "split" > JPanel "top" > JPanel "form" > )";
+    choose("JLabel amount.label", "Copy Path");
+    EXPECT_TRUE(copies(path + R"(JLabel "amount.label")")) << ask("clipboard");
+    EXPECT_EQ(ask("selected"), "amount.label");
+    choose("JTextField amount", "Copy Class");
+    EXPECT_TRUE(copies("javax.swing.JTextField")) << ask("clipboard");
+    choose("JTextField amount", "Copy Description");
+    EXPECT_TRUE(eventually([&] { return ask("clipboard").starts_with("JTextField \"amount\"\n"); }));
+    EXPECT_THAT(ask("clipboard"),
+                MatchesRegex("JTextField \"amount\"\n"
+                             "  class    javax.swing.JTextField\n"
+                             "  path     " +
+                             path +
+                             "JTextField \"amount\"\n"
+                             "  text     12.50\n"
+                             "  tooltip  What it costs\n"
+                             "  bounds   [0-9]+, [0-9]+, " +
+                             std::to_string(where("amount").width) + " x " + std::to_string(where("amount").height) +
+                             "\n"
+                             "  state    showing, enabled\n"
+                             "  added    at [^\n]*java.awt.Container.add[^\n]*\n"
+                             "(           at [^\n]+\n)*"
+                             "           and [0-9]+ more"));
+    choose("JTextField amount", "Select Parent");
+    EXPECT_TRUE(selects("form")) << ask("selected");
+
+    // What is shown on demand stays while the pointer goes elsewhere, until something else is selected.
+    choose("JLabel amount.label", "Show in Program");
+    keys.point_at(1700, 1080);
+    EXPECT_TRUE(is_boxed(label));
+    keys.press({XK_Alt_L, XK_Return});
+    EXPECT_TRUE(is_plain(label)) << "the same again takes it away";
+    keys.press({XK_Alt_L, XK_Return});
+    EXPECT_TRUE(is_boxed(label));
+    keys.press({XK_Down});
+    EXPECT_TRUE(is_plain(label));
+    ask("set amount visible false");
+    choose("JTextField amount", "Show in Program");
+    EXPECT_TRUE(eventually([&] {
+        return ask("inspector vantrel.path").find("JTextField \"amount\" cannot be seen: invisible.") !=
+               std::string::npos;
+    })) << ask("inspector vantrel.path");
+    EXPECT_EQ(ask("log"), "") << "the program has seen nothing of all that";
 }
 
 TEST_P(Picking, LeavesAProgramsOwnDragAndKeysAlone) {

@@ -39,7 +39,7 @@ class RealProgram : public Scenario {
     }
 
     // Waits for a program that is still at something: until what it tells stays the same for a while.
-    void settle(const std::function<std::string()>& tell) {
+    static void settle(const std::function<std::string()>& tell) {
         std::string last;
         EXPECT_TRUE(eventually([&] {
             std::this_thread::sleep_for(milliseconds(400));

@@ -16,8 +16,8 @@ public final class EndingInside {
         JLabel component = new JLabel();
         component.setSize(10, 5);
         Graphics2D graphics = new BufferedImage(12, 7, BufferedImage.TYPE_INT_RGB).createGraphics();
-        SwingUtilities.invokeAndWait(() -> { }); // starts the event thread
-        repeat(() -> SwingContext.safeRun1(component, () -> { }));
+        SwingUtilities.invokeAndWait(() -> {}); // starts the event thread
+        repeat(() -> SwingContext.safeRun1(component, () -> {}));
         repeat(() -> Vantrel.getInstance().highlight(component, graphics));
         repeat(Vantrel::canHighlight);
         Thread.sleep(50);

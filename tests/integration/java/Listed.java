@@ -1,4 +1,4 @@
-/** Members of each kind, in an order that is not the alphabet's. */
+/** Members of each kind, in an order that is not the alphabet's. Says something when it is initialised. */
 public class Listed {
     static final String ZONE = "zone";
     long count;
@@ -20,5 +20,9 @@ public class Listed {
 
     void add(short value) {
         count += value;
+    }
+
+    static {
+        System.out.println("Listed is initialised");
     }
 }

@@ -69,11 +69,11 @@ public final class Natives {
     }
 
     private static void runInOwnContext() throws Exception {
-        SwingUtilities.invokeAndWait(() -> { }); // starts the event thread
+        SwingUtilities.invokeAndWait(() -> {}); // starts the event thread
         long started = ManagementFactory.getThreadMXBean().getTotalStartedThreadCount();
         String ran = run(new JLabel());
-        System.out.println(ran + ", new threads: "
-                + (ManagementFactory.getThreadMXBean().getTotalStartedThreadCount() - started));
+        System.out.println(
+                ran + ", new threads: " + (ManagementFactory.getThreadMXBean().getTotalStartedThreadCount() - started));
     }
 
     private static void runInOtherContext() throws Exception {

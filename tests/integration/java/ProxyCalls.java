@@ -96,8 +96,7 @@ public final class ProxyCalls {
         expect("Color.RGBtoHSB", Color.RGBtoHSB(252, 126, 0, null), colorRGBtoHSB(252, 126, 0, hsb));
         expect("Color.RGBtoHSB", Color.RGBtoHSB(252, 126, 0, null), hsb);
         expect("new Color", new Color(0.5f, 0.25f, 1f), colorNew(0.5f, 0.25f, 1f));
-        ComponentListener listener = new ComponentAdapter() {
-        };
+        ComponentListener listener = new ComponentAdapter() {};
         label.addComponentListener(listener);
         expect("Component.getListeners", new EventListener[] {listener},
                 componentGetListeners(label, ComponentListener.class));
@@ -152,9 +151,10 @@ public final class ProxyCalls {
 
     private static void fire(JLabel label) {
         List<String> fired = new ArrayList<>();
-        label.addPropertyChangeListener(event -> fired.add(event.getPropertyName() + " "
-                + event.getNewValue().getClass().getSimpleName() + " " + event.getOldValue() + " "
-                + event.getNewValue()));
+        label.addPropertyChangeListener(event -> {
+            String type = event.getNewValue().getClass().getSimpleName();
+            fired.add(event.getPropertyName() + " " + type + " " + event.getOldValue() + " " + event.getNewValue());
+        });
         fireAll(label);
         expect("Component.firePropertyChange",
                 Arrays.asList("boolean Boolean false true", "byte Byte 1 2", "char Character \u0001 \u0002",

@@ -14,7 +14,8 @@ public final class Replaced {
         System.out.println(Component.class.getDeclaredField("windowClosingException"));
         JPanel panel = new JPanel();
         JLabel label = new JLabel("added");
-        panel.add(label); int line = new Throwable().getStackTrace()[0].getLineNumber();
+        panel.add(label);
+        int line = new Throwable().getStackTrace()[0].getLineNumber() - 1; // that of the call before
         System.out.println("added in line " + line);
         for (StackTraceElement element : StackTraceManager.getStackTrace(label)) {
             System.out.println("at " + element.getClassName() + "." + element.getMethodName() + " line "

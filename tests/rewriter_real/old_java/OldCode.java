@@ -1,6 +1,6 @@
 /**
- * What old compilers make of old sources: subroutines for finally, switches, wide instructions, nested handlers. Fit for
- * compilers that know Java 1.3 at most. Prints what it computes.
+ * What old compilers make of old sources: subroutines for finally, switches, wide instructions, nested handlers. Fit
+ * for compilers that know Java 1.3 at most. Prints what it computes.
  */
 public class OldCode {
     static StringBuffer trace = new StringBuffer();
@@ -54,18 +54,27 @@ public class OldCode {
 
     static String table(int n) {
         switch (n) {
-            case 0: return "zero";
-            case 1: return "one";
+            case 0:
+                return "zero";
+            case 1:
+                return "one";
             case 2:
-            case 3: break;
-            case 6: return "six";
-            default: return "none";
+            case 3:
+                break;
+            case 6:
+                return "six";
+            default:
+                return "none";
         }
         switch (n * 1000) {
-            case 2000: return "two";
-            case -5: return "never";
-            case 3000: return "three";
-            default: return "none";
+            case 2000:
+                return "two";
+            case -5:
+                return "never";
+            case 3000:
+                return "three";
+            default:
+                return "none";
         }
     }
 
@@ -105,7 +114,7 @@ public class OldCode {
     public static void main(String[] arguments) {
         for (int i = 0; i < 8; i++) {
             System.out.println(finallyAfterReturn(i) + " " + table(i) + " " + nestedFinally(i) + " " + locked("", i)
-                + " " + arrays(i) + " " + manyLocals(i));
+                    + " " + arrays(i) + " " + manyLocals(i));
         }
         System.out.println(trace);
     }

@@ -13,10 +13,12 @@ import com.vantrel.view.Sight;
 final class PickSight implements Sight {
     private final Highlighter highlighter;
     private final Picker picker;
+    private final Cover cover;
 
     PickSight(Window owner, Selection selection) {
-        highlighter = new Highlighter(owner, Vantrel.getInstance()::highlight);
-        picker = new Picker(selection, highlighter, Vantrel::canHighlight);
+        highlighter = new Highlighter(owner, Agent::highlight);
+        cover = new Cover(owner);
+        picker = new Picker(selection, highlighter, Agent::canHighlight, cover::takeOff);
     }
 
     void start() {
@@ -25,6 +27,7 @@ final class PickSight implements Sight {
 
     void stop() {
         picker.stop();
+        cover.stop();
         highlighter.dispose();
     }
 

@@ -8,6 +8,7 @@ import javax.swing.SwingUtilities;
 
 import com.vantrel.hooks.Hooks;
 import com.vantrel.pick.HotKey;
+import com.vantrel.record.Recording;
 
 /** The inspector. The agent takes hold of it while the VM starts: making it opens nothing and starts no toolkit. */
 public final class Vantrel {
@@ -22,6 +23,7 @@ public final class Vantrel {
 
     static {
         Hooks.add(HOT_KEY);
+        Recording.start();
     }
 
     private Vantrel() {

@@ -16,8 +16,10 @@ import javax.swing.WindowConstants;
 import com.vantrel.model.Edits;
 import com.vantrel.model.Ours;
 import com.vantrel.model.Selection;
+import com.vantrel.record.ChangeRecorder;
 import com.vantrel.view.InspectorPane;
 import com.vantrel.view.Placement;
+import com.vantrel.view.WindowIcon;
 
 /**
  * The inspector's window. A window that exists, shown or not, keeps the event thread and with it the VM alive, so this
@@ -37,6 +39,8 @@ public final class VantrelFrame extends JFrame implements Ours {
     private static VantrelFrame instance;
 
     private transient volatile Selection selection;
+    /** Who sets what while the window is shown. */
+    private final transient ChangeRecorder recorder = new ChangeRecorder(component -> true);
     private transient PickSight sight;
     private InspectorPane pane;
     /** What somebody has selected while the window was not shown. */
@@ -77,6 +81,7 @@ public final class VantrelFrame extends JFrame implements Ours {
         } else if (pane == null) {
             fill();
             sight.start();
+            recorder.start();
             super.setVisible(true);
             pane.first().requestFocusInWindow();
             pane.start();
@@ -84,10 +89,12 @@ public final class VantrelFrame extends JFrame implements Ours {
         }
     }
 
-    /** Shows the window, brings it back if it is minimised, and otherwise hides it. */
+    /** Shows the window, or brings it back where nobody can see it; hides it otherwise. */
     void toggle() {
         if (isVisible() && (getExtendedState() & ICONIFIED) != 0) {
             setExtendedState(getExtendedState() & ~ICONIFIED);
+            toFront();
+        } else if (isVisible() && Cover.liesOver(this)) {
             toFront();
         } else {
             setVisible(!isVisible());
@@ -97,11 +104,12 @@ public final class VantrelFrame extends JFrame implements Ours {
     private void fill() {
         selection = new Selection();
         sight = new PickSight(this, selection);
-        Edits edits = new Edits(SwingContext::safeRun1, task -> SwingContext.safeRun1(this, task));
+        Edits edits = new Edits(Agent::run, task -> Agent.run(this, task));
         pane = new InspectorPane(selection, edits, sight, this::dispose);
         setRootPane(createRootPane()); // one of the look and feel that the program has now
         setContentPane(pane);
         setJMenuBar(pane.menus());
+        setIconImages(WindowIcon.images());
         Placement.place(this);
         selection.select(toSelect.get());
         toSelect.clear();
@@ -124,6 +132,7 @@ public final class VantrelFrame extends JFrame implements Ours {
             pane.remember();
             pane.clear();
             sight.stop();
+            recorder.stop();
             sight = null;
             pane = null;
             selection = null;

@@ -20,6 +20,7 @@ import java.util.TreeMap;
 import java.util.concurrent.Callable;
 import java.util.concurrent.FutureTask;
 import java.util.stream.Collectors;
+import java.util.stream.Stream;
 
 import javax.swing.JComponent;
 import javax.swing.JLabel;
@@ -57,12 +58,14 @@ final class Commands {
         commands.put("combo", words -> transients.combo(words[0])); // open, closed
         commands.put("dialog", words -> transients.dialog(words[0])); // modeless, document, application, toolkit, none
         commands.put("frame", words -> transients.frame(words[0])); // a second frame: its name, which is its title
+        commands.put("fullscreen", words -> transients.fullScreen(words[0])); // on, off
         commands.put("glass", words -> transients.glass(words[0])); // on, off
         commands.put("odd", words -> Odd.add(things, words[0])); // throwing, blocking, null, lying: adds one to "room"
-        commands.put("look", words -> { // a theme or class name: the look and feel from now on; windows stay as they are
-            Themes.use(words[0]);
-            return "";
-        });
+        commands.put(
+                "look", words -> { // a theme or class name: the look and feel from now on; windows stay as they are
+                    Themes.use(words[0]);
+                    return "";
+                });
         commands.put("restyle", words -> { // the same, and all windows take it on, the inspector's too
             Themes.use(words[0]);
             Arrays.stream(Window.getWindows()).forEach(SwingUtilities::updateComponentTreeUI);
@@ -80,7 +83,8 @@ final class Commands {
         }
         String[] arguments = words.length == 1 ? new String[0] : words[1].split(" ", 3);
         try {
-            return FROM_OUTSIDE.contains(words[0]) ? command.run(arguments) : onEventThread(() -> command.run(arguments));
+            return FROM_OUTSIDE.contains(words[0]) ? command.run(arguments)
+                                                   : onEventThread(() -> command.run(arguments));
         } catch (Exception e) {
             Throwable cause = e instanceof java.util.concurrent.ExecutionException ? e.getCause() : e;
             cause.printStackTrace();
@@ -128,13 +132,17 @@ final class Commands {
             Inspector.find("vantrel").setBounds(numbers[0], numbers[1], numbers[2], numbers[3]);
             return "";
         });
-        commands.put("threads", words -> Thread.getAllStackTraces().keySet().stream().map(Thread::getName) // PREFIX
-                .filter(name -> name.startsWith(words[0])).sorted().collect(Collectors.joining("\n")));
+        commands.put("threads", words -> { // PREFIX
+            Stream<String> names = Thread.getAllStackTraces().keySet().stream().map(Thread::getName);
+            return names.filter(name -> name.startsWith(words[0])).sorted().collect(Collectors.joining("\n"));
+        });
         // inspector-row NAME TEXT: where the first row is, of a list or table, that contains the text
         commands.put("inspector-row", words -> {
             Component view = Inspector.find(words[0]);
             return onScreen(view, Inspector.row(view, words.length == 3 ? words[1] + " " + words[2] : words[1]));
         });
+        // inspector-button TEXT: where the button or menu item with the text is
+        commands.put("inspector-button", words -> onScreen(Inspector.button(String.join(" ", words)), null));
         // inspector-tab TITLE: where the tab of the details is
         commands.put("inspector-tab", words -> {
             JTabbedPane tabs = (JTabbedPane) Inspector.find("vantrel.details");
@@ -149,7 +157,9 @@ final class Commands {
         // select NAME: has the inspector select a component, as a debugger might
         commands.put("select", words -> {
             Object vantrel = Class.forName("com.vantrel.Vantrel").getMethod("getInstance").invoke(null);
-            vantrel.getClass().getMethod("selectOnComponentTree", Component.class).invoke(vantrel, things.get(words[0]));
+            vantrel.getClass()
+                    .getMethod("selectOnComponentTree", Component.class)
+                    .invoke(vantrel, things.get(words[0]));
             return "";
         });
         // clipboard: the text on it
@@ -183,6 +193,10 @@ final class Commands {
         commands.put("place", words -> { // NAME X Y WIDTH HEIGHT: until its parent lays it out again
             int[] numbers = numbers(words[1] + " " + words[2]);
             things.get(words[0]).setBounds(numbers[0], numbers[1], numbers[2], numbers[3]);
+            return "";
+        });
+        commands.put("tab", words -> { // NAME INDEX: brings a tab to the front
+            things.get(words[0], JTabbedPane.class).setSelectedIndex(Integer.parseInt(words[1]));
             return "";
         });
         commands.put("add", words -> { // PARENT NAME: a label

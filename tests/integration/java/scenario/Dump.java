@@ -32,7 +32,9 @@ final class Dump {
         if (name != null && name.matches("[a-z]+\\d+")) {
             name = null; // made up by the AWT when it was asked
         }
-        text.append("  ".repeat(depth)).append(simpleName(component)).append(name == null ? "" : " " + name)
+        text.append("  ".repeat(depth))
+                .append(simpleName(component))
+                .append(name == null ? "" : " " + name)
                 .append('\n');
         if (component instanceof Container container) {
             for (int child = 0; child < container.getComponentCount(); child++) {

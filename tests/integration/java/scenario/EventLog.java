@@ -49,7 +49,9 @@ final class EventLog {
         }
     }
 
-    /** What was seen since the last time, a line each: the kind of event and the component, such as "KEY_PRESSED ok". */
+    /**
+     * What was seen since the last time, a line each: the kind of event and the component, such as "KEY_PRESSED ok".
+     */
     synchronized String take() {
         String text = String.join("\n", lines);
         lines.clear();

@@ -47,8 +47,12 @@ final class EventThreadWatch {
 
     private static long computed() {
         ThreadMXBean threads = ManagementFactory.getThreadMXBean();
-        return Thread.getAllStackTraces().keySet().stream().filter(thread -> thread.getName()
-                .startsWith("AWT-EventQueue")).mapToLong(thread -> threads.getThreadCpuTime(thread.getId())).sum();
+        return Thread.getAllStackTraces()
+                .keySet()
+                .stream()
+                .filter(thread -> thread.getName().startsWith("AWT-EventQueue"))
+                .mapToLong(thread -> threads.getThreadCpuTime(thread.getId()))
+                .sum();
     }
 
     private void watch() {

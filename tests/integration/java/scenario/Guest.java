@@ -14,7 +14,8 @@ public final class Guest {
 
     public static void main(String[] arguments) throws Exception {
         Scenario.obey(new Things(), new EventLog());
-        Class.forName(arguments[0]).getMethod("main", String[].class)
+        Class.forName(arguments[0])
+                .getMethod("main", String[].class)
                 .invoke(null, (Object) Arrays.copyOfRange(arguments, 1, arguments.length));
     }
 }

@@ -7,7 +7,9 @@ import java.awt.Window;
 import java.util.ArrayList;
 import java.util.List;
 
+import javax.accessibility.AccessibleContext;
 import javax.swing.AbstractButton;
+import javax.swing.JComponent;
 import javax.swing.JLabel;
 import javax.swing.JList;
 import javax.swing.JTable;
@@ -43,9 +45,35 @@ final class Inspector {
         return null;
     }
 
+    /** A button or menu item of the inspector's that shows, by its text. */
+    static Component button(String text) {
+        for (Window window : Window.getWindows()) {
+            Component found = window.isShowing() && Scenario.isInspectors(window) ? button(window, text) : null;
+            if (found != null) {
+                return found;
+            }
+        }
+        throw new IllegalArgumentException("the inspector shows no button " + text);
+    }
+
+    private static Component button(Component component, String text) {
+        if (component instanceof AbstractButton button && button.isShowing() && text.equals(button.getText())) {
+            return button;
+        }
+        if (component instanceof Container container) {
+            for (Component child : container.getComponents()) {
+                Component found = button(child, text);
+                if (found != null) {
+                    return found;
+                }
+            }
+        }
+        return null;
+    }
+
     /**
      * The rows of a list or table, selected ones behind "* ", others behind "- ", cells separated by " | "; the text of
-     * anything that has one; all texts below a panel.
+     * anything that has one, be it only for those who do not see; all texts below a panel.
      */
     static String describe(String name) {
         return String.join("\n", lines(find(name)));
@@ -71,6 +99,11 @@ final class Inspector {
             lines.add(String.valueOf(label.getText()));
         } else if (component instanceof AbstractButton button) {
             lines.add(String.valueOf(button.getText()));
+        } else if (component instanceof JComponent drawn && drawn.getComponentCount() == 0) {
+            AccessibleContext context = drawn.getAccessibleContext();
+            if (context != null && context.getAccessibleName() != null) {
+                lines.add(context.getAccessibleName());
+            }
         } else if (component instanceof Container container) {
             for (Component child : container.getComponents()) {
                 if (child.isVisible()) {
@@ -87,7 +120,7 @@ final class Inspector {
         for (int row = 0; row < lines.size(); row++) {
             if (lines.get(row).contains(text)) {
                 return view instanceof JTable table ? table.getCellRect(row, 0, false)
-                        : ((JList<?>) view).getCellBounds(row, row);
+                                                    : ((JList<?>) view).getCellBounds(row, row);
             }
         }
         throw new IllegalArgumentException("no row contains " + text + " in " + lines);

@@ -12,6 +12,7 @@ import java.awt.GridBagLayout;
 import java.awt.GridLayout;
 import java.awt.Insets;
 import java.awt.Panel;
+import java.awt.Rectangle;
 import java.awt.TextField;
 
 import javax.swing.BorderFactory;
@@ -126,10 +127,12 @@ final class MainFrame {
 
     private static void row(JPanel form, int row, Component left, Component right) {
         Insets insets = new Insets(2, 4, 2, 4);
-        form.add(left, new GridBagConstraints(0, row, 1, 1, 0, 0, GridBagConstraints.LINE_START,
-                GridBagConstraints.NONE, insets, 0, 0));
-        form.add(right, new GridBagConstraints(1, row, 1, 1, 1, 0, GridBagConstraints.CENTER,
-                GridBagConstraints.HORIZONTAL, insets, 0, 0));
+        form.add(left,
+                new GridBagConstraints(
+                        0, row, 1, 1, 0, 0, GridBagConstraints.LINE_START, GridBagConstraints.NONE, insets, 0, 0));
+        form.add(right,
+                new GridBagConstraints(
+                        1, row, 1, 1, 1, 0, GridBagConstraints.CENTER, GridBagConstraints.HORIZONTAL, insets, 0, 0));
     }
 
     private Panel awt() {
@@ -172,20 +175,27 @@ final class MainFrame {
 
     private JDesktopPane desktop() {
         JDesktopPane desktop = things.named("desktop", new JDesktopPane());
-        JInternalFrame inner = things.named("inner", new JInternalFrame("Inner", true, true));
-        inner.add(things.named("inner.button", new JButton("Inside")));
-        inner.setBounds(10, 10, 200, 100);
-        inner.setVisible(true);
-        desktop.add(inner);
+        desktop.add(internal("inner", "Inner", new Rectangle(10, 10, 200, 100)));
+        desktop.add(internal("lower", "Lower", new Rectangle(110, 60, 200, 100)));
         desktop.setPreferredSize(new Dimension(200, 150));
         return desktop;
     }
 
+    private JInternalFrame internal(String name, String title, Rectangle bounds) {
+        JInternalFrame frame = things.named(name, new JInternalFrame(title, true, true, true, true));
+        frame.add(things.named(name + ".button", new JButton("Inside")));
+        frame.setBounds(bounds);
+        frame.setVisible(true);
+        things.known(name + ".icon", frame.getDesktopIcon());
+        return frame;
+    }
+
     /** A renderer of the program's own. */
+    @SuppressWarnings("serial")
     static final class CountRenderer extends DefaultTableCellRenderer {
         @Override
-        public Component getTableCellRendererComponent(JTable table, Object value, boolean selected, boolean focused,
-                int row, int column) {
+        public Component getTableCellRendererComponent(
+                JTable table, Object value, boolean selected, boolean focused, int row, int column) {
             super.getTableCellRendererComponent(table, value, selected, focused, row, column);
             setForeground((Integer) value > 4 ? Color.RED : Color.BLUE);
             return this;

@@ -13,6 +13,7 @@ import javax.swing.JPanel;
  * Components that must not be trusted: whatever they are asked, they throw, take a second, or answer null; and one
  * that does not tell its children. All of them work as long as nobody but Swing asks.
  */
+@SuppressWarnings("serial")
 final class Odd extends JPanel {
     private static final int MILLIS = 1000;
 
@@ -55,44 +56,45 @@ final class Odd extends JPanel {
 
     @Override
     public String getName() {
-        return answer == null ? null : answer.get(); // null while the superclass is being made
+        return answer == null ? null :
+                answer.get(); // null while the superclass is being made
     }
 
     public String getText() {
-        return answer.get();
+            return answer.get();
     }
 
     public String getTitle() {
-        return answer.get();
+            return answer.get();
     }
 
     @Override
     public String getToolTipText() {
-        return answer.get();
+            return answer.get();
     }
 
     @Override
     public String getToolTipText(MouseEvent event) {
-        return null; // asked by Swing
+            return null; // asked by Swing
     }
 
     @Override
     public String toString() {
-        return answer.get();
+            return answer.get();
     }
 
     @Override
     public Component[] getComponents() {
-        if (hidesChildren) {
-            answer.get();
-            return null;
-        }
-        return super.getComponents();
+            if (hidesChildren) {
+                answer.get();
+                return null;
+            }
+            return super.getComponents();
     }
 
     @Override
     protected void paintComponent(Graphics graphics) {
-        graphics.setColor(java.awt.Color.ORANGE);
-        graphics.fillRect(0, 0, getWidth(), getHeight());
+            graphics.setColor(java.awt.Color.ORANGE);
+            graphics.fillRect(0, 0, getWidth(), getHeight());
     }
-}
+    }

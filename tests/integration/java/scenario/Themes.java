@@ -16,8 +16,8 @@ final class Themes {
     }
 
     /**
-     * "dark" is Metal in dark colours. "bare" knows how to paint, but has no colours, borders or icons; without fonts, a
-     * text field or menu of the JDK fails by itself. Any other name is a class's.
+     * "dark" is Metal in dark colours. "bare" knows how to paint, but has no colours, borders or icons; without fonts,
+     * a text field or menu of the JDK fails by itself. Any other name is a class's.
      */
     static void use(String name) throws Exception {
         switch (name) {
@@ -74,17 +74,18 @@ final class Themes {
         }
     }
 
+    @SuppressWarnings("serial")
     private static final class Bare extends MetalLookAndFeel {
         @Override
         public UIDefaults getDefaults() {
             UIDefaults all = super.getDefaults();
             for (Object key : all.keySet().toArray()) {
-                Object value = all.get(key);
-                if (value instanceof Color || value instanceof Border || value instanceof Icon) {
-                    all.remove(key);
+                    Object value = all.get(key);
+                    if (value instanceof Color || value instanceof Border || value instanceof Icon) {
+                        all.remove(key);
+                    }
                 }
-            }
-            return all;
+                return all;
         }
 
         @Override

@@ -92,12 +92,19 @@ final class Transients {
         return "";
     }
 
-    String disposeAll() {
-        for (Window window : Window.getWindows()) {
-            if (!Scenario.isInspectors(window)) {
-                window.dispose();
-            }
-        }
-        return "";
+    /** Has the screen to itself with the main window, as the toolkit does that. */
+    String fullScreen(String state) {
+        JFrame main = things.get("main", JFrame.class);
+        main.getGraphicsConfiguration().getDevice().setFullScreenWindow(state.equals("on") ? main : null);
+                    return "";
     }
-}
+
+    String disposeAll() {
+                for (Window window : Window.getWindows()) {
+                    if (!Scenario.isInspectors(window)) {
+                        window.dispose();
+                    }
+                }
+                return "";
+    }
+        }

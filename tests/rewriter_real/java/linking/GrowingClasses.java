@@ -26,7 +26,7 @@ public final class GrowingClasses {
         Path source = folder.resolve("Growing.java");
         Files.writeString(source, source());
         List<String> options = List.of("--release", arguments[1], "-Xlint:-options", "-nowarn", "-g", "-parameters",
-            "-d", folder.toString(), source.toString());
+                "-d", folder.toString(), source.toString());
         System.exit(ToolProvider.getSystemJavaCompiler().run(null, null, null, options.toArray(new String[0])));
     }
 
@@ -40,44 +40,43 @@ public final class GrowingClasses {
             locals.append("int v").append(i).append(" = ").append(i).append("; ");
             sum.append(i % 50 == 0 ? " + v" + i : "");
         }
-        return String.join("\n",
-            "class Growing extends Exception {",
-            "    static int f(int[] a) { return a.length; }",
-            "    static int pick(Object a, int b) { return b; }",
-            "    static int pick(int a, double b, long c, float e, int d) { return d; }",
-            "    long field; static double[] numbers = {1, 2};",
-            "    Growing(int x) { super(\"text\"); }",
-            "    Growing(boolean c, double d) { this(" + nested + "); }",
-            "    Growing(boolean c, long l) { super(\"text\" + l + " + choice + "); field = l; }",
-            "    static Object fresh(boolean c, double d) { return new StringBuilder(" + nested + "); }",
-            "    static Object inner(boolean c) { return new Growing(new StringBuilder(" + choice + ").length()); }",
-            "    static int locals(boolean c, long l, double d, float e, Object o, String[] s, int[][] m) {",
-            "        Object n = null; long l2 = l * 2; double d2 = d / l2; float e2 = -e; byte b = (byte) l2;",
-            "        Object[][] oo = {s}; Class<?> k = String.class; int[] x = m[0]; char h = s[0].charAt(0);",
-            "        int r = " + choice + "; return r + (n == null ? 1 : 0) + (int) l2 + b + x.length + h; }",
-            "    int fields(boolean c, Number[] p) { long q = field += (long) " + choice + "; return (int) q; }",
-            "    static int stack(boolean c, int[] m) { return pick(m[0]++, m[0] * 2.5, m.length + 1L, 2f, " + choice
-                + "); }",
-            "    static int arrays(boolean c, String[][] s) { return pick(s[0], " + choice + "); }",
-            "    static int multi(boolean c) { return pick(new long[2][3], " + choice + "); }",
-            "    static int primitive(boolean c) { return pick(new char[5], " + choice + "); }",
-            "    static int cast(boolean c, Object o) { return pick((Number[]) o, " + choice + "); }",
-            "    static int constant(boolean c) { return pick(Integer[].class, " + choice + "); }",
-            "    static int nothing(boolean c) { return pick(null, " + choice + "); }",
-            "    static int element(boolean c, Object[] a) { return pick(a[0] = \"t\", " + choice + "); }",
-            "    static double compound(boolean c, double[] a) { return a[1] += " + choice + "; }",
-            "    static int call(boolean c, String s) { return pick(s.trim().split(\",\"), " + choice + "); }",
-            "    static int lambda(boolean c, int i) { return pick((Runnable) () -> f(new int[i]), " + choice + "); }",
-            "    static int comparison(boolean c, long l, Object o) {",
-            "        return l < 3 && o instanceof String && c ? " + big + " : 1; }",
-            "    static int locked(boolean c, Object o) { synchronized (o) { return " + choice + "; } }",
-            "    static int caught(boolean c, double d) { int r = 7;",
-            "        try { r = " + nested + "; } catch (RuntimeException e) { r = e.hashCode(); } return r; }",
-            "    static int loop(boolean c) { int r = 0; do { r += " + choice + "; } while (r < 2); return r; }",
-            "    static int many(boolean c) { " + locals + " int r = " + choice + "; return r + " + sum + "; }",
-            "    static int big(boolean c) { long w = 1; " + locals + " w += v259; int r = " + choice
-                + "; v259 += 1000; return r + (int) w + v259; }",
-            "}");
+        return String.join("\n", "class Growing extends Exception {", "    static int f(int[] a) { return a.length; }",
+                "    static int pick(Object a, int b) { return b; }",
+                "    static int pick(int a, double b, long c, float e, int d) { return d; }",
+                "    long field; static double[] numbers = {1, 2};", "    Growing(int x) { super(\"text\"); }",
+                "    Growing(boolean c, double d) { this(" + nested + "); }",
+                "    Growing(boolean c, long l) { super(\"text\" + l + " + choice + "); field = l; }",
+                "    static Object fresh(boolean c, double d) { return new StringBuilder(" + nested + "); }",
+                "    static Object inner(boolean c) { return new Growing(new StringBuilder(" + choice
+                        + ").length()); }",
+                "    static int locals(boolean c, long l, double d, float e, Object o, String[] s, int[][] m) {",
+                "        Object n = null; long l2 = l * 2; double d2 = d / l2; float e2 = -e; byte b = (byte) l2;",
+                "        Object[][] oo = {s}; Class<?> k = String.class; int[] x = m[0]; char h = s[0].charAt(0);",
+                "        int r = " + choice + "; return r + (n == null ? 1 : 0) + (int) l2 + b + x.length + h; }",
+                "    int fields(boolean c, Number[] p) { long q = field += (long) " + choice + "; return (int) q; }",
+                "    static int stack(boolean c, int[] m) { return pick(m[0]++, m[0] * 2.5, m.length + 1L, 2f, "
+                        + choice + "); }",
+                "    static int arrays(boolean c, String[][] s) { return pick(s[0], " + choice + "); }",
+                "    static int multi(boolean c) { return pick(new long[2][3], " + choice + "); }",
+                "    static int primitive(boolean c) { return pick(new char[5], " + choice + "); }",
+                "    static int cast(boolean c, Object o) { return pick((Number[]) o, " + choice + "); }",
+                "    static int constant(boolean c) { return pick(Integer[].class, " + choice + "); }",
+                "    static int nothing(boolean c) { return pick(null, " + choice + "); }",
+                "    static int element(boolean c, Object[] a) { return pick(a[0] = \"t\", " + choice + "); }",
+                "    static double compound(boolean c, double[] a) { return a[1] += " + choice + "; }",
+                "    static int call(boolean c, String s) { return pick(s.trim().split(\",\"), " + choice + "); }",
+                "    static int lambda(boolean c, int i) { return pick((Runnable) () -> f(new int[i]), " + choice
+                        + "); }",
+                "    static int comparison(boolean c, long l, Object o) {",
+                "        return l < 3 && o instanceof String && c ? " + big + " : 1; }",
+                "    static int locked(boolean c, Object o) { synchronized (o) { return " + choice + "; } }",
+                "    static int caught(boolean c, double d) { int r = 7;",
+                "        try { r = " + nested + "; } catch (RuntimeException e) { r = e.hashCode(); } return r; }",
+                "    static int loop(boolean c) { int r = 0; do { r += " + choice + "; } while (r < 2); return r; }",
+                "    static int many(boolean c) { " + locals + " int r = " + choice + "; return r + " + sum + "; }",
+                "    static int big(boolean c) { long w = 1; " + locals + " w += v259; int r = " + choice
+                        + "; v259 += 1000; return r + (int) w + v259; }",
+                "}");
     }
 
     /** A sum of so many arrays, as deep as its logarithm. */

@@ -21,6 +21,7 @@ public final class RewriteObject {
         image[6] = 0;
         image[7] = Images.NEWEST;
         Files.write(folder.resolve("Before.class"), image);
-        Files.write(folder.resolve("After.class"), Rewriter.rewrite(image, "java/lang/Object", Rewriter.ALL, 7, true, false));
+        Files.write(folder.resolve("After.class"),
+                Rewriter.rewrite(image, "java/lang/Object", Rewriter.ALL, 7, true, false));
     }
 }

@@ -47,7 +47,7 @@ public final class SideBySide {
         for (int from = 0; from < names.size(); from += BATCH) {
             link(names.subList(from, Math.min(from + BATCH, names.size())));
             System.err.println(Math.min(from + BATCH, names.size()) + " of " + names.size() + " classes, "
-                + failures.size() + " failures");
+                    + failures.size() + " failures");
         }
         counts.put("classes", names.size());
         counts.put("classes that are too new", images.newer());

@@ -50,11 +50,16 @@ public final class Balanced {
     static float returnsFloat(int kind) {
         count("returnsFloat");
         switch (kind) {
-            case 0: return 0.5f;
-            case 1: return 1.5f;
-            case 2: break;
-            case 3: return returnsFloat(1) + returnsFloat(0);
-            default: return -1;
+            case 0:
+                return 0.5f;
+            case 1:
+                return 1.5f;
+            case 2:
+                break;
+            case 3:
+                return returnsFloat(1) + returnsFloat(0);
+            default:
+                return -1;
         }
         return 2.5f;
     }
@@ -62,20 +67,28 @@ public final class Balanced {
     static double returnsDouble(int kind) {
         count("returnsDouble");
         switch (kind) {
-            case -1000: return 1;
-            case 0: return 2;
-            case 1000: return 3;
-            case 1000000: return returnsDouble(0) + returnsDouble(-1000);
-            default: return returnsFloat(kind);
+            case -1000:
+                return 1;
+            case 0:
+                return 2;
+            case 1000:
+                return 3;
+            case 1000000:
+                return returnsDouble(0) + returnsDouble(-1000);
+            default:
+                return returnsFloat(kind);
         }
     }
 
     static String returnsReference(String text) {
         count("returnsReference");
         switch (text) {
-            case "Aa": return "one";
-            case "BB": return "two";
-            default: return text.isEmpty() ? null : returnsReference(text.substring(1)) + text.charAt(0);
+            case "Aa":
+                return "one";
+            case "BB":
+                return "two";
+            default:
+                return text.isEmpty() ? null : returnsReference(text.substring(1)) + text.charAt(0);
         }
     }
 
@@ -128,9 +141,9 @@ public final class Balanced {
             suppliers.add(() -> twice(n));
         }
         return returnsInt(12) + " " + returnsBoolean(20) + " " + returnsBoolean(-1) + " " + returnsLong(15) + " "
-            + returnsFloat(3) + " " + returnsFloat(2) + " " + returnsDouble(1000000) + " " + returnsDouble(9) + " "
-            + returnsReference("xyzBB") + " " + catchesItsOwn(10) + " " + locked(new Object(), 4) + " "
-            + summed(suppliers);
+                + returnsFloat(3) + " " + returnsFloat(2) + " " + returnsDouble(1000000) + " " + returnsDouble(9) + " "
+                + returnsReference("xyzBB") + " " + catchesItsOwn(10) + " " + locked(new Object(), 4) + " "
+                + summed(suppliers);
     }
 
     public static void main(String[] arguments) throws InterruptedException {

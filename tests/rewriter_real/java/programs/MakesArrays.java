@@ -20,14 +20,22 @@ public final class MakesArrays {
 
     private static Object primitive(int kind) {
         switch (kind) {
-            case 0: return counted(new boolean[3]);
-            case 1: return counted(new byte[3]);
-            case 2: return counted(new char[3]);
-            case 3: return counted(new short[3]);
-            case 4: return counted(new int[3]);
-            case 5: return counted(new long[3]);
-            case 6: return counted(new float[3]);
-            default: return counted(new double[0]);
+            case 0:
+                return counted(new boolean[3]);
+            case 1:
+                return counted(new byte[3]);
+            case 2:
+                return counted(new char[3]);
+            case 3:
+                return counted(new short[3]);
+            case 4:
+                return counted(new int[3]);
+            case 5:
+                return counted(new long[3]);
+            case 6:
+                return counted(new float[3]);
+            default:
+                return counted(new double[0]);
         }
     }
 

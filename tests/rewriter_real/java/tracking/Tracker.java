@@ -67,8 +67,8 @@ public final class Tracker {
     }
 
     /**
-     * Called by the agent at the VM's end. A line a count, and a line a method: numbers, entries, returns. Other threads
-     * may be running still; each stands where it was counted.
+     * Called by the agent at the VM's end. A line a count, and a line a method: numbers, entries, returns. Other
+     * threads may be running still; each stands where it was counted.
      */
     static void report(String file) throws IOException {
         try (PrintWriter out = new PrintWriter(file, "UTF-8")) {
@@ -120,7 +120,8 @@ public final class Tracker {
 
     private static long at(long[][] counts, int classNumber, int methodNumber) {
         return classNumber < counts.length && counts[classNumber] != null && methodNumber < counts[classNumber].length
-                ? counts[classNumber][methodNumber] : 0;
+                ? counts[classNumber][methodNumber]
+                : 0;
     }
 
     private static long[][] sum(long[][] left, long[][] right) {

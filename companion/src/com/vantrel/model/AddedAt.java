@@ -2,78 +2,25 @@ package com.vantrel.model;
 
 import java.awt.Component;
 import java.awt.Window;
-import java.util.ArrayList;
-import java.util.Arrays;
-import java.util.Collections;
-import java.util.List;
 
 import com.vantrel.stacktrace.StackTraceManager;
 
 /**
- * Where a component was added to its container: the recorded stack, folded, and the program's line in it. Holds nothing
- * of the program. May be used by any thread.
+ * Where a component was added to its container: the recorded stack, and one line that says it. Holds nothing of the
+ * program. May be used by any thread.
  */
 public final class AddedAt {
-    /** The longest round of calls that is looked for when repetitions are folded. */
-    private static final int LONGEST_ROUND = 12;
-
-    /** What a part of the stack is. */
-    public enum Kind {
-        /** One line of the program. */
-        PROGRAM,
-        /** Calls of the toolkit in a row. */
-        TOOLKIT,
-        /** The lines above, of the program and the toolkit, once or several times more: a recursion. */
-        REPEAT
-    }
-
-    /** A part of a folded stack. */
-    public static final class Part {
-        private final Kind kind;
-        private final List<StackTraceElement> lines;
-        private final int times;
-
-        Part(Kind kind, List<StackTraceElement> lines, int times) {
-            this.kind = kind;
-            this.lines = Collections.unmodifiableList(lines);
-            this.times = times;
-        }
-
-        public Kind kind() {
-            return kind;
-        }
-
-        /** What the part stands for, innermost call first; one line if it is the program's. */
-        public List<StackTraceElement> lines() {
-            return lines;
-        }
-
-        /** How many times more the lines above occur; 1 where nothing repeats. */
-        public int times() {
-            return times;
-        }
-
-        boolean looksLike(Part other) {
-            return kind == other.kind && lines.equals(other.lines);
-        }
-    }
-
-    private final StackTraceElement[] trace;
+    private final CallStack stack;
     private final String withoutTrace;
 
-    private AddedAt(StackTraceElement[] trace, String withoutTrace) {
-        this.trace = trace;
+    private AddedAt(CallStack stack, String withoutTrace) {
+        this.stack = stack;
         this.withoutTrace = withoutTrace;
     }
 
     /** Where a component was last added; null is allowed. */
     public static AddedAt of(Component component) {
-        return new AddedAt(StackTraceManager.getStackTrace(component), whyNoTrace(component));
-    }
-
-    /** What is folded out of a stack, innermost call first. */
-    static AddedAt of(StackTraceElement... trace) {
-        return new AddedAt(trace, "");
+        return new AddedAt(CallStack.of(StackTraceManager.getStackTrace(component)), whyNoTrace(component));
     }
 
     private static String whyNoTrace(Component component) {
@@ -86,14 +33,14 @@ public final class AddedAt {
         return Facts.parent(component) == null ? "not yet added to anything" : "its addition was not recorded";
     }
 
+    /** The stack of the addition; empty if none was recorded. */
+    public CallStack stack() {
+        return stack;
+    }
+
     /** The program's innermost line, the one that put the component where it is; null if there is none. */
     public StackTraceElement where() {
-        for (StackTraceElement line : trace) {
-            if (CallSite.isProgram(line)) {
-                return line;
-            }
-        }
-        return null;
+        return stack.where();
     }
 
     /** One line that says where, or why nobody knows. */
@@ -102,85 +49,11 @@ public final class AddedAt {
         if (where != null) {
             return CallSite.summary(where);
         }
-        return trace.length == 0 ? withoutTrace : "added by the toolkit, by no line of the program";
-    }
-
-    /** The whole stack as a program would print it, a line each; empty if there is none. */
-    public String text() {
-        StringBuilder text = new StringBuilder();
-        for (StackTraceElement line : trace) {
-            text.append(text.length() == 0 ? "" : "\n").append('\t').append(CallSite.link(line));
-        }
-        return text.toString();
+        return stack.isEmpty() ? withoutTrace : "added by the toolkit, by no line of the program";
     }
 
     /** Whether both say the same. */
     public boolean isSameAs(AddedAt other) {
-        return other != null && Arrays.equals(trace, other.trace) && withoutTrace.equals(other.withoutTrace);
-    }
-
-    /** The stack, innermost call first: lines of the program, and between them what is folded. */
-    public List<Part> parts() {
-        return foldRepeats(foldToolkit());
-    }
-
-    private List<Part> foldToolkit() {
-        List<Part> parts = new ArrayList<>();
-        for (int at = 0; at < trace.length;) {
-            int end = at + 1;
-            boolean isProgram = CallSite.isProgram(trace[at]);
-            while (!isProgram && end < trace.length && !CallSite.isProgram(trace[end])) {
-                end++;
-            }
-            parts.add(new Part(isProgram ? Kind.PROGRAM : Kind.TOOLKIT, Arrays.asList(trace).subList(at, end), 1));
-            at = end;
-        }
-        return parts;
-    }
-
-    private static List<Part> foldRepeats(List<Part> parts) {
-        List<Part> folded = new ArrayList<>();
-        for (int at = 0; at < parts.size();) {
-            int round = roundAt(parts, at);
-            if (round == 0) {
-                folded.add(parts.get(at++));
-                continue;
-            }
-            int end = endOfRepeats(parts, at, round);
-            folded.addAll(parts.subList(at, at + round));
-            folded.add(repeat(parts.subList(at + round, end), (end - at) / round - 1));
-            at = end;
-        }
-        return folded;
-    }
-
-    /** How many parts from a place on make the round that saves most lines when its repetitions go; 0 if none does. */
-    private static int roundAt(List<Part> parts, int at) {
-        int best = 0;
-        int mostSaved = 0;
-        for (int round = 1; round <= LONGEST_ROUND; round++) {
-            int saved = endOfRepeats(parts, at, round) - at - round - 1; // one line says that there are more
-            if (saved > mostSaved) {
-                best = round;
-                mostSaved = saved;
-            }
-        }
-        return best;
-    }
-
-    private static int endOfRepeats(List<Part> parts, int at, int round) {
-        int same = at + round;
-        while (same < parts.size() && parts.get(same).looksLike(parts.get(same - round))) {
-            same++;
-        }
-        return same - (same - at) % round;
-    }
-
-    private static Part repeat(List<Part> parts, int times) {
-        List<StackTraceElement> lines = new ArrayList<>();
-        for (Part part : parts) {
-            lines.addAll(part.lines);
-        }
-        return new Part(Kind.REPEAT, lines, times);
+        return other != null && stack.equals(other.stack) && withoutTrace.equals(other.withoutTrace);
     }
 }

@@ -74,34 +74,34 @@ final class Borders {
         String kind = text.split("\\s+", 2)[0].toLowerCase(Locale.ROOT);
         String rest = text.substring(kind.length()).trim();
         switch (kind) {
-        case "":
-        case "none":
-            return null;
-        case "titled":
-            return BorderFactory.createTitledBorder(rest);
-        case "etched":
-            return BorderFactory.createEtchedBorder();
-        case "raised":
-            return BorderFactory.createRaisedBevelBorder();
-        case "lowered":
-            return BorderFactory.createLoweredBevelBorder();
-        case "empty": {
-            Insets insets = Formats.insets(rest);
-            return BorderFactory.createEmptyBorder(insets.top, insets.left, insets.bottom, insets.right);
-        }
-        case "line": {
-            String[] parts = rest.split("\\s+");
-            int thickness = parts.length > 1 ? Integer.parseInt(parts[1]) : 1;
-            return BorderFactory.createLineBorder(color(parts[0]), thickness);
-        }
-        case "matte": {
-            int space = rest.lastIndexOf(' ');
-            Insets insets = Formats.insets(rest.substring(0, Math.max(0, space)));
-            Color color = color(rest.substring(space + 1));
-            return BorderFactory.createMatteBorder(insets.top, insets.left, insets.bottom, insets.right, color);
-        }
-        default:
-            throw new IllegalArgumentException();
+            case "":
+            case "none":
+                return null;
+            case "titled":
+                return BorderFactory.createTitledBorder(rest);
+            case "etched":
+                return BorderFactory.createEtchedBorder();
+            case "raised":
+                return BorderFactory.createRaisedBevelBorder();
+            case "lowered":
+                return BorderFactory.createLoweredBevelBorder();
+            case "empty": {
+                Insets insets = Formats.insets(rest);
+                return BorderFactory.createEmptyBorder(insets.top, insets.left, insets.bottom, insets.right);
+            }
+            case "line": {
+                String[] parts = rest.split("\\s+");
+                int thickness = parts.length > 1 ? Integer.parseInt(parts[1]) : 1;
+                return BorderFactory.createLineBorder(color(parts[0]), thickness);
+            }
+            case "matte": {
+                int space = rest.lastIndexOf(' ');
+                Insets insets = Formats.insets(rest.substring(0, Math.max(0, space)));
+                Color color = color(rest.substring(space + 1));
+                return BorderFactory.createMatteBorder(insets.top, insets.left, insets.bottom, insets.right, color);
+            }
+            default:
+                throw new IllegalArgumentException();
         }
     }
 

@@ -7,8 +7,8 @@ public final class CallSite {
      * languages that do not call Java directly. The name alone decides, for a recorded stack has no classes.
      */
     private static final String[] MACHINERY = {"java.", "javax.", "sun.", "com.sun.", "jdk.", "com.apple.", "apple.",
-        "com.vantrel.", "kotlin.", "groovy.lang.", "org.codehaus.groovy.", "org.apache.groovy.", "scala.",
-        "clojure.lang.", "clojure.core", "org.python."};
+            "com.vantrel.", "kotlin.", "groovy.lang.", "org.codehaus.groovy.", "org.apache.groovy.", "scala.",
+            "clojure.lang.", "clojure.core", "org.python."};
 
     private CallSite() {
     }

@@ -26,7 +26,7 @@ final class Calls {
     Object property(Object target, String property) {
         Class<?> type = target.getClass();
         Object getter = getters.computeIfAbsent(type, key -> new HashMap<>())
-                .computeIfAbsent(property, key -> getter(type, property));
+                                .computeIfAbsent(property, key -> getter(type, property));
         Set<String> not = refused.get(type);
         if (getter == NO_METHOD || not != null && not.contains(property)) {
             return NO_ANSWER;

@@ -39,20 +39,25 @@ final class Catalog {
 
     static {
         GROUPS.put(IDENTITY, Arrays.asList("name"));
-        GROUPS.put("State", Arrays.asList("enabled", "visible", "showing", "editable", "selected", "valid",
-                "displayable", "lightweight", "doubleBuffered"));
-        GROUPS.put(GEOMETRY, Arrays.asList("bounds", "on screen", "insets", "minimumSize", "preferredSize",
-                "maximumSize", "baseline", "alignmentX", "alignmentY", "componentOrientation"));
-        GROUPS.put(TEXT, Arrays.asList("text", "title", "label", "toolTipText", "actionCommand", "mnemonic",
-                "displayedMnemonic", "displayedMnemonicIndex", "horizontalAlignment", "verticalAlignment",
-                "horizontalTextPosition", "verticalTextPosition", "iconTextGap", "columns", "rows", "locale"));
-        GROUPS.put("Look", Arrays.asList("background", "foreground", "font", "border", "margin", "icon", "opaque",
-                "cursor", "UI", "borderPainted", "contentAreaFilled", "focusPainted", "rolloverEnabled"));
+        GROUPS.put("State",
+                Arrays.asList("enabled", "visible", "showing", "editable", "selected", "valid", "displayable",
+                        "lightweight", "doubleBuffered"));
+        GROUPS.put(GEOMETRY,
+                Arrays.asList("bounds", "on screen", "insets", "minimumSize", "preferredSize", "maximumSize",
+                        "baseline", "alignmentX", "alignmentY", "componentOrientation"));
+        GROUPS.put(TEXT,
+                Arrays.asList("text", "title", "label", "toolTipText", "actionCommand", "mnemonic", "displayedMnemonic",
+                        "displayedMnemonicIndex", "horizontalAlignment", "verticalAlignment", "horizontalTextPosition",
+                        "verticalTextPosition", "iconTextGap", "columns", "rows", "locale"));
+        GROUPS.put("Look",
+                Arrays.asList("background", "foreground", "font", "border", "margin", "icon", "opaque", "cursor", "UI",
+                        "borderPainted", "contentAreaFilled", "focusPainted", "rolloverEnabled"));
         GROUPS.put(LAYOUT, Arrays.asList("constraints", "parent's layout", "layout", "componentCount"));
-        GROUPS.put("Focus", Arrays.asList("focusable", "focusOwner", "requestFocusEnabled", "focusCycleRoot",
-                "focusCycleRootAncestor", "focusTraversalPolicy", "focusTraversalPolicySet",
-                "focusTraversalPolicyProvider", "focusTraversalKeysEnabled", "inputVerifier",
-                "verifyInputWhenFocusTarget"));
+        GROUPS.put("Focus",
+                Arrays.asList("focusable", "focusOwner", "requestFocusEnabled", "focusCycleRoot",
+                        "focusCycleRootAncestor", "focusTraversalPolicy", "focusTraversalPolicySet",
+                        "focusTraversalPolicyProvider", "focusTraversalKeysEnabled", "inputVerifier",
+                        "verifyInputWhenFocusTarget"));
         GROUPS.put(ACCESSIBILITY, Arrays.asList("accessibleName", "accessibleDescription", "accessibleRole"));
         GROUPS.put(CLIENT_PROPERTIES, new ArrayList<>());
     }
@@ -157,9 +162,10 @@ final class Catalog {
         }
         if (getter.setter != null) {
             Method write = getter.setter;
-            Format format = Constants.of(getter.name);
-            property.settable((on, value) -> Members.call(write, on, value),
-                    format != null && getter.type == int.class ? format : Formats.of(write.getParameterTypes()[0]));
+            Format named = Constants.of(getter.name);
+            Format format =
+                    named != null && getter.type == int.class ? named : Formats.of(write.getParameterTypes()[0]);
+            property.settable((on, value) -> Members.call(write, on, value), format);
         }
         storeOnlyWhatIsSet(property, read);
     }
@@ -168,23 +174,23 @@ final class Catalog {
     private void storeOnlyWhatIsSet(Property property, Method read) {
         Property.Get value = on -> Members.call(read, on);
         switch (property.name()) {
-        case "background":
-        case "foreground":
-        case "font":
-        case "cursor":
-            property.stored(on -> Boolean.TRUE.equals(Origin.isSet(on, property.name())) ? value.from(on) : null);
-            break;
-        case "minimumSize":
-            property.stored(on -> on.isMinimumSizeSet() ? value.from(on) : null);
-            break;
-        case "preferredSize":
-            property.stored(on -> on.isPreferredSizeSet() ? value.from(on) : null);
-            break;
-        case "maximumSize":
-            property.stored(on -> on.isMaximumSizeSet() ? value.from(on) : null);
-            break;
-        default:
-            break;
+            case "background":
+            case "foreground":
+            case "font":
+            case "cursor":
+                property.stored(on -> Boolean.TRUE.equals(Origin.isSet(on, property.name())) ? value.from(on) : null);
+                break;
+            case "minimumSize":
+                property.stored(on -> on.isMinimumSizeSet() ? value.from(on) : null);
+                break;
+            case "preferredSize":
+                property.stored(on -> on.isPreferredSizeSet() ? value.from(on) : null);
+                break;
+            case "maximumSize":
+                property.stored(on -> on.isMaximumSizeSet() ? value.from(on) : null);
+                break;
+            default:
+                break;
         }
     }
 
@@ -198,7 +204,8 @@ final class Catalog {
     }
 
     private void askProgram(Property property, Class<?> programs) {
-        property.asked(Code.shortName(programs) + " has its own method for it, which may do anything when it is called.");
+        property.asked(
+                Code.shortName(programs) + " has its own method for it, which may do anything when it is called.");
     }
 
     private static void askIfComputed(Property property, Class<?> overrider) {
@@ -267,14 +274,15 @@ final class Catalog {
 
     /** A component makes its accessible context when it is first asked for it, and listens to itself from then on. */
     private void addAccessibility() {
-        Property[] all = {
-            add(ACCESSIBILITY, "accessibleName", String.class, on -> context(on).getAccessibleName())
-                    .settable((on, value) -> context(on).setAccessibleName((String) value), Formats.of(String.class)),
-            add(ACCESSIBILITY, "accessibleDescription", String.class, on -> context(on).getAccessibleDescription())
-                    .settable((on, value) -> context(on).setAccessibleDescription((String) value),
-                            Formats.of(String.class)),
-            add(ACCESSIBILITY, "accessibleRole", String.class, on -> context(on).getAccessibleRole().toDisplayString())
-        };
+        Property name = add(ACCESSIBILITY, "accessibleName", String.class, on -> context(on).getAccessibleName());
+        name.settable((on, value) -> context(on).setAccessibleName((String) value), Formats.of(String.class));
+        Property description =
+                add(ACCESSIBILITY, "accessibleDescription", String.class, on -> context(on).getAccessibleDescription());
+        description.settable(
+                (on, value) -> context(on).setAccessibleDescription((String) value), Formats.of(String.class));
+        Property role = add(
+                ACCESSIBILITY, "accessibleRole", String.class, on -> context(on).getAccessibleRole().toDisplayString());
+        Property[] all = {name, description, role};
         Class<?> programs = getterOverrider != null ? getterOverrider : Code.overrider(type, "getAccessibleContext");
         for (Property property : all) {
             if (programs != null) {

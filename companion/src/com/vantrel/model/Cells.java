@@ -12,7 +12,8 @@ import javax.swing.tree.TreePath;
 
 /**
  * Cells of tables, trees and lists: the component that paints one, prepared as its owner prepares it. It is the
- * renderer's, shared by all cells, and in no window: to be read at once, not changed, and not held. For the event thread.
+ * renderer's, shared by all cells, and in no window: to be read at once, not changed, and not held. For the event
+ * thread.
  */
 public final class Cells {
     private Cells() {
@@ -32,8 +33,8 @@ public final class Cells {
         }
         if (owner instanceof JTable) {
             JTable table = (JTable) owner;
-            prepared = table.prepareRenderer(table.getCellRenderer(target.row(), target.column()), target.row(),
-                    target.column());
+            prepared = table.prepareRenderer(
+                    table.getCellRenderer(target.row(), target.column()), target.row(), target.column());
         } else if (owner instanceof JTree) {
             prepared = prepare((JTree) owner, target.row());
         } else if (owner instanceof JList) {
@@ -60,7 +61,8 @@ public final class Cells {
     private static <E> Component prepare(JList<E> list, int index) {
         ListModel<E> model = list.getModel();
         ListCellRenderer<? super E> renderer = list.getCellRenderer();
-        return renderer == null ? null
+        return renderer == null
+                ? null
                 : renderer.getListCellRendererComponent(list, model.getElementAt(index), index,
                         list.isSelectedIndex(index), list.hasFocus() && list.getLeadSelectionIndex() == index);
     }

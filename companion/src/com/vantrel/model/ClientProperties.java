@@ -14,7 +14,8 @@ import javax.swing.JComponent;
  */
 final class ClientProperties {
     private static final Field TABLE = Members.field(JComponent.class, "clientProperties");
-    private static final Method KEYS = TABLE == null ? null : Members.method(TABLE.getType(), "getKeys", Object[].class);
+    private static final Method KEYS =
+            TABLE == null ? null : Members.method(TABLE.getType(), "getKeys", Object[].class);
 
     private static final List<String> KNOWN = Arrays.asList("labeledBy", "ToolTipText", "html", "html.disable",
             "JComponent.sizeVariant", "JComponent.outline", "JButton.buttonType", "JButton.segmentPosition",

@@ -116,8 +116,8 @@ public final class Code {
     private static boolean has(Class<?> toolkit, Method method) {
         for (Class<?> at = toolkit; at != null; at = at.getSuperclass()) {
             try {
-                return !Modifier.isPrivate(at.getDeclaredMethod(method.getName(), method.getParameterTypes())
-                        .getModifiers());
+                return !Modifier.isPrivate(
+                        at.getDeclaredMethod(method.getName(), method.getParameterTypes()).getModifiers());
             } catch (NoSuchMethodException e) {
                 // The next one up, then.
             }

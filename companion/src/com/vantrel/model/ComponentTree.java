@@ -17,7 +17,9 @@ import java.util.function.Supplier;
  * place. For the event thread.
  */
 public final class ComponentTree {
-    /** How many rows a window that has just come may take: a small one is expanded whole, a large one as far as this. */
+    /**
+     * How many rows a window that has just come may take: a small one is expanded whole, a large one as far as this.
+     */
     private static final int ROWS_OF_NEW_WINDOW = 200;
     private static final int ROWS_OF_OTHERS = 20;
 

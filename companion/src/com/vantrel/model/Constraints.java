@@ -26,19 +26,19 @@ final class Constraints {
             BorderLayout.LINE_START, BorderLayout.LINE_END);
 
     private static final Format REGION = Format.chosen(REGIONS,
-            Arrays.asList("CENTER", "NORTH", "SOUTH", "WEST", "EAST", "PAGE_START", "PAGE_END", "LINE_START",
-                    "LINE_END"));
+            Arrays.asList(
+                    "CENTER", "NORTH", "SOUTH", "WEST", "EAST", "PAGE_START", "PAGE_END", "LINE_START", "LINE_END"));
 
     private static final Format GRID_BAG = Format.typed("constraints: type gridx=0 gridy=0, and what differs from the "
-            + "default of gridwidth, gridheight, weightx, weighty, anchor, fill, insets, ipadx, ipady",
+                    + "default of gridwidth, gridheight, weightx, weighty, anchor, fill, insets, ipadx, ipady",
             value -> write((GridBagConstraints) value), (text, old) -> gridBag(text));
 
-    private static final Format LAYER = Format.typed("a layer: type a whole number", String::valueOf,
-            (text, old) -> Integer.valueOf(text.trim()));
+    private static final Format LAYER =
+            Format.typed("a layer: type a whole number", String::valueOf, (text, old) -> Integer.valueOf(text.trim()));
 
     /** The library takes texts and objects of its own; those are replaced by a text, never edited as one. */
-    private static final Format TEXT = Format.typed("a text", value -> value instanceof String ? (String) value : "",
-            (text, old) -> text);
+    private static final Format TEXT =
+            Format.typed("a text", value -> value instanceof String ? (String) value : "", (text, old) -> text);
 
     private static final Pattern SETTING = Pattern.compile("\\s*(\\w+)\\s*=\\s*([^=]*?)(?=\\s+\\w+\\s*=|\\s*$)");
 
@@ -156,41 +156,41 @@ final class Constraints {
 
     private static void apply(GridBagConstraints made, String name, String value) {
         switch (name) {
-        case "gridx":
-            made.gridx = cell(value);
-            break;
-        case "gridy":
-            made.gridy = cell(value);
-            break;
-        case "gridwidth":
-            made.gridwidth = cell(value);
-            break;
-        case "gridheight":
-            made.gridheight = cell(value);
-            break;
-        case "weightx":
-            made.weightx = weight(value);
-            break;
-        case "weighty":
-            made.weighty = weight(value);
-            break;
-        case "anchor":
-            made.anchor = number(ANCHORS, value);
-            break;
-        case "fill":
-            made.fill = number(FILLS, value);
-            break;
-        case "insets":
-            made.insets = Formats.insets(value);
-            break;
-        case "ipadx":
-            made.ipadx = whole(value);
-            break;
-        case "ipady":
-            made.ipady = whole(value);
-            break;
-        default:
-            throw new IllegalArgumentException("GridBagConstraints have no \u201c" + name + "\u201d.");
+            case "gridx":
+                made.gridx = cell(value);
+                break;
+            case "gridy":
+                made.gridy = cell(value);
+                break;
+            case "gridwidth":
+                made.gridwidth = cell(value);
+                break;
+            case "gridheight":
+                made.gridheight = cell(value);
+                break;
+            case "weightx":
+                made.weightx = weight(value);
+                break;
+            case "weighty":
+                made.weighty = weight(value);
+                break;
+            case "anchor":
+                made.anchor = number(ANCHORS, value);
+                break;
+            case "fill":
+                made.fill = number(FILLS, value);
+                break;
+            case "insets":
+                made.insets = Formats.insets(value);
+                break;
+            case "ipadx":
+                made.ipadx = whole(value);
+                break;
+            case "ipady":
+                made.ipady = whole(value);
+                break;
+            default:
+                throw new IllegalArgumentException("GridBagConstraints have no \u201c" + name + "\u201d.");
         }
     }
 
@@ -200,7 +200,8 @@ final class Constraints {
         }
         int number = value.equalsIgnoreCase("REMAINDER") ? GridBagConstraints.REMAINDER : whole(value);
         if (number < 0) {
-            throw new IllegalArgumentException("A place in the grid is not negative, but \u201c" + value + "\u201d is.");
+            throw new IllegalArgumentException(
+                    "A place in the grid is not negative, but \u201c" + value + "\u201d is.");
         }
         return number;
     }

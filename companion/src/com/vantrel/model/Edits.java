@@ -59,7 +59,7 @@ public final class Edits {
     private final Deque<Edit> done = new ArrayDeque<>();
     private final Deque<Edit> undone = new ArrayDeque<>();
     private final List<Runnable> listeners = new ArrayList<>();
-    private Consumer<String> complaints = message -> { };
+    private Consumer<String> complaints = message -> {};
 
     /**
      * @param there runs a task on the event thread of a component
@@ -177,8 +177,8 @@ public final class Edits {
         }
     }
 
-    private void write(Component component, Property property, Object value, boolean read,
-            BiConsumer<Object, String> told) {
+    private void write(
+            Component component, Property property, Object value, boolean read, BiConsumer<Object, String> told) {
         there.accept(component, () -> {
             Object before = null;
             String message = null;

@@ -54,8 +54,7 @@ public final class Facts {
 
     /** A component's parent; a window's owner. */
     public static Container parent(Component component) {
-        return toolkits(component, "getParent") ? component.getParent()
-                : (Container) Fields.PARENT.of(component, null);
+        return toolkits(component, "getParent") ? component.getParent() : (Container) Fields.PARENT.of(component, null);
     }
 
     /** The components in a container, in its order, and behind them the windows that it owns. */
@@ -99,13 +98,11 @@ public final class Facts {
     }
 
     public static boolean isVisible(Component component) {
-        return toolkits(component, "isVisible") ? component.isVisible()
-                : (Boolean) Fields.VISIBLE.of(component, true);
+        return toolkits(component, "isVisible") ? component.isVisible() : (Boolean) Fields.VISIBLE.of(component, true);
     }
 
     public static boolean isEnabled(Component component) {
-        return toolkits(component, "isEnabled") ? component.isEnabled()
-                : (Boolean) Fields.ENABLED.of(component, true);
+        return toolkits(component, "isEnabled") ? component.isEnabled() : (Boolean) Fields.ENABLED.of(component, true);
     }
 
     /** A component's bounds in its parent; a window's on the screen. */
@@ -142,6 +139,10 @@ public final class Facts {
         if (component instanceof JInternalFrame) {
             return text(component, "getTitle", Fields.INTERNAL_TITLE, () -> ((JInternalFrame) component).getTitle());
         }
+        if (component instanceof JInternalFrame.JDesktopIcon && toolkits(component, "getInternalFrame")) {
+            JInternalFrame frame = ((JInternalFrame.JDesktopIcon) component).getInternalFrame();
+            return frame == null ? null : textOf(frame);
+        }
         if (component instanceof JTextComponent) {
             return documentText((JTextComponent) component);
         }
@@ -163,8 +164,8 @@ public final class Facts {
         return null;
     }
 
-    private static String text(Component component, String method, Fields field,
-            java.util.function.Supplier<String> getter) {
+    private static String text(
+            Component component, String method, Fields field, java.util.function.Supplier<String> getter) {
         return cut(toolkits(component, method) ? getter.get() : (String) field.of(component, null));
     }
 
@@ -182,12 +183,13 @@ public final class Facts {
     private static String borderTitle(JComponent component) {
         Border border = toolkits(component, "getBorder") ? component.getBorder() : null;
         return border != null && border.getClass() == TitledBorder.class ? cut(((TitledBorder) border).getTitle())
-                : null;
+                                                                         : null;
     }
 
     private static String cut(String text) {
-        return text == null || text.isEmpty() ? null
-                : text.length() > LONGEST_TEXT ? text.substring(0, LONGEST_TEXT) : text;
+        return text == null || text.isEmpty()  ? null
+                : text.length() > LONGEST_TEXT ? text.substring(0, LONGEST_TEXT)
+                                               : text;
     }
 
     /** The tooltip that was set on a component; null for none. */

@@ -9,7 +9,9 @@ import java.util.List;
  * text. Stateless, for any thread.
  */
 public final class Format {
-    /** Makes a value of a text that the user has typed; throws IllegalArgumentException with what it should have been. */
+    /**
+     * Makes a value of a text that the user has typed; throws IllegalArgumentException with what it should have been.
+     */
     interface Parser {
         Object parse(String text, Object old);
     }
@@ -42,8 +44,12 @@ public final class Format {
 
     /** One of a few values, each with its name in the same place. */
     static Format chosen(List<?> values, List<String> names) {
-        return chosen(values, names, value -> values.contains(value) ? names.get(values.indexOf(value))
-                : value instanceof Number ? value.toString() : Values.object(value));
+        return chosen(values, names, value -> {
+            if (values.contains(value)) {
+                return names.get(values.indexOf(value));
+            }
+            return value instanceof Number ? value.toString() : Values.object(value);
+        });
     }
 
     /** As above, where there are values beside those to choose from that can be written, too. */
@@ -86,7 +92,8 @@ public final class Format {
         try {
             return parser.parse(text, old);
         } catch (IllegalArgumentException e) {
-            // A parser that knows better than to name what it expects has a message; a number's has one, too, of no use.
+            // A parser that knows better than to name what it expects has a message; a number's has one, too, of no
+            // use.
             boolean own = e.getMessage() != null && !(e instanceof NumberFormatException);
             throw new IllegalArgumentException(
                     own ? e.getMessage() : "\u201c" + text + "\u201d is not " + expects + ".", e);

@@ -55,41 +55,48 @@ final class Formats {
         both(long.class, Long.class, number(Long::valueOf, "a whole number that a long can hold"));
         both(float.class, Float.class, number(text -> finite(Float.valueOf(text)), "a number"));
         both(double.class, Double.class, number(text -> finite(Double.valueOf(text)), "a number"));
-        both(char.class, Character.class, Format.typed("a single character, or nothing for none",
-                value -> (char) value == 0 ? "" : value.toString(), (text, old) -> {
-                    require(text.length() <= 1);
-                    return text.isEmpty() ? '\0' : text.charAt(0);
-                }));
+        both(char.class, Character.class,
+                Format.typed("a single character, or nothing for none",
+                        value -> (char) value == 0 ? "" : value.toString(), (text, old) -> {
+                            require(text.length() <= 1);
+                            return text.isEmpty() ? '\0' : text.charAt(0);
+                        }));
         BY_TYPE.put(String.class, Format.typed("a text", value -> (String) value, (text, old) -> text));
-        BY_TYPE.put(Color.class, Format.typed("a colour: type #rrggbb, #rrggbbaa, or red, green, blue from 0 to 255",
-                value -> write((Color) value), (text, old) -> color(text)));
-        BY_TYPE.put(Font.class, Format.typed("a font: type a family, plain, bold or italic, and a size from 1 to 999",
-                value -> write((Font) value), (text, old) -> font(text, (Font) old)));
-        BY_TYPE.put(Insets.class, Format.typed("insets: type top, left, bottom, right, or one number for all four",
-                value -> write((Insets) value), (text, old) -> orNull(text, () -> insets(text))));
-        BY_TYPE.put(Dimension.class, Format.typed("a size: type width \u00d7 height, not negative",
-                value -> write((Dimension) value), (text, old) -> orNull(text, () -> {
-                    int[] size = numbers(text, 2);
-                    require(size[0] >= 0 && size[1] >= 0);
-                    return new Dimension(size[0], size[1]);
-                })));
-        BY_TYPE.put(Point.class, Format.typed("a position: type x, y",
-                value -> ((Point) value).x + ", " + ((Point) value).y, (text, old) -> {
-                    int[] at = numbers(text, 2);
-                    return new Point(at[0], at[1]);
-                }));
-        BY_TYPE.put(Rectangle.class, Format.typed("a rectangle: type x, y, width \u00d7 height, no size negative",
-                value -> write((Rectangle) value), (text, old) -> {
-                    int[] at = numbers(text, 4);
-                    require(at[2] >= 0 && at[3] >= 0);
-                    return new Rectangle(at[0], at[1], at[2], at[3]);
-                }));
+        BY_TYPE.put(Color.class,
+                Format.typed("a colour: type #rrggbb, #rrggbbaa, or red, green, blue from 0 to 255",
+                        value -> write((Color) value), (text, old) -> color(text)));
+        BY_TYPE.put(Font.class,
+                Format.typed("a font: type a family, plain, bold or italic, and a size from 1 to 999",
+                        value -> write((Font) value), (text, old) -> font(text, (Font) old)));
+        BY_TYPE.put(Insets.class,
+                Format.typed("insets: type top, left, bottom, right, or one number for all four",
+                        value -> write((Insets) value), (text, old) -> orNull(text, () -> insets(text))));
+        BY_TYPE.put(Dimension.class,
+                Format.typed("a size: type width \u00d7 height, not negative",
+                        value -> write((Dimension) value), (text, old) -> orNull(text, () -> {
+                            int[] size = numbers(text, 2);
+                            require(size[0] >= 0 && size[1] >= 0);
+                            return new Dimension(size[0], size[1]);
+                        })));
+        BY_TYPE.put(Point.class,
+                Format.typed(
+                        "a position: type x, y", value -> ((Point) value).x + ", " + ((Point) value).y, (text, old) -> {
+                            int[] at = numbers(text, 2);
+                            return new Point(at[0], at[1]);
+                        }));
+        BY_TYPE.put(Rectangle.class,
+                Format.typed("a rectangle: type x, y, width \u00d7 height, no size negative",
+                        value -> write((Rectangle) value), (text, old) -> {
+                            int[] at = numbers(text, 4);
+                            require(at[2] >= 0 && at[3] >= 0);
+                            return new Rectangle(at[0], at[1], at[2], at[3]);
+                        }));
         BY_TYPE.put(Border.class, Borders.FORMAT);
         BY_TYPE.put(Cursor.class, cursors());
-        BY_TYPE.put(ComponentOrientation.class, Format.chosen(
-                Arrays.asList(ComponentOrientation.LEFT_TO_RIGHT, ComponentOrientation.RIGHT_TO_LEFT,
-                        ComponentOrientation.UNKNOWN),
-                Arrays.asList("left to right", "right to left", "unknown")));
+        BY_TYPE.put(ComponentOrientation.class,
+                Format.chosen(Arrays.asList(ComponentOrientation.LEFT_TO_RIGHT, ComponentOrientation.RIGHT_TO_LEFT,
+                                      ComponentOrientation.UNKNOWN),
+                        Arrays.asList("left to right", "right to left", "unknown")));
     }
 
     private static void both(Class<?> primitive, Class<?> boxed, Format format) {

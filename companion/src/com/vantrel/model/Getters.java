@@ -42,8 +42,8 @@ final class Getters {
             "locationOnScreen", "mousePosition", "bufferStrategy", "ownedWindows", "password", "selectedText", "x", "y",
             "width", "height", "size", "location", "backgroundSet", "foregroundSet", "fontSet", "cursorSet",
             "minimumSizeSet", "preferredSizeSet", "maximumSizeSet", "focusTraversable", "managingFocus",
-            "nextFocusableComponent", "paintingTile", "paintingForPrint", "visibleRect", "UIClassID",
-            "selectedValues", "selectedValuesList", "menuComponents", "subElements", "component"));
+            "nextFocusableComponent", "paintingTile", "paintingForPrint", "visibleRect", "UIClassID", "selectedValues",
+            "selectedValuesList", "menuComponents", "subElements", "component"));
 
     private Getters() {
     }

@@ -2,6 +2,7 @@ package com.vantrel.model;
 
 import java.awt.Component;
 import java.lang.reflect.Field;
+import java.util.ArrayList;
 import java.util.List;
 
 import javax.swing.GroupLayout;
@@ -17,18 +18,21 @@ final class Groups {
     private Groups() {
     }
 
-    /** A line for each direction: what stands in brackets comes after each other, what stands in braces side by side. */
+    /**
+     * A line for each direction: what stands in brackets comes after each other, what stands in braces side by side.
+     */
     static void describe(List<Row> rows, String group, GroupLayout layout) throws Throwable {
         if (HORIZONTAL == null || VERTICAL == null) {
-            rows.add(Row.of(group, "groups", "not seen").kind(Row.Kind.DIM)
-                    .explanation("GroupLayout keeps its groups to itself in this Java VM."));
+            rows.add(Row.of(group, "groups", "not seen")
+                             .kind(Row.Kind.DIM)
+                             .explanation("GroupLayout keeps its groups to itself in this Java VM."));
         } else {
             String how = "What stands in [ ] comes one after the other, what stands in { } in the same place.";
             rows.add(Row.of(group, "horizontally", text(HORIZONTAL.get(layout))).explanation(how));
             rows.add(Row.of(group, "vertically", text(VERTICAL.get(layout))).explanation(how));
         }
-        rows.add(Row.of(group, "automatic gaps", layout.getAutoCreateGaps() + " between, "
-                + layout.getAutoCreateContainerGaps() + " around"));
+        rows.add(Row.of(group, "automatic gaps",
+                layout.getAutoCreateGaps() + " between, " + layout.getAutoCreateContainerGaps() + " around"));
     }
 
     private static String text(Object spring) throws Throwable {
@@ -58,6 +62,31 @@ final class Groups {
         }
         Field component = field(spring, "component");
         text.append(component == null ? "gap" : Code.describe((Component) component.get(spring)));
+        text.append(sizes(spring));
+    }
+
+    /** The sizes that the program has given: the smallest, preferred and largest; empty where it has given none. */
+    private static String sizes(Object spring) throws IllegalAccessException {
+        List<String> sizes = new ArrayList<>();
+        boolean given = false;
+        for (String name : new String[] {"min", "pref", "max"}) {
+            Field field = field(spring, name);
+            if (field == null || field.getType() != int.class) {
+                return "";
+            }
+            int size = field.getInt(spring);
+            given |= size > 0;
+            sizes.add(size(size));
+        }
+        boolean fixed = sizes.get(0).equals(sizes.get(1)) && sizes.get(1).equals(sizes.get(2));
+        return !given ? "" : " " + (fixed ? sizes.get(0) : String.join("..", sizes));
+    }
+
+    private static String size(int size) {
+        return size == GroupLayout.DEFAULT_SIZE      ? "default"
+                : size == GroupLayout.PREFERRED_SIZE ? "preferred"
+                : size >= Short.MAX_VALUE            ? "\u221e"
+                                                     : Integer.toString(size);
     }
 
     private static Field field(Object spring, String name) {

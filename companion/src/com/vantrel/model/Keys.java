@@ -32,8 +32,8 @@ import javax.swing.text.JTextComponent;
  * which of them would take a key. For the event thread.
  */
 public final class Keys {
-    private static final String[] CONDITIONS = {"when focused", "when a part of it is focused",
-            "when its window is focused"};
+    private static final String[] CONDITIONS = {
+            "when focused", "when a part of it is focused", "when its window is focused"};
     private static final int MOST_IN_WINDOW = 2000;
 
     private Keys() {
@@ -137,8 +137,9 @@ public final class Keys {
         for (KeyStroke stroke : strokes) {
             Binding binding = Binding.of(place, stroke);
             boolean programs = binding.isPrograms();
-            (programs ? own : toolkits).add(programs ? binding.row(place.title())
-                    : binding.row(place.title() + " \u00b7 the toolkit's").folded());
+            (programs ? own : toolkits)
+                    .add(programs ? binding.row(place.title())
+                                  : binding.row(place.title() + " \u00b7 the toolkit's").folded());
         }
         for (List<Row> part : Arrays.asList(own, toolkits)) {
             part.sort((one, other) -> one.name().compareTo(other.name()));
@@ -209,8 +210,8 @@ public final class Keys {
 
         /** A menu's items need not show: their menu bar must. */
         private static boolean isReachable(Component component) {
-            for (Component at = component; at != null; at = at instanceof JPopupMenu
-                    ? ((JPopupMenu) at).getInvoker() : at.getParent()) {
+            for (Component at = component; at != null;
+                    at = at instanceof JPopupMenu ? ((JPopupMenu) at).getInvoker() : at.getParent()) {
                 if (at instanceof JMenuBar) {
                     return at.isShowing();
                 }
@@ -229,8 +230,10 @@ public final class Keys {
 
         Row row(String group) {
             String acts = action == null ? "no action" : actor(action.getClass());
-            Row row = Row.of(group, text(stroke), Values.text(name)).note(acts)
-                    .type(action == null ? "" : action.getClass().getName()).programs(isPrograms());
+            Row row = Row.of(group, text(stroke), Values.text(name))
+                              .note(acts)
+                              .type(action == null ? "" : action.getClass().getName())
+                              .programs(isPrograms());
             return action == null ? row.kind(Row.Kind.DIM) : row;
         }
     }
@@ -246,7 +249,8 @@ public final class Keys {
         KeyStroke stroke = KeyStroke.getKeyStrokeForEvent(pressed);
         boolean moves = takers(rows, "Pressed: " + text(stroke), component, stroke);
         boolean plain = (pressed.getModifiersEx()
-                & (InputEvent.CTRL_DOWN_MASK | InputEvent.ALT_DOWN_MASK | InputEvent.META_DOWN_MASK)) == 0;
+                                & (InputEvent.CTRL_DOWN_MASK | InputEvent.ALT_DOWN_MASK | InputEvent.META_DOWN_MASK))
+                == 0;
         // A key that moves the focus does so instead of typing anything.
         if (plain && !moves && pressed.getKeyChar() != KeyEvent.CHAR_UNDEFINED) {
             KeyStroke typed = KeyStroke.getKeyStroke(pressed.getKeyChar());
@@ -264,7 +268,7 @@ public final class Keys {
         int listeners = component.getKeyListeners().length;
         if (listeners > 0) {
             rows.add(Row.of(group, "key listeners", Values.count(listeners, "listener"))
-                    .note("asked first; any of them may take it"));
+                             .note("asked first; any of them may take it"));
         }
         boolean typed = stroke.getKeyChar() != KeyEvent.CHAR_UNDEFINED;
         for (Place place : places(component)) {
@@ -273,17 +277,20 @@ public final class Keys {
                 String hindrance = taken ? "it is taken already" : binding.hindrance();
                 Row row = binding.row(group);
                 rows.add(Row.of(group, hindrance == null ? "taken by" : "passed over", row.value())
-                        .note(place.title()).type(row.type()).programs(row.isPrograms() && hindrance == null)
-                        .kind(hindrance == null ? Row.Kind.PLAIN : Row.Kind.DIM)
-                        .explanation(hindrance == null ? "" : "Not taken: " + hindrance + "."));
+                                 .note(place.title())
+                                 .type(row.type())
+                                 .programs(row.isPrograms() && hindrance == null)
+                                 .kind(hindrance == null ? Row.Kind.PLAIN : Row.Kind.DIM)
+                                 .explanation(hindrance == null ? "" : "Not taken: " + hindrance + "."));
                 taken |= hindrance == null;
             }
         }
         if (!taken) {
             boolean text = typed && component instanceof JTextComponent;
             rows.add(Row.of(group, text ? "taken by" : "nobody",
-                    text ? "the text component's keymap, which inserts the character"
-                            : "no binding takes it").kind(text ? Row.Kind.PLAIN : Row.Kind.DIM));
+                                text ? "the text component's keymap, which inserts the character"
+                                     : "no binding takes it")
+                             .kind(text ? Row.Kind.PLAIN : Row.Kind.DIM));
         }
         return false;
     }
@@ -293,8 +300,8 @@ public final class Keys {
         if (!component.getFocusTraversalKeysEnabled()) {
             return false;
         }
-        String[] ways = {"to the next component", "to the previous component", "out of the focus cycle",
-                "into the focus cycle"};
+        String[] ways = {
+                "to the next component", "to the previous component", "out of the focus cycle", "into the focus cycle"};
         boolean root = component instanceof Container && ((Container) component).isFocusCycleRoot();
         int last = root ? KeyboardFocusManager.DOWN_CYCLE_TRAVERSAL_KEYS : KeyboardFocusManager.UP_CYCLE_TRAVERSAL_KEYS;
         for (int way = 0; way <= last; way++) {

@@ -45,7 +45,7 @@ import javax.swing.text.JTextComponent;
 
 /** The kinds of component that people tell apart at a glance. */
 public enum Kind {
-    FRAME(Frame.class, JInternalFrame.class),
+    FRAME(Frame.class, JInternalFrame.class, JInternalFrame.JDesktopIcon.class),
     DIALOG(Dialog.class),
     WINDOW(Window.class),
     CHECK(JCheckBox.class, Checkbox.class),

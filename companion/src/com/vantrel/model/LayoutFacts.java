@@ -61,21 +61,24 @@ public final class LayoutFacts {
         }
         int is = wide ? ((Rectangle) bounds).width : ((Rectangle) bounds).height;
         int wants = wide ? ((Dimension) preferred).width : ((Dimension) preferred).height;
-        String difference = is == wants ? "as preferred" : is > wants ? is - wants + " more than preferred"
-                : wants - is + " less than preferred";
+        String difference = is == wants ? "as preferred"
+                : is > wants            ? is - wants + " more than preferred"
+                                        : wants - is + " less than preferred";
         String reason;
         try {
-            reason = Managers.reason(component, wide);
+            reason = SizeReason.of(component, wide);
         } catch (RuntimeException e) {
             reason = Values.error(e);
         }
         rows.add(Row.of(SIZE, wide ? "its width" : "its height",
-                is == wants || reason == null ? difference : difference + ": " + reason).kind(is == wants ? Row.Kind.DIM : Row.Kind.PLAIN));
+                            is == wants || reason == null ? difference : difference + ": " + reason)
+                         .kind(is == wants ? Row.Kind.DIM : Row.Kind.PLAIN));
     }
 
     private static void addParent(List<Row> rows, Reading reading, Component component, Container parent) {
-        rows.add(Row.of(PARENT, "parent", Code.describe(parent)).note(Formats.write(Facts.bounds(parent).getSize()))
-                .programs(!Code.isMachinery(parent.getClass())));
+        rows.add(Row.of(PARENT, "parent", Code.describe(parent))
+                         .note(Formats.write(Facts.bounds(parent).getSize()))
+                         .programs(!Code.isMachinery(parent.getClass())));
         Row constraints = reading.row("constraints");
         if (constraints != null) {
             rows.add(constraints.in(PARENT));
@@ -93,10 +96,10 @@ public final class LayoutFacts {
         for (Component child : Children.of(parent)) {
             if (index < MOST_SIBLINGS) {
                 boolean self = child == component;
-                rows.add(Row.of(SIBLINGS, index + "  " + Code.describe(child),
-                        Formats.write(Facts.bounds(child)))
-                        .note(self ? "this one" : Managers.place(child)).programs(self)
-                        .kind(Facts.isVisible(child) ? Row.Kind.PLAIN : Row.Kind.DIM));
+                rows.add(Row.of(SIBLINGS, index + "  " + Code.describe(child), Formats.write(Facts.bounds(child)))
+                                 .note(self ? "this one" : Managers.place(child))
+                                 .programs(self)
+                                 .kind(Facts.isVisible(child) ? Row.Kind.PLAIN : Row.Kind.DIM));
             }
             index++;
         }

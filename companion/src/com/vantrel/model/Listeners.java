@@ -25,8 +25,8 @@ import javax.swing.Action;
  * Asks the toolkit's own methods only, and no listener. For the event thread.
  */
 public final class Listeners {
-    private static final List<String> MODELS = Arrays.asList("getModel", "getSelectionModel", "getColumnModel",
-            "getDocument", "getCaret");
+    private static final List<String> MODELS =
+            Arrays.asList("getModel", "getSelectionModel", "getColumnModel", "getDocument", "getCaret");
 
     private Listeners() {
     }
@@ -155,8 +155,8 @@ public final class Listeners {
 
     /** The name of an action, if asking for it does not ask the program. */
     private static String action(Action action) {
-        boolean askable = action instanceof AbstractAction
-                && Code.overrider(action.getClass(), "getValue", String.class) == null;
+        boolean askable =
+                action instanceof AbstractAction && Code.overrider(action.getClass(), "getValue", String.class) == null;
         Object name = askable ? action.getValue(Action.NAME) : null;
         return name == null ? "an action" : "action \"" + Values.text(name) + "\"";
     }

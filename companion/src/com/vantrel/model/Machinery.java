@@ -37,8 +37,7 @@ enum Machinery {
             return NO;
         }
         if (component instanceof CellRendererPane || component instanceof BasicSplitPaneDivider
-                || component instanceof BasicInternalFrameTitlePane
-                || component instanceof JInternalFrame.JDesktopIcon) {
+                || component instanceof BasicInternalFrameTitlePane || parent instanceof JInternalFrame.JDesktopIcon) {
             return PART;
         }
         if (component instanceof JViewport || component instanceof JRootPane
@@ -55,8 +54,9 @@ enum Machinery {
             return component.getClass().getName().contains("SharedOwnerFrame") ? BETWEEN : NO;
         }
         boolean scrolls = component instanceof JScrollBar && parent instanceof JScrollPane;
-        boolean arrow = component instanceof AbstractButton && (component instanceof UIResource
-                || parent instanceof JScrollBar || parent instanceof JComboBox || parent instanceof JSpinner);
+        boolean arrow = component instanceof AbstractButton
+                && (component instanceof UIResource || parent instanceof JScrollBar || parent instanceof JComboBox
+                        || parent instanceof JSpinner);
         return scrolls || arrow ? PART : NO;
     }
 

@@ -9,6 +9,7 @@ import java.awt.GridBagConstraints;
 import java.awt.GridBagLayout;
 import java.awt.GridLayout;
 import java.awt.LayoutManager;
+import java.awt.LayoutManager2;
 import java.util.Arrays;
 import java.util.List;
 import java.util.Locale;
@@ -16,21 +17,20 @@ import java.util.Locale;
 import javax.swing.BoxLayout;
 import javax.swing.GroupLayout;
 import javax.swing.JScrollPane;
-import javax.swing.JViewport;
 import javax.swing.OverlayLayout;
 import javax.swing.ScrollPaneLayout;
-import javax.swing.Scrollable;
 import javax.swing.SpringLayout;
 import javax.swing.ViewportLayout;
+import javax.swing.plaf.UIResource;
 
 /**
- * What there is to know of a layout manager: what it was set to, what it was told of one child, and why it gives that
- * child the size that it has. For the event thread.
+ * What there is to know of a layout manager: what it was set to, and what it was told of one child. For the event
+ * thread.
  */
 final class Managers {
     private static final List<String> ALIGNMENTS = Arrays.asList("LEFT", "CENTER", "RIGHT", "LEADING", "TRAILING");
-    private static final List<String> REGIONS = Arrays.asList(BorderLayout.NORTH, BorderLayout.SOUTH,
-            BorderLayout.WEST, BorderLayout.EAST, BorderLayout.CENTER, BorderLayout.PAGE_START, BorderLayout.PAGE_END,
+    private static final List<String> REGIONS = Arrays.asList(BorderLayout.NORTH, BorderLayout.SOUTH, BorderLayout.WEST,
+            BorderLayout.EAST, BorderLayout.CENTER, BorderLayout.PAGE_START, BorderLayout.PAGE_END,
             BorderLayout.LINE_START, BorderLayout.LINE_END);
 
     private Managers() {
@@ -44,17 +44,29 @@ final class Managers {
             return;
         }
         boolean programs = !Code.isMachinery(layout.getClass());
-        Row row = Row.of(group, "manager", Code.shortName(layout.getClass())).type(layout.getClass().getName())
-                .programs(programs);
+        Row row = Row.of(group, "manager", name(layout)).type(layout.getClass().getName()).programs(programs);
         rows.add(row);
         try {
             if (!parameters(rows, group, layout, container)) {
-                row.explanation(programs ? "A manager of the program's own, which tells nobody how it lays out."
-                        : "A manager inside of the toolkit, which knows the parts of this component and lays out those.");
+                row.explanation(programs
+                                ? "A manager of the program's own, which tells nobody how it lays out."
+                                : "A manager inside of the toolkit, which knows the parts of this component and lays out those.");
             }
         } catch (Throwable thrown) {
             rows.add(Row.of(group, "settings", Values.error(thrown)).kind(Row.Kind.ERROR));
         }
+    }
+
+    /**
+     * A manager's class as people say it. Those inside of the toolkit's classes have names that say little by
+     * themselves, such as "Handler"; what is only marked as a look and feel's is called by what it is.
+     */
+    static String name(LayoutManager layout) {
+        Class<?> type = layout.getClass();
+        if (layout instanceof UIResource && Code.isToolkit(type)) {
+            type = type.getSuperclass() == Object.class ? type : type.getSuperclass();
+        }
+        return Code.isToolkit(type) ? Code.withoutPackage(type.getName()).replace('$', '.') : Code.shortName(type);
     }
 
     private static boolean parameters(List<Row> rows, String group, LayoutManager layout, Container of)
@@ -62,7 +74,9 @@ final class Managers {
         if (MigLayouts.isOne(layout)) {
             for (String what : Arrays.asList("Layout", "Column", "Row")) {
                 Object told = MigLayouts.ofAll(layout, what);
-                rows.add(Row.of(group, what.toLowerCase(Locale.ROOT), Values.text(told)));
+                if (told != null && !told.equals("")) {
+                    rows.add(Row.of(group, what.toLowerCase(Locale.ROOT), Values.text(told)));
+                }
             }
         } else if (Code.getterOverrider(layout.getClass()) != null) {
             return false;
@@ -96,7 +110,7 @@ final class Managers {
                 }
             }
         } else if (layout instanceof BoxLayout) {
-            rows.add(Row.of(group, "axis", axis((BoxLayout) layout, of) ? "horizontal" : "vertical"));
+            rows.add(Row.of(group, "axis", isHorizontal((BoxLayout) layout, of) ? "horizontal" : "vertical"));
         } else if (layout instanceof GridBagLayout) {
             int[][] sizes = ((GridBagLayout) layout).getLayoutDimensions();
             double[][] weights = ((GridBagLayout) layout).getLayoutWeights();
@@ -105,8 +119,8 @@ final class Managers {
         } else if (layout instanceof GroupLayout) {
             Groups.describe(rows, group, (GroupLayout) layout);
         } else {
-            return layout instanceof SpringLayout || layout instanceof OverlayLayout
-                    || layout instanceof ViewportLayout || layout instanceof ScrollPaneLayout;
+            return layout instanceof SpringLayout || layout instanceof OverlayLayout || layout instanceof ViewportLayout
+                    || layout instanceof ScrollPaneLayout;
         }
         return true;
     }
@@ -130,15 +144,16 @@ final class Managers {
         return Values.cut(text.toString());
     }
 
-    private static boolean axis(BoxLayout layout, Container of) {
+    /** Whether a BoxLayout lays out from left to right or the other way. */
+    static boolean isHorizontal(BoxLayout layout, Container of) {
         boolean leftToRight = of.getComponentOrientation().isHorizontal();
         switch (layout.getAxis()) {
-        case BoxLayout.LINE_AXIS:
-            return leftToRight;
-        case BoxLayout.PAGE_AXIS:
-            return !leftToRight;
-        default:
-            return layout.getAxis() == BoxLayout.X_AXIS;
+            case BoxLayout.LINE_AXIS:
+                return leftToRight;
+            case BoxLayout.PAGE_AXIS:
+                return !leftToRight;
+            default:
+                return layout.getAxis() == BoxLayout.X_AXIS;
         }
     }
 
@@ -154,12 +169,26 @@ final class Managers {
             if (format != null) {
                 Object told = Constraints.of(child);
                 return told instanceof GridBagConstraints ? cell((GridBagConstraints) told)
-                        : told == null ? "" : format.write(told);
+                        : told == null                    ? ""
+                                                          : format.write(told);
             }
-            if (layout instanceof SpringLayout && Code.getterOverrider(layout.getClass()) == null) {
+            if (layout == null || Code.getterOverrider(layout.getClass()) != null) {
+                return "";
+            }
+            if (layout instanceof SpringLayout) {
                 SpringLayout.Constraints springs = ((SpringLayout) layout).getConstraints(child);
                 return "x " + springs.getX().getValue() + ", y " + springs.getY().getValue() + ", width "
                         + springs.getWidth().getValue() + ", height " + springs.getHeight().getValue();
+            }
+            if (layout instanceof CardLayout) {
+                String card = Cards.name((CardLayout) layout, child);
+                return card == null ? "" : "card \u201c" + card + "\u201d";
+            }
+            if (layout instanceof OverlayLayout) {
+                return canTellAlignment(child) ? alignmentX(child) + ", " + alignmentY(child) : "";
+            }
+            if (layout instanceof BoxLayout && canTellAlignment(child)) {
+                return isHorizontal((BoxLayout) layout, parent) ? alignmentY(child) : alignmentX(child);
             }
             return "";
         } catch (Throwable thrown) {
@@ -167,72 +196,38 @@ final class Managers {
         }
     }
 
+    /** Whether a component can be asked for its alignment: its own layout may ask all that is in it. */
+    private static boolean canTellAlignment(Component child) {
+        if (Code.getterOverrider(child.getClass()) != null) {
+            return false;
+        }
+        LayoutManager own = child instanceof Container ? ((Container) child).getLayout() : null;
+        return !(own instanceof LayoutManager2)
+                || Code.isToolkit(own.getClass()) && Facts.inside((Container) child).length == 0;
+    }
+
+    private static String alignmentX(Component child) {
+        return "alignmentX " + child.getAlignmentX();
+    }
+
+    private static String alignmentY(Component child) {
+        return "alignmentY " + child.getAlignmentY();
+    }
+
     private static String cell(GridBagConstraints at) {
         String where = "column " + Constraints.relative(at.gridx) + ", row " + Constraints.relative(at.gridy);
         boolean one = at.gridwidth == 1 && at.gridheight == 1;
-        return one ? where : where + ", " + Constraints.relative(at.gridwidth) + " \u00d7 "
-                + Constraints.relative(at.gridheight) + " cells";
+        return one ? where
+                   : where + ", " + Constraints.relative(at.gridwidth) + " \u00d7 "
+                        + Constraints.relative(at.gridheight) + " cells";
     }
 
     private static String scrollPart(JScrollPane pane, Component child) {
-        return child == pane.getViewport() ? "viewport"
-                : child == pane.getRowHeader() ? "row header"
-                : child == pane.getColumnHeader() ? "column header"
-                : child == pane.getVerticalScrollBar() ? "vertical scroll bar"
-                : child == pane.getHorizontalScrollBar() ? "horizontal scroll bar" : "corner";
-    }
-
-    /**
-     * Why a child is as wide or as high as it is, as the rest of a sentence; null where that is not known.
-     *
-     * @param wide whether it is about the width
-     */
-    static String reason(Component child, boolean wide) {
-        Container parent = child.getParent();
-        LayoutManager layout = parent == null ? null : parent.getLayout();
-        if (layout == null) {
-            return parent == null ? null : "the program sets its bounds";
-        }
-        String name = Code.shortName(layout.getClass());
-        if (layout instanceof BorderLayout) {
-            return border((BorderLayout) layout, child, wide);
-        }
-        if (layout instanceof GridBagLayout) {
-            int fill = ((GridBagLayout) layout).getConstraints(child).fill;
-            boolean filled = fill == GridBagConstraints.BOTH
-                    || fill == (wide ? GridBagConstraints.HORIZONTAL : GridBagConstraints.VERTICAL);
-            return filled ? "it fills its grid cell" : "its grid cell has no room";
-        }
-        if (layout instanceof GridLayout) {
-            return "all cells of the grid are alike";
-        }
-        if (layout instanceof CardLayout) {
-            return "a card has all of its parent";
-        }
-        if (layout instanceof FlowLayout) {
-            return "FlowLayout gives what is preferred";
-        }
-        if (layout instanceof BoxLayout) {
-            boolean along = axis((BoxLayout) layout, parent) == wide;
-            return along ? "BoxLayout shares out what is there" : "as its parent, up to the maximum";
-        }
-        if (layout instanceof ViewportLayout && parent instanceof JViewport) {
-            boolean follows = child instanceof Scrollable && (wide ? ((Scrollable) child).getScrollableTracksViewportWidth()
-                    : ((Scrollable) child).getScrollableTracksViewportHeight());
-            return follows ? "it follows the viewport" : "at least as its viewport";
-        }
-        return name + " decides";
-    }
-
-    private static String border(BorderLayout layout, Component child, boolean wide) {
-        Object region = layout.getConstraints(child);
-        if (region == null) {
-            return "it has no region, and is not laid out";
-        }
-        boolean stretched = wide ? Arrays.asList("North", "South", "First", "Last").contains(region)
-                : Arrays.asList("West", "East", "Before", "After").contains(region);
-        return region.equals(BorderLayout.CENTER) ? "the CENTER gets what is left"
-                : stretched ? "this side goes from end to end"
-                : "BorderLayout gives this side what it prefers";
+        return child == pane.getViewport()               ? "viewport"
+                : child == pane.getRowHeader()           ? "row header"
+                : child == pane.getColumnHeader()        ? "column header"
+                : child == pane.getVerticalScrollBar()   ? "vertical scroll bar"
+                : child == pane.getHorizontalScrollBar() ? "horizontal scroll bar"
+                                                         : "corner";
     }
 }

@@ -58,16 +58,16 @@ final class Origin {
     /** Whether a component has a value of its own for a property that it would else have from its parent. */
     static Boolean isSet(Component component, String property) {
         switch (property) {
-        case "background":
-            return component.isBackgroundSet();
-        case "foreground":
-            return component.isForegroundSet();
-        case "font":
-            return component.isFontSet();
-        case "cursor":
-            return component.isCursorSet();
-        default:
-            return null;
+            case "background":
+                return component.isBackgroundSet();
+            case "foreground":
+                return component.isForegroundSet();
+            case "font":
+                return component.isFontSet();
+            case "cursor":
+                return component.isCursorSet();
+            default:
+                return null;
         }
     }
 
@@ -96,7 +96,8 @@ final class Origin {
         if (value.equals(defaults.get(called))) {
             return called;
         }
-        // A background may come from "inactiveBackground": of the keys that end alike, the one that has this very object.
+        // A background may come from "inactiveBackground": of the keys that end alike, the one that has this very
+        // object.
         String end = property.toLowerCase(Locale.ROOT);
         for (Object key : defaults.keySet()) {
             if (key instanceof String && ((String) key).startsWith(prefix)

@@ -12,7 +12,9 @@ final class Patience {
     /** The JDK's own getters take a thousandth of it. */
     private static final long SLOW_NANOS = 50_000_000;
 
-    /** What the machine may have held up, by collecting garbage or by having other things to do, gets a second chance. */
+    /**
+     * What the machine may have held up, by collecting garbage or by having other things to do, gets a second chance.
+     */
     private static final long TOO_SLOW_NANOS = 400_000_000;
     private static final int CHANCES = 2;
 

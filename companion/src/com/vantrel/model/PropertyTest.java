@@ -20,8 +20,9 @@ final class PropertyTest {
         this.operator = operator;
         this.wanted = wanted;
         this.calls = calls;
-        pattern = wanted.indexOf('*') < 0 ? null : Pattern.compile(Pattern.quote(wanted).replace("*", "\\E.*\\Q"),
-                Pattern.CASE_INSENSITIVE | Pattern.UNICODE_CASE | Pattern.DOTALL);
+        pattern = wanted.indexOf('*') < 0 ? null
+                                          : Pattern.compile(Pattern.quote(wanted).replace("*", "\\E.*\\Q"),
+                                                  Pattern.CASE_INSENSITIVE | Pattern.UNICODE_CASE | Pattern.DOTALL);
         number = number(wanted);
         color = color(wanted);
     }

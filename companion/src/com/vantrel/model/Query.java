@@ -13,7 +13,8 @@ import java.util.regex.Pattern;
  * {@code enabled=false}, {@code font.size>11} or {@code text=Am*}.
  */
 public final class Query {
-    private static final Pattern PART = Pattern.compile("([A-Za-z][\\w.]*)(!=|=|<|>)(\"[^\"]*\"?|\\S*)|\"[^\"]*\"?|\\S+");
+    private static final Pattern PART =
+            Pattern.compile("([A-Za-z][\\w.]*)(!=|=|<|>)(\"[^\"]*\"?|\\S*)|\"[^\"]*\"?|\\S+");
 
     private final List<String> words = new ArrayList<>();
     private final List<PropertyTest> tests = new ArrayList<>();

@@ -231,8 +231,10 @@ public final class Reading {
             keepPlain(property.name(), value);
             row = row(slot, component, value);
         } catch (Throwable thrown) {
-            row = Row.of(property.group(), property.name(), Values.error(thrown)).kind(Row.Kind.ERROR)
-                    .type(property.type().getName()).property(property);
+            row = Row.of(property.group(), property.name(), Values.error(thrown))
+                          .kind(Row.Kind.ERROR)
+                          .type(property.type().getName())
+                          .property(property);
         }
         long nanos = System.nanoTime() - start;
         boolean slow = Patience.took(component.getClass(), property.name(), nanos);
@@ -247,7 +249,10 @@ public final class Reading {
     private Row row(Slot slot, Component component, Object value) {
         Property property = slot.property;
         String text = value != null && property.format() != null ? Values.cut(property.format().write(value))
-                : Values.text(value);
+                                                                 : Values.text(value);
+        if (text.isEmpty() && !(value instanceof String)) {
+            text = Values.text(value); // an object that can only be replaced by what is typed
+        }
         Row row = Row.of(property.group(), property.name(), text);
         row.type(value == null ? property.type().getName() : value.getClass().getName());
         boolean whole = !(value instanceof String) || ((String) value).length() <= Values.LONGEST;
@@ -292,22 +297,26 @@ public final class Reading {
 
     private static String sizeNote(String property, Component component) {
         switch (property) {
-        case "minimumSize":
-            return component.isMinimumSizeSet() ? "set" : "computed";
-        case "preferredSize":
-            return component.isPreferredSizeSet() ? "set" : "computed";
-        case "maximumSize":
-            return component.isMaximumSizeSet() ? "set" : "computed";
-        default:
-            return null;
+            case "minimumSize":
+                return component.isMinimumSizeSet() ? "set" : "computed";
+            case "preferredSize":
+                return component.isPreferredSizeSet() ? "set" : "computed";
+            case "maximumSize":
+                return component.isMaximumSizeSet() ? "set" : "computed";
+            default:
+                return null;
         }
     }
 
     private static Row unread(Property property) {
         boolean slow = property.askedBecause() == null;
         String why = slow ? "It took long when it was read last." : property.askedBecause();
-        return Row.of(property.group(), property.name(), "read").kind(Row.Kind.ASK).type(property.type().getName())
-                .property(property).note(slow ? "slow" : "on demand").explanation(why + " Enter reads it.");
+        return Row.of(property.group(), property.name(), "read")
+                .kind(Row.Kind.ASK)
+                .type(property.type().getName())
+                .property(property)
+                .note(slow ? "slow" : "on demand")
+                .explanation(why + " Enter reads it.");
     }
 
     private void keepPlain(String name, Object value) {
@@ -347,8 +356,9 @@ public final class Reading {
         clientProperties.putAll(now);
         if (!ClientProperties.areAllSeen()) {
             Slot more = new Slot(new Property(Catalog.CLIENT_PROPERTIES, "others", Object.class, on -> null));
-            more.row = Row.of(Catalog.CLIENT_PROPERTIES, "others", "not seen").kind(Row.Kind.DIM)
-                    .explanation("This Java VM shows client properties only to those who know the key.");
+            more.row = Row.of(Catalog.CLIENT_PROPERTIES, "others", "not seen")
+                               .kind(Row.Kind.DIM)
+                               .explanation("This Java VM shows client properties only to those who know the key.");
             clientProperties.put("others", more);
         }
     }
@@ -359,8 +369,8 @@ public final class Reading {
         if (!(key instanceof String)) {
             return new Property(Catalog.CLIENT_PROPERTIES, name, type, on -> null);
         }
-        Property property = new Property(Catalog.CLIENT_PROPERTIES, name, type,
-                on -> ((JComponent) on).getClientProperty(key));
+        Property property =
+                new Property(Catalog.CLIENT_PROPERTIES, name, type, on -> ((JComponent) on).getClientProperty(key));
         return property.settable((on, to) -> ((JComponent) on).putClientProperty(key, to), Formats.of(type));
     }
 }

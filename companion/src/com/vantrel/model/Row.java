@@ -33,6 +33,7 @@ public final class Row {
     private Boolean check;
     private Property property;
     private boolean folded;
+    private SetBy setBy;
 
     private Row(String group, String name, String value) {
         this.group = group;
@@ -40,7 +41,8 @@ public final class Row {
         this.value = value;
     }
 
-    static Row of(String group, String name, String value) {
+    /** A line that is to be completed, by the methods that give it back, before it is handed out. */
+    public static Row of(String group, String name, String value) {
         return new Row(group, name, value == null ? "" : value);
     }
 
@@ -56,20 +58,21 @@ public final class Row {
         row.check = check;
         row.property = property;
         row.folded = folded;
+        row.setBy = setBy;
         return row;
     }
 
-    Row kind(Kind it) {
+    public Row kind(Kind it) {
         kind = it;
         return this;
     }
 
-    Row note(String it) {
+    public Row note(String it) {
         note = it == null ? "" : it;
         return this;
     }
 
-    Row explanation(String it) {
+    public Row explanation(String it) {
         explanation = it == null ? "" : it;
         return this;
     }
@@ -79,7 +82,7 @@ public final class Row {
         return this;
     }
 
-    Row programs(boolean it) {
+    public Row programs(boolean it) {
         programs = it;
         return this;
     }
@@ -103,6 +106,18 @@ public final class Row {
     Row property(Property it) {
         property = it;
         return this;
+    }
+
+    /** The same line with who has set what it tells of; null for nobody that is known. */
+    public Row setBy(SetBy who) {
+        Row row = in(group);
+        row.setBy = who;
+        return row;
+    }
+
+    /** Who has set what the line tells of; null if that is not known. */
+    public SetBy setBy() {
+        return setBy;
     }
 
     public String group() {
@@ -174,7 +189,7 @@ public final class Row {
     public boolean isSameAs(Row other) {
         return isAbout(other) && saysSame(other) && note.equals(other.note) && type.equals(other.type)
                 && programs == other.programs && explanation.equals(other.explanation)
-                && isEditable() == other.isEditable();
+                && isEditable() == other.isEditable() && Objects.equals(setBy, other.setBy);
     }
 
     /** Whether the value is the same, whatever is noted of it. */
@@ -182,9 +197,15 @@ public final class Row {
         return value.equals(other.value) && kind == other.kind && Objects.equals(swatch, other.swatch);
     }
 
-    /** The line as text to paste: name, value and note. */
+    /** Where the value comes from: who has set it, as far as that is known, and the note. */
+    public String source() {
+        String place = setBy == null ? "" : setBy.place();
+        return place.isEmpty() || note.isEmpty() ? place + note : place + " \u00b7 " + note;
+    }
+
+    /** The line as text to paste: name, value and where it comes from. */
     @Override
     public String toString() {
-        return name + ": " + value + (note.isEmpty() ? "" : "  (" + note + ")");
+        return name + ": " + value + (source().isEmpty() ? "" : "  (" + source() + ")");
     }
 }

@@ -98,7 +98,7 @@ public final class Settings {
         }
         String config = System.getenv("XDG_CONFIG_HOME");
         Path folder = config == null || config.isEmpty() ? Paths.get(System.getProperty("user.home", ""), ".config")
-                : Paths.get(config);
+                                                         : Paths.get(config);
         // A VM that knows of no home calls it "?".
         return folder.isAbsolute() ? folder.resolve("vantrel").resolve("settings") : null;
     }

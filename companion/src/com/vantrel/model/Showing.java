@@ -7,6 +7,8 @@ import java.awt.GraphicsEnvironment;
 import java.awt.Rectangle;
 import java.awt.Window;
 
+import javax.swing.JInternalFrame;
+
 /** Whether a component can be seen on the screen, or why not. Other windows in front of it do not count. */
 public enum Showing {
     YES(""),
@@ -15,6 +17,8 @@ public enum Showing {
     NO_SIZE("no size"),
     CLIPPED("clipped away"),
     OFF_SCREEN("outside of the screen"),
+    /** An internal frame that is an icon, or in one: it is in no window then, and its icon is. */
+    ICON("in an icon"),
     NO_WINDOW("in no window");
 
     private final String words;
@@ -40,7 +44,7 @@ public enum Showing {
         while (!(at instanceof Window)) {
             Container parent = Facts.parent(at);
             if (parent == null) {
-                return NO_WINDOW;
+                return isIcon(at) ? ICON : NO_WINDOW;
             }
             if (!Facts.isVisible(parent)) {
                 return PARENT_INVISIBLE;
@@ -58,6 +62,11 @@ public enum Showing {
             return CLIPPED;
         }
         return isOnScreen(rest) ? YES : OFF_SCREEN;
+    }
+
+    private static boolean isIcon(Component component) {
+        return component instanceof JInternalFrame && Code.overrider(component.getClass(), "isIcon") == null
+                && ((JInternalFrame) component).isIcon();
     }
 
     private static boolean isOnScreen(Rectangle area) {

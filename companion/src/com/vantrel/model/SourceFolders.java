@@ -29,7 +29,7 @@ public final class SourceFolders {
     private void add(String folder) {
         try {
             Path path = folder.startsWith("~/") ? Paths.get(System.getProperty("user.home", ""), folder.substring(2))
-                    : Paths.get(folder);
+                                                : Paths.get(folder);
             if (!folder.isEmpty() && !folders.contains(path.toAbsolutePath())) {
                 folders.add(path.toAbsolutePath());
             }

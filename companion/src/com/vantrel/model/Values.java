@@ -36,8 +36,8 @@ final class Values {
 
     /** Classes of the JDK whose {@code toString} tells what people want to know, and asks nobody else for it. */
     private static final Set<Class<?>> SELF_TOLD = new HashSet<>(Arrays.<Class<?>>asList(Boolean.class, Byte.class,
-            Short.class, Integer.class, Long.class, Float.class, Double.class, Character.class, Locale.class, File.class,
-            URI.class, URL.class, Date.class, StringBuilder.class));
+            Short.class, Integer.class, Long.class, Float.class, Double.class, Character.class, Locale.class,
+            File.class, URI.class, URL.class, Date.class, StringBuilder.class));
 
     private Values() {
     }

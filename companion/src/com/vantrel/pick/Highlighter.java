@@ -25,15 +25,13 @@ public final class Highlighter {
 
     private final Window owner;
     private final Tint tint;
-    private final Repaint repaint = new Repaint();
     private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> follow());
     /** Top, bottom, left, right; null until they are needed. */
     private Mark[] sides;
     private Label label;
     private Target target;
-    /** Where the box is on the screen, and where that and the label are; null for nowhere. */
+    /** Where the box is on the screen; null for nowhere. */
     private Rectangle shownAt;
-    private Rectangle covered;
 
     /**
      * @param owner the inspector's window, whose modality and end the box shares
@@ -67,15 +65,13 @@ public final class Highlighter {
         looks.stop();
         target = null;
         tint.remove();
-        if (covered != null) {
-            repaint.uncovered(covered);
+        if (sides != null) {
             for (Mark side : sides) {
                 side.setVisible(false);
             }
             label.setVisible(false);
         }
         shownAt = null;
-        covered = null;
     }
 
     /** Hides, and gives the windows back. It can be used again. */
@@ -103,13 +99,9 @@ public final class Highlighter {
         Point at = Places.onScreen(window);
         Rectangle box = new Rectangle(part.x + at.x, part.y + at.y, part.width, part.height);
         if (!box.equals(shownAt)) {
-            if (covered != null) {
-                repaint.uncovered(covered);
-            }
             shownAt = box;
             place(box);
             label.show(type(component), name(component), whole.width + " × " + whole.height, box, screenOf(window));
-            covered = box.union(label.getBounds());
             tint.put(component, cellOf(component, part), window, part);
         }
     }
@@ -158,6 +150,6 @@ public final class Highlighter {
     private static Rectangle screenOf(Window window) {
         GraphicsConfiguration configuration = window.getGraphicsConfiguration();
         return configuration == null ? new Rectangle(0, 0, Short.MAX_VALUE, Short.MAX_VALUE)
-                : configuration.getBounds();
+                                     : configuration.getBounds();
     }
 }

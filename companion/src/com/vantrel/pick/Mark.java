@@ -21,6 +21,9 @@ class Mark extends Window implements Ours {
     Mark(Window owner, String name, Color color) {
         super(owner, owner.getGraphicsConfiguration());
         setName(name);
+        // As a popup it is not the window manager's. That would map it some time after it was asked to; when the window
+        // is hidden before that, the toolkit unmaps what is not mapped yet, and the window then comes to stay.
+        setType(Type.POPUP);
         setBackground(color);
         setFocusableWindowState(false);
         setAlwaysOnTop(true);

@@ -38,6 +38,7 @@ public final class Picker {
     private final Selection selection;
     private final Highlighter highlighter;
     private final BooleanSupplier modifierHeld;
+    private final Runnable clicked;
     private final Primary primary = new Primary();
     private final EventFilter filter = this::keep;
     private final List<Runnable> listeners = new ArrayList<>();
@@ -58,11 +59,14 @@ public final class Picker {
 
     /**
      * @param modifierHeld asks the window system whether the primary modifier is held, for when no event tells
+     * @param clicked      run when a click in the program has picked: the window manager knows nothing of picking, and
+     *                     does with the window whatever it does when one is clicked
      */
-    public Picker(Selection selection, Highlighter highlighter, BooleanSupplier modifierHeld) {
+    public Picker(Selection selection, Highlighter highlighter, BooleanSupplier modifierHeld, Runnable clicked) {
         this.selection = selection;
         this.highlighter = highlighter;
         this.modifierHeld = modifierHeld;
+        this.clicked = clicked;
         untilHeld.setRepeats(false);
     }
 
@@ -135,8 +139,8 @@ public final class Picker {
             return !beside && !mouse.isSettling() && keepMouse(source, mouseEvent);
         }
         if (event instanceof KeyEvent) {
-            return keys.keep((KeyEvent) event, Ours.isOurs(source), () -> keyPressed(source, (KeyEvent) event),
-                    () -> keyReleased((KeyEvent) event));
+            return keys.keep((KeyEvent) event, Ours.isOurs(source),
+                    () -> keyPressed(source, (KeyEvent) event), () -> keyReleased((KeyEvent) event));
         }
         return popups.keep(event);
     }
@@ -154,6 +158,7 @@ public final class Picker {
                 if (ours) {
                     follow(source, event);
                     choose();
+                    clicked.run();
                 } else {
                     leaveHover();
                 }

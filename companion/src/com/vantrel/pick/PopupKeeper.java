@@ -61,7 +61,7 @@ final class PopupKeeper {
         if (event.getID() == MouseEvent.MOUSE_PRESSED && source instanceof RootPaneContainer && programHasPopup()) {
             JRootPane root = ((RootPaneContainer) source).getRootPane();
             if (root.getMouseListeners().length == 0) {
-                root.addMouseListener(new MouseAdapter() { }); // or a press beside everything would be the window's
+                root.addMouseListener(new MouseAdapter() {}); // or a press beside everything would be the window's
             }
             spare(root);
         }

@@ -12,22 +12,12 @@ import java.awt.event.PaintEvent;
 import javax.swing.JRootPane;
 import javax.swing.RepaintManager;
 import javax.swing.RootPaneContainer;
-import javax.swing.Timer;
 
 import com.vantrel.model.Facts;
 
-/** Has windows paint again what the picker has painted over, or covered. For the event thread. */
+/** Has windows paint again what the picker has painted over. For the event thread. */
 final class Repaint {
-    /** Until the window system has taken away what covered them: as a rule, and where the machine is busy. */
-    private static final int MILLIS_TO_UNCOVER = 100;
-    private static final int MILLIS_AT_MOST = 600;
-
-    private final Timer later = new Timer(MILLIS_AT_MOST, event -> uncover());
-    private Rectangle uncovered;
-    private boolean once;
-
-    Repaint() {
-        later.setInitialDelay(MILLIS_TO_UNCOVER);
+    private Repaint() {
     }
 
     /** Paints a part of a window: at once what is Swing's, and soon what the toolkit paints itself. */
@@ -69,35 +59,6 @@ final class Repaint {
         if (graphics != null) {
             graphics.clearRect(part.x, part.y, part.width, part.height);
             graphics.dispose();
-        }
-    }
-
-    /**
-     * A window of ours has left a part of the screen. What it covered is painted soon: a program that is just painting
-     * when a window goes before it was painted itself may leave its colour there.
-     */
-    void uncovered(Rectangle onScreen) {
-        uncovered = uncovered == null ? new Rectangle(onScreen) : uncovered.union(onScreen);
-        once = false;
-        later.restart();
-    }
-
-    private void uncover() {
-        Rectangle area = uncovered;
-        if (once) {
-            later.stop();
-            uncovered = null;
-        }
-        once = true;
-        for (Window window : Window.getWindows()) {
-            if (!(window instanceof Mark) && window.isShowing()) {
-                Rectangle bounds = Facts.bounds(window);
-                Rectangle part = bounds.intersection(area);
-                if (!part.isEmpty()) {
-                    part.translate(-bounds.x, -bounds.y);
-                    now(window, part);
-                }
-            }
         }
     }
 }

@@ -23,14 +23,14 @@ public class StackTraceManager {
      * @return the stack of the adding thread, innermost call first; empty if no addition of the component was seen
      */
     public static StackTraceElement[] getStackTrace(Component component) {
-        Object trace = component == null ? null : TraceField.get(component);
+        Object trace = component == null ? null : TraceField.FIELD.get(component);
         return trace instanceof Trace ? ((Trace) trace).elements() : NO_TRACE;
     }
 
     /** Remembers a trace for a component, in the place of the one it has. A null trace counts as none. */
     public static void addStackTrace(Component component, StackTraceElement[] trace) {
         if (component != null) {
-            TraceField.set(component, trace == null ? null : new Trace(trace));
+            TraceField.FIELD.set(component, trace == null ? null : new Trace(trace));
         }
     }
 

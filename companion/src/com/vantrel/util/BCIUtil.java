@@ -50,8 +50,7 @@ public final class BCIUtil {
             return AccessController.doPrivileged(new PrivilegedExceptionAction<byte[]>() {
                 @Override
                 public byte[] run() throws IOException {
-                    ClassLoader bootLoaderOnly = new ClassLoader(null) {
-                    };
+                    ClassLoader bootLoaderOnly = new ClassLoader(null) {};
                     try (InputStream in = bootLoaderOnly.getResourceAsStream(className + ".class")) {
                         if (in == null) {
                             throw new IOException("the boot loader has no class file of it");

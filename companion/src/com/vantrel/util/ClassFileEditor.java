@@ -64,7 +64,7 @@ final class ClassFileEditor {
         poolCount = u2(POOL_COUNT_AT);
         constantAt = new int[poolCount];
         poolEnd = indexConstants(POOL_COUNT_AT + 2);
-        int interfaceCountAt = poolEnd + 6; // behind access_flags, this_class and super_class
+        int interfaceCountAt = poolEnd + 6; // after access_flags, this_class and super_class
         fieldsAt = interfaceCountAt + 2 + 2 * u2(interfaceCountAt);
         fieldCount = u2(fieldsAt);
         fieldsEnd = membersEnd(fieldsAt, fieldCount);
@@ -108,8 +108,8 @@ final class ClassFileEditor {
      * @param maxLocals how many variables it has, parameters included
      * @param frameAt   the pc that it jumps to, with an empty stack and the parameters for variables; NO_FRAME for none
      */
-    void addMethod(int accessFlags, String name, String descriptor, int maxStack, int maxLocals, byte[] code,
-            int frameAt) {
+    void addMethod(
+            int accessFlags, String name, String descriptor, int maxStack, int maxLocals, byte[] code, int frameAt) {
         ByteSink body = new ByteSink();
         body.u2(maxStack).u2(maxLocals).u4(code.length).bytes(code).u2(0); // no handlers
         if (frameAt == NO_FRAME) {
@@ -136,7 +136,7 @@ final class ClassFileEditor {
         for (int i = u2(fieldsEnd); i > 0; i--) {
             int code = codeAttribute(at);
             if (code != 0 && isUtf8(u2(at + 2), method) && isUtf8(u2(at + 4), descriptor)) {
-                byte[] edited = MovedCode.behind(this, code, head, maxStack, jumps);
+                byte[] edited = MovedCode.withHead(this, code, head, maxStack, jumps);
                 splices.put(code, new Splice(attributeEnd(code) - code, edited));
                 return true;
             }
@@ -192,7 +192,7 @@ final class ClassFileEditor {
         return out.copy(image, at, image.limit()).toByteArray();
     }
 
-    /** A new value for a count, behind other bytes. */
+    /** A new value for a count, after other bytes. */
     private static Splice count(ByteSink bytes, int count, String what) {
         if (count > MAX_U2) {
             throw new IllegalArgumentException("The class has no room for more " + what);
@@ -220,16 +220,28 @@ final class ClassFileEditor {
                 case CONSTANT_UTF8:
                     at += 3 + u2(at + 1);
                     break;
-                case 7: case 8: case 16: case 19: case 20: // Class, String, MethodType, Module, Package
+                case 7:
+                case 8:
+                case 16:
+                case 19:
+                case 20: // Class, String, MethodType, Module, Package
                     at += 3;
                     break;
                 case 15: // MethodHandle
                     at += 4;
                     break;
-                case 3: case 4: case 9: case 10: case 11: case 12: case 17: case 18: // numbers, references, dynamic
+                case 3:
+                case 4:
+                case 9:
+                case 10:
+                case 11:
+                case 12:
+                case 17:
+                case 18: // numbers, references, dynamic
                     at += 5;
                     break;
-                case 5: case 6: // Long and Double take two indices
+                case 5:
+                case 6: // Long and Double take two indices
                     at += 9;
                     index++;
                     break;
@@ -262,7 +274,7 @@ final class ClassFileEditor {
                 && isUtf8(u2(nameAndType + 3), descriptor);
     }
 
-    /** The position behind the field or method (4.5, 4.6) that begins at a position. */
+    /** The position after the field or method (4.5, 4.6) that begins at a position. */
     private int memberEnd(int at) {
         int end = at + 8;
         for (int i = u2(at + 6); i > 0; i--) {

@@ -27,8 +27,8 @@ final class Instructions {
     private static final int IINC = 0x84;
 
     /** The length of each instruction by its opcode, 16 to a line; 0 for the three that have no fixed one. */
-    private static final String LENGTHS =
-            "1111111111111111" // 00 nop, constants
+    private static final String LENGTHS = ""
+            + "1111111111111111" // 00 nop, constants
             + "2323322222111111" // 10 bipush, sipush, ldc, ldc_w, ldc2_w, loads; from 1a on short loads
             + "1111111111111111" // 20
             + "1111112222211111" // 30 array loads, stores

@@ -16,7 +16,7 @@ final class MovedCode {
     /**
      * @param attributeAt    where the attribute begins in the file
      * @param distance       the length of the new code, a multiple of four, so that switches keep their paddings
-     * @param jumpsToOldHead whether the new code jumps to the instruction behind it, with an empty stack and the
+     * @param jumpsToOldHead whether the new code jumps to the instruction after it, with an empty stack and the
      *                       parameters as they came in; the verifier wants to be told
      */
     private MovedCode(ClassFileEditor file, int attributeAt, int distance, boolean jumpsToOldHead) {
@@ -34,7 +34,7 @@ final class MovedCode {
      * @param head     the new code, as long as a multiple of four says, with no jumps but to its own end
      * @param maxStack what the new code needs of the stack
      */
-    static byte[] behind(ClassFileEditor file, int attributeAt, byte[] head, int maxStack, boolean jumpsToOldHead) {
+    static byte[] withHead(ClassFileEditor file, int attributeAt, byte[] head, int maxStack, boolean jumpsToOldHead) {
         return new MovedCode(file, attributeAt, head.length, jumpsToOldHead).attribute(head, maxStack);
     }
 
@@ -123,8 +123,8 @@ final class MovedCode {
     }
 
     /**
-     * 4.7.4. An offset counts from behind the frame before, so that only the first one moves: by the new code, or, if
-     * the old head gets a frame of its own, to behind that.
+     * 4.7.4. An offset counts from the end of the frame before, so that only the first one moves: by the new code, or,
+     * if the old head gets a frame of its own, to the place after that.
      */
     private byte[] movedFrames(int tableAt) {
         ByteSink out = new ByteSink();

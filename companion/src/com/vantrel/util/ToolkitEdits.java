@@ -35,33 +35,35 @@ final class ToolkitEdits {
     private static final String HOOKS = "com/vantrel/hooks/Hooks";
     private static final String STACK_TRACE_MANAGER = "com/vantrel/stacktrace/StackTraceManager";
     private static final String TRACE = "vantrel$trace";
+    private static final String CHANGES = "vantrel$changes";
     private static final String PARENT_TYPE = "Ljava/awt/Container;";
 
     /** Methods of Component that say in their first argument which property changes. */
     private static final String[] FIRING = {
-        "(Ljava/lang/String;Ljava/lang/Object;Ljava/lang/Object;)V",
-        "(Ljava/lang/String;ZZ)V",
-        "(Ljava/lang/String;II)V",
+            "(Ljava/lang/String;Ljava/lang/Object;Ljava/lang/Object;)V",
+            "(Ljava/lang/String;ZZ)V",
+            "(Ljava/lang/String;II)V",
     };
 
     /** Other methods of Component through which every change of something goes, and of what. */
     private static final String[][] CHANGING = {
-        {"reshape", "(IIII)V", Hooks.BOUNDS},
-        {"show", "()V", Hooks.VISIBLE},
-        {"hide", "()V", Hooks.VISIBLE},
-        {"enable", "()V", Hooks.ENABLED},
-        {"disable", "()V", Hooks.ENABLED},
-        {"setCursor", "(Ljava/awt/Cursor;)V", Hooks.CURSOR},
-        {"setFocusable", "(Z)V", Hooks.FOCUSABLE},
-        {"invalidate", "()V", Hooks.VALID},
+            {"reshape", "(IIII)V", Hooks.BOUNDS},
+            {"show", "()V", Hooks.VISIBLE},
+            {"hide", "()V", Hooks.VISIBLE},
+            {"enable", "()V", Hooks.ENABLED},
+            {"disable", "()V", Hooks.ENABLED},
+            {"setCursor", "(Ljava/awt/Cursor;)V", Hooks.CURSOR},
+            {"setFocusable", "(Z)V", Hooks.FOCUSABLE},
+            {"invalidate", "()V", Hooks.VALID},
     };
 
     private ToolkitEdits() {
     }
 
     /**
-     * Gives components room for their trace, has them tell {@link Hooks} of events and changes, and adds the private
-     * transient field {@code windowClosingException} that the agent reads by name, which VMs up to 8 have themselves.
+     * Gives components room for their trace and their changes, has them tell {@link Hooks} of events and changes, and
+     * adds the private transient field {@code windowClosingException} that the agent reads by name, which VMs up to 8
+     * have themselves.
      *
      * @param hasModules whether the VM has modules, which the class is then to open to the companion
      */
@@ -69,7 +71,8 @@ final class ToolkitEdits {
         if (!component.declaresField("windowClosingException")) {
             component.addField(ACC_PRIVATE | ACC_TRANSIENT, "windowClosingException", "Ljava/lang/RuntimeException;");
         }
-        addTrace(component);
+        addRoom(component, TRACE);
+        addRoom(component, CHANGES);
         filterEvents(component);
         for (String descriptor : FIRING) {
             tellOfChanges(component, "firePropertyChange", descriptor, null);
@@ -90,12 +93,14 @@ final class ToolkitEdits {
         String name = "vantrel$setParent";
         String descriptor = "(Ljava/awt/Component;Ljava/awt/Container;)V";
         int field = container.fieldRef(COMPONENT, "parent", PARENT_TYPE);
-        int moving = container.methodRef(HOOKS, "moving",
-                "(Ljava/awt/Component;Ljava/awt/Container;Ljava/awt/Container;)V");
+        int moving =
+                container.methodRef(HOOKS, "moving", "(Ljava/awt/Component;Ljava/awt/Container;Ljava/awt/Container;)V");
         int take = container.methodRef(STACK_TRACE_MANAGER, "take", "()Ljava/lang/Object;");
         int trace = container.fieldRef(COMPONENT, TRACE, "Ljava/lang/Object;");
         int branch = 15;
         int end = 25;
+        // An instruction, or a few that belong together, to a line.
+        // clang-format off
         byte[] code = new ByteSink()
                 // Hooks.moving(component, component.parent, parent);
                 .u1(ALOAD_0).u1(ALOAD_0).u1(GETFIELD).u2(field).u1(ALOAD_1).u1(INVOKESTATIC).u2(moving)
@@ -105,31 +110,35 @@ final class ToolkitEdits {
                 .u1(ALOAD_1).u1(IFNULL).u2(end - branch)
                 .u1(ALOAD_0).u1(INVOKESTATIC).u2(take).u1(PUTFIELD).u2(trace)
                 .u1(RETURN).toByteArray();
+        // clang-format on
         container.replaceWrites(COMPONENT, "parent", PARENT_TYPE, container.methodRef(CONTAINER, name, descriptor));
         container.addMethod(ACC_PRIVATE | ACC_STATIC | ACC_SYNTHETIC, name, descriptor, 3, 2, code, end);
         tellOfChanges(container, "setComponentZOrder", "(Ljava/awt/Component;I)V", Hooks.ORDER);
     }
 
     /**
-     * Adds the field of a trace, which goes with its component, and how {@link com.vantrel.stacktrace} reaches it from
-     * outside of the package. The field is volatile so that whoever finds a trace finds all of it, on any thread; the
-     * methods are static so that they do not pass for properties.
+     * Adds a field for something that goes with its component, and how {@link com.vantrel.hooks.ComponentField} reaches
+     * it from outside of the package. The field is volatile so that whoever finds something there finds all of it, on
+     * any thread; the methods are static so that they do not pass for properties.
      */
-    private static void addTrace(ClassFileEditor component) {
-        component.addField(ACC_TRANSIENT | ACC_VOLATILE | ACC_SYNTHETIC, TRACE, "Ljava/lang/Object;");
-        int field = component.fieldRef(COMPONENT, TRACE, "Ljava/lang/Object;");
+    private static void addRoom(ClassFileEditor component, String name) {
+        component.addField(ACC_TRANSIENT | ACC_VOLATILE | ACC_SYNTHETIC, name, "Ljava/lang/Object;");
+        int field = component.fieldRef(COMPONENT, name, "Ljava/lang/Object;");
         int flags = ACC_PUBLIC | ACC_STATIC | ACC_SYNTHETIC;
         byte[] get = new ByteSink().u1(ALOAD_0).u1(GETFIELD).u2(field).u1(ARETURN).toByteArray();
-        component.addMethod(flags, TRACE, "(Ljava/awt/Component;)Ljava/lang/Object;", 1, 1, get, NO_FRAME);
+        component.addMethod(flags, name, "(Ljava/awt/Component;)Ljava/lang/Object;", 1, 1, get, NO_FRAME);
         byte[] set = new ByteSink().u1(ALOAD_0).u1(ALOAD_1).u1(PUTFIELD).u2(field).u1(RETURN).toByteArray();
-        component.addMethod(flags, TRACE, "(Ljava/awt/Component;Ljava/lang/Object;)V", 2, 2, set, NO_FRAME);
+        component.addMethod(flags, name, "(Ljava/awt/Component;Ljava/lang/Object;)V", 2, 2, set, NO_FRAME);
     }
 
     /** {@code if (Hooks.event(this, event)) return;} before all that happens to an event. */
     private static void filterEvents(ClassFileEditor component) {
         int event = component.methodRef(HOOKS, "event", "(Ljava/awt/Component;Ljava/awt/AWTEvent;)Z");
+        // An instruction, or a few that belong together, to a line.
+        // clang-format off
         byte[] head = new ByteSink().u1(ALOAD_0).u1(ALOAD_1).u1(INVOKESTATIC).u2(event)
                 .u1(NOP).u1(NOP).u1(NOP).u1(IFEQ).u2(4).u1(RETURN).toByteArray();
+        // clang-format on
         if (!component.insertAtHead("dispatchEvent", "(Ljava/awt/AWTEvent;)V", head, 2, true)) {
             throw new IllegalArgumentException("Component has no dispatchEvent");
         }
@@ -157,13 +166,16 @@ final class ToolkitEdits {
      */
     private static void addOpen(ClassFileEditor component) {
         int getModule = component.methodRef("java/lang/Class", "getModule", "()Ljava/lang/Module;");
-        int addOpens = component.methodRef("java/lang/Module", "addOpens",
-                "(Ljava/lang/String;Ljava/lang/Module;)Ljava/lang/Module;");
+        int addOpens = component.methodRef(
+                "java/lang/Module", "addOpens", "(Ljava/lang/String;Ljava/lang/Module;)Ljava/lang/Module;");
+        // An instruction, or a few that belong together, to a line.
+        // clang-format off
         byte[] code = new ByteSink()
                 .u1(LDC_W).u2(component.classRef(COMPONENT)).u1(INVOKEVIRTUAL).u2(getModule)
                 .u1(ALOAD_0)
                 .u1(LDC_W).u2(component.classRef(HOOKS)).u1(INVOKEVIRTUAL).u2(getModule)
                 .u1(INVOKEVIRTUAL).u2(addOpens).u1(POP).u1(RETURN).toByteArray();
+        // clang-format on
         int flags = ACC_PUBLIC | ACC_STATIC | ACC_SYNTHETIC;
         component.addMethod(flags, "vantrel$open", "(Ljava/lang/String;)V", 3, 1, code, NO_FRAME);
     }

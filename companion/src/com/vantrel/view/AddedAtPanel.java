@@ -1,80 +1,33 @@
 package com.vantrel.view;
 
 import java.awt.BorderLayout;
-import java.awt.FlowLayout;
-import java.awt.event.ComponentAdapter;
-import java.awt.event.ComponentEvent;
 import java.awt.event.HierarchyEvent;
-import java.awt.event.MouseAdapter;
-import java.awt.event.MouseEvent;
-import java.util.ArrayList;
-import java.util.Collections;
-import java.util.List;
 import java.util.function.Consumer;
 
-import javax.swing.Action;
-import javax.swing.BorderFactory;
 import javax.swing.JPanel;
-import javax.swing.JPopupMenu;
-import javax.swing.JScrollPane;
-import javax.swing.KeyStroke;
-import javax.swing.SwingUtilities;
 import javax.swing.Timer;
 
 import com.vantrel.model.AddedAt;
-import com.vantrel.model.CallSite;
 import com.vantrel.model.Editor;
 import com.vantrel.model.Selection;
 
-/**
- * Where the selected component was added: its recorded stack, of which the program's lines can be opened in an editor
- * or copied. Belongs to the event thread.
- */
+/** Where the selected component was added: its recorded stack. Belongs to the event thread. */
 public final class AddedAtPanel extends JPanel {
     private static final long serialVersionUID = 1L;
 
     /** A component can be added anew while it is selected. */
     private static final int MILLIS_BETWEEN_LOOKS = 500;
 
-    private static final List<StackTraceElement> NONE = Collections.emptyList();
-
     private final transient Selection selection;
-    private final StackRows rows = new StackRows();
-    private final StackList list = new StackList(rows);
-    private final PlainLabel message = new PlainLabel(" ", Look::dim, 1);
+    private final StackPanel stack = new StackPanel("vantrel.addedAt");
     private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> refresh());
-    private transient AddedAt shown = AddedAt.of(null);
-
-    private transient Consumer<Editor.Outcome> elsewhere = outcome -> { };
-
-    private final Command open = new Command("Open in Editor", "ENTER", "Opens the line in your editor",
-            this::hasTrace, this::openSelected);
-    private final Command copy = new Command("Copy Line", "ctrl C", "Copies the line, so that it can become a link",
-            this::hasTrace, this::copySelected);
-    private final Command copyAll = new Command("Copy Stack", null, "Copies all lines", this::hasTrace,
-            () -> copy(shown.text(), "copied the stack"));
+    private transient AddedAt shown;
 
     public AddedAtPanel(Selection selection) {
         super(new BorderLayout());
         this.selection = selection;
-        setName("vantrel.addedAt");
-        list.setName("vantrel.addedAt.list");
-        message.setName("vantrel.addedAt.message");
-
-        EditorSettings settings = new EditorSettings(this::tell);
-        settings.setVisible(false);
-        JScrollPane scroll = new JScrollPane(list);
-        scroll.setBorder(BorderFactory.createEmptyBorder());
-        JPanel foot = new JPanel(new BorderLayout());
-        foot.add(settings, BorderLayout.CENTER);
-        foot.add(message, BorderLayout.SOUTH);
-        message.setBorder(Look.padding());
-        add(tools(settings), BorderLayout.NORTH);
-        add(scroll, BorderLayout.CENTER);
-        add(foot, BorderLayout.SOUTH);
-
-        prepareList();
-        show(shown);
+        add(stack);
+        refresh();
         selection.onChange(this::selectionChanged);
         addHierarchyListener(event -> {
             if ((event.getChangeFlags() & HierarchyEvent.SHOWING_CHANGED) != 0) {
@@ -86,75 +39,12 @@ public final class AddedAtPanel extends JPanel {
     /** Opens the line that put the selected component where it is, or copies it if there is no editor. */
     public void openWhere() {
         refresh();
-        open(shown.where());
+        stack.openWhere();
     }
 
     /** Has what became of an attempt told to somebody else, too, while this panel does not show. */
     public void onOutcome(Consumer<Editor.Outcome> listener) {
-        elsewhere = listener;
-    }
-
-    private JPanel tools(EditorSettings settings) {
-        JPanel tools = new JPanel(new FlowLayout(FlowLayout.LEADING, Look.GAP, Look.GAP));
-        for (Command command : new Command[] {open, copy, copyAll}) {
-            tools.add(FlatButton.of(command, null).named());
-        }
-        Command toggle = new Command("Editor\u2026", "ctrl E", "Which editor opens lines, and where the sources are",
-                () -> true, () -> {
-                    settings.setVisible(!settings.isVisible());
-                    revalidate();
-                });
-        FlatButton button = new FlatButton(toggle.in(this), null, true).named();
-        button.setName("vantrel.addedAt.settings");
-        settings.addComponentListener(new ComponentAdapter() {
-            @Override
-            public void componentShown(ComponentEvent event) {
-                button.setSelected(true);
-            }
-
-            @Override
-            public void componentHidden(ComponentEvent event) {
-                button.setSelected(false);
-            }
-        });
-        tools.add(button);
-        return tools;
-    }
-
-    private void prepareList() {
-        JPopupMenu menu = new JPopupMenu();
-        for (Command command : new Command[] {open, copy, copyAll}) {
-            bind(command);
-            menu.add(command);
-        }
-        list.setComponentPopupMenu(menu);
-        bind(new Command("Open Fold", "RIGHT", "", this::hasTrace, () -> setOpen(true)));
-        bind(new Command("Close Fold", "LEFT", "", this::hasTrace, () -> setOpen(false)));
-        list.addMouseListener(new MouseAdapter() {
-            @Override
-            public void mousePressed(MouseEvent event) {
-                int row = list.locationToIndex(event.getPoint());
-                if (row < 0 || !list.getCellBounds(row, row).contains(event.getPoint())) {
-                    return;
-                }
-                if (SwingUtilities.isRightMouseButton(event) && !list.isSelectedIndex(row)) {
-                    list.setSelectedIndex(row); // what the menu is about
-                } else if (SwingUtilities.isLeftMouseButton(event) && event.getClickCount() % 2 == 0) {
-                    // A quick click somewhere else before counts, too, so that a double click may end with a four.
-                    openSelected();
-                }
-            }
-        });
-    }
-
-    /** Takes a command's key in the list, before the list's own use of it. */
-    private void bind(Command command) {
-        list.getInputMap().put((KeyStroke) command.getValue(Action.ACCELERATOR_KEY), command);
-        list.getActionMap().put(command, command);
-    }
-
-    private boolean hasTrace() {
-        return rows.getSize() > 0;
+        stack.onOutcome(listener);
     }
 
     private void showingChanged() {
@@ -167,7 +57,7 @@ public final class AddedAtPanel extends JPanel {
     }
 
     private void selectionChanged() {
-        message.setText(" ");
+        stack.clearMessage();
         if (isShowing() || selection.component() == null) {
             refresh();
         }
@@ -176,85 +66,8 @@ public final class AddedAtPanel extends JPanel {
     private void refresh() {
         AddedAt now = AddedAt.of(selection.component());
         if (!now.isSameAs(shown)) {
-            show(now);
-        }
-    }
-
-    private void show(AddedAt addedAt) {
-        shown = addedAt;
-        rows.show(addedAt);
-        list.rowsChanged(addedAt.line());
-        int where = rows.whereRow();
-        if (where >= 0) {
-            list.setSelectedIndex(where);
-            list.ensureIndexIsVisible(where);
-        }
-        for (Command command : new Command[] {open, copy, copyAll}) {
-            command.update();
-        }
-    }
-
-    private void setOpen(boolean isOpen) {
-        StackRows.Row row = list.getSelectedValue();
-        if (row != null) {
-            select(rows.setOpen(row, isOpen));
-        }
-    }
-
-    private void select(int row) {
-        if (row >= 0) {
-            list.rowsChanged(shown.line());
-            list.setSelectedIndex(row);
-            list.ensureIndexIsVisible(row);
-        }
-    }
-
-    private void openSelected() {
-        StackRows.Row row = list.getSelectedValue();
-        if (row == null) {
-            open(shown.where());
-        } else if (row.line() == null) {
-            setOpen(!rows.isOpen(row));
-        } else {
-            open(row.line());
-        }
-    }
-
-    private void open(StackTraceElement line) {
-        if (line == null) {
-            tell(new Editor.Outcome(shown.line(), true));
-        } else if (Editor.isSet()) {
-            Editor.open(line, outcome -> SwingUtilities.invokeLater(() -> tell(outcome)));
-        } else {
-            copy(CallSite.link(line), "no editor is set, so the line was copied");
-        }
-    }
-
-    private void copySelected() {
-        List<String> lines = new ArrayList<>();
-        for (StackRows.Row row : list.getSelectedValuesList()) {
-            for (StackTraceElement line : rows.isOpen(row) && row.line() == null ? NONE : row.lines()) {
-                lines.add(CallSite.link(line));
-            }
-        }
-        if (lines.size() == 1) {
-            copy(lines.get(0), "copied " + lines.get(0));
-        } else if (!lines.isEmpty()) {
-            copy("\t" + String.join("\n\t", lines), "copied " + lines.size() + " lines");
-        }
-    }
-
-    private void copy(String text, String done) {
-        boolean works = Clip.copy(text);
-        tell(new Editor.Outcome(works ? done : "the clipboard is busy: another program holds it; try again", !works));
-    }
-
-    private void tell(Editor.Outcome outcome) {
-        message.setText(outcome.line());
-        message.setToolTipText(Tips.of(outcome.line()));
-        message.setColor(outcome.isFailure() ? Look::error : Look::dim);
-        if (!isShowing()) {
-            elsewhere.accept(outcome);
+            shown = now;
+            stack.show(now.stack(), now.line());
         }
     }
 }

@@ -73,8 +73,9 @@ final class BoxDrawing extends JComponent {
             numbers(g, at, border, side, step);
             at = inner(at, side, step);
         }
-        Insets rest = border == null ? insets : new Insets(insets.top - border.top, insets.left - border.left,
-                insets.bottom - border.bottom, insets.right - border.right);
+        Insets rest = border == null ? insets
+                                     : new Insets(insets.top - border.top, insets.left - border.left,
+                                             insets.bottom - border.bottom, insets.right - border.right);
         if (rest.top != 0 || rest.left != 0 || rest.bottom != 0 || rest.right != 0) {
             ring(g, at, PADDING, "insets");
             numbers(g, at, rest, side, step);
@@ -101,8 +102,9 @@ final class BoxDrawing extends JComponent {
         FontMetrics metrics = g.getFontMetrics();
         int x = content.x + content.width - metrics.stringWidth(label) - 4;
         // Above or below the line, wherever the size does not stand.
-        int base = y > content.y + content.height / 2 ? Math.min(y + metrics.getAscent() + 1,
-                content.y + content.height - 2) : y - 3;
+        int base = y > content.y + content.height / 2
+                ? Math.min(y + metrics.getAscent() + 1, content.y + content.height - 2)
+                : y - 3;
         if (y > content.y + content.height / 2 && y + metrics.getHeight() > content.y + content.height) {
             base = content.y + content.height - 3;
         }
@@ -110,8 +112,8 @@ final class BoxDrawing extends JComponent {
     }
 
     private static Rectangle inner(Rectangle at, int side, int step) {
-        return new Rectangle(at.x + side, at.y + step, Math.max(1, at.width - 2 * side),
-                Math.max(1, at.height - 2 * step));
+        return new Rectangle(
+                at.x + side, at.y + step, Math.max(1, at.width - 2 * side), Math.max(1, at.height - 2 * step));
     }
 
     private static void ring(Graphics2D g, Rectangle at, Color color, String label) {

@@ -12,6 +12,8 @@ import java.util.ArrayList;
 import java.util.List;
 import java.util.function.Consumer;
 
+import javax.accessibility.AccessibleContext;
+import javax.accessibility.AccessibleRole;
 import javax.swing.JComponent;
 import javax.swing.event.MouseInputAdapter;
 
@@ -97,6 +99,31 @@ final class Breadcrumb extends JComponent {
             }
         }
         repaint();
+    }
+
+    /** What stands there, for those who do not see it: all of it, however little room there is. */
+    @Override
+    public AccessibleContext getAccessibleContext() {
+        if (accessibleContext == null) {
+            accessibleContext = new AccessibleJComponent() {
+                private static final long serialVersionUID = 1L;
+
+                @Override
+                public String getAccessibleName() {
+                    StringBuilder text = new StringBuilder(message);
+                    for (Crumb crumb : crumbs) {
+                        text.append(text.length() == 0 ? "" : SEPARATOR).append(crumb.text);
+                    }
+                    return text.toString();
+                }
+
+                @Override
+                public AccessibleRole getAccessibleRole() {
+                    return AccessibleRole.LABEL;
+                }
+            };
+        }
+        return accessibleContext;
     }
 
     @Override

@@ -1,6 +1,7 @@
 package com.vantrel.view;
 
 import java.awt.Component;
+import java.lang.ref.WeakReference;
 import java.util.Arrays;
 import java.util.List;
 
@@ -10,6 +11,7 @@ import com.vantrel.model.Description;
 import com.vantrel.model.Edits;
 import com.vantrel.model.Facts;
 import com.vantrel.model.Selection;
+import com.vantrel.model.Showing;
 
 /** All that the window can be told to do, for its menus, buttons and keys alike. */
 final class Commands {
@@ -31,43 +33,79 @@ final class Commands {
     private final Selection selection;
     private final TreePane tree;
     private final Edits edits;
+    private final Sight sight;
+    private final StatusLine status;
+    /** What is shown in the program until it is selected no more. */
+    private WeakReference<Component> shown = new WeakReference<>(null);
 
-    Commands(Selection selection, Edits edits, TreePane tree, Sight sight, StatusLine status, Runnable machineryChanged) {
+    Commands(Selection selection, Edits edits, TreePane tree, Sight sight, StatusLine status,
+            Runnable machineryChanged) {
         this.selection = selection;
         this.tree = tree;
         this.edits = edits;
+        this.sight = sight;
+        this.status = status;
+        selection.onChange(() -> {
+            if (shown() != null && shown() != selection.component()) {
+                hide();
+            }
+        });
         pick = new Command("Pick", "F8", "Selects what you click in the program next", sight::canPick,
                 () -> sight.pick(!sight.isPicking()));
         find = new Command("Find", "ctrl F", "Searches for components", () -> true, () -> {
             tree.searchBar().field().requestFocusInWindow();
             tree.searchBar().field().selectAll();
         });
-        back = new Command("Back", "alt LEFT", "Selects what was selected before", selection::canGoBack,
-                selection::back);
-        forward = new Command("Forward", "alt RIGHT", "Selects what was selected after", selection::canGoForward,
-                selection::forward);
+        back = new Command(
+                "Back", "alt LEFT", "Selects what was selected before", selection::canGoBack, selection::back);
+        forward = new Command(
+                "Forward", "alt RIGHT", "Selects what was selected after", selection::canGoForward, selection::forward);
         parent = new Command("Select Parent", "alt UP", "Selects what the component is in",
                 () -> parentOfSelected() != null, () -> selection.select(parentOfSelected()));
-        outline = new Command("Show in Program", "alt ENTER", "Draws a box around the component in the program",
-                this::hasSelected, () -> sight.outline(selection.component()));
+        outline = new Command("Show in Program", "alt ENTER",
+                "Draws a box around the component in the program, or takes it away again", this::hasSelected,
+                this::showOrHide);
         copyPath = new Command("Copy Path", "ctrl shift C", "Copies where the component is, from its window on",
                 this::hasSelected, () -> status.copied("path", Description.pathText(selection.component())));
-        copyClass = new Command("Copy Class", null, "Copies the full name of the component's class",
-                this::hasSelected, () -> status.copied("class", selection.component().getClass().getName()));
+        copyClass = new Command("Copy Class", null, "Copies the full name of the component's class", this::hasSelected,
+                () -> status.copied("class", selection.component().getClass().getName()));
         copyDescription = new Command("Copy Description", "ctrl shift D",
                 "Copies what there is to know of the component, to paste into a report", this::hasSelected,
                 () -> status.copied("description", Description.of(selection.component())));
-        machinery = new Command("Machinery", "ctrl M",
-                "Shows root panes, viewports, scroll bars and the like, too", () -> true, () -> {
+        machinery = new Command(
+                "Machinery", "ctrl M", "Shows root panes, viewports, scroll bars and the like, too", () -> true, () -> {
                     tree.showMachinery(!tree.tree().showsMachinery());
                     machineryChanged.run();
                 });
-        expandAll = new Command("Expand All", "ctrl shift E", "Expands everything", () -> true,
-                () -> tree.setAllExpanded(true));
-        collapseAll = new Command("Collapse All", "ctrl shift W", "Collapses everything", () -> true,
-                () -> tree.setAllExpanded(false));
+        expandAll = new Command(
+                "Expand All", "ctrl shift E", "Expands everything", () -> true, () -> tree.setAllExpanded(true));
+        collapseAll = new Command(
+                "Collapse All", "ctrl shift W", "Collapses everything", () -> true, () -> tree.setAllExpanded(false));
         undo = new Command("Undo", "ctrl Z", "", edits::canUndo, edits::undo);
         redo = new Command("Redo", "ctrl Y", "", edits::canRedo, edits::redo);
+    }
+
+    private void showOrHide() {
+        Component component = selection.component();
+        Showing showing = Showing.of(component);
+        if (component == shown()) {
+            hide();
+        } else if (showing == Showing.YES) {
+            shown = new WeakReference<>(component);
+            sight.outline(component);
+        } else {
+            status.say(Description.label(component) + " cannot be seen: " + showing.words() + ".", true);
+        }
+    }
+
+    private void hide() {
+        shown.clear();
+        sight.outline(null);
+    }
+
+    /** What somebody has asked to be shown in the program, while nothing else is; null for nothing. */
+    Component shown() {
+        return shown.get();
     }
 
     private boolean hasSelected() {
@@ -81,12 +119,13 @@ final class Commands {
         }
         List<Component> path = Description.path(component);
         return tree.tree().showsMachinery() ? Facts.parent(component)
-                : path.size() < 2 ? null : path.get(path.size() - 2);
+                : path.size() < 2           ? null
+                                            : path.get(path.size() - 2);
     }
 
     private List<Command> all() {
-        return Arrays.asList(pick, find, back, forward, parent, outline, copyPath, copyClass, copyDescription, machinery,
-                expandAll, collapseAll, undo, redo);
+        return Arrays.asList(pick, find, back, forward, parent, outline, copyPath, copyClass, copyDescription,
+                machinery, expandAll, collapseAll, undo, redo);
     }
 
     /** Takes the commands' keys anywhere in the window. */

@@ -4,7 +4,10 @@ import java.awt.BorderLayout;
 import java.awt.Component;
 import java.awt.Container;
 import java.awt.event.HierarchyEvent;
+import java.util.ArrayList;
 import java.util.Collections;
+import java.util.List;
+import java.util.function.Consumer;
 
 import javax.swing.InputMap;
 import javax.swing.JButton;
@@ -18,16 +21,20 @@ import javax.swing.KeyStroke;
 import javax.swing.SwingUtilities;
 import javax.swing.Timer;
 
+import com.vantrel.model.Editor;
 import com.vantrel.model.Edits;
 import com.vantrel.model.Listeners;
 import com.vantrel.model.Reading;
+import com.vantrel.model.Row;
 import com.vantrel.model.Selection;
+import com.vantrel.model.SetBy;
 import com.vantrel.model.Target;
+import com.vantrel.record.SetBys;
 
 /**
  * All that there is to know of the selected component, on the right of the window: a header, and a tab each for its
- * properties, layout, where it was added, listeners and keys. Reads while it shows, and only what is selected and in
- * front; drops all of it when the selection is cleared. Belongs to the event thread.
+ * properties, layout, where it was added, changes, listeners and keys. Reads while it shows, and only what is selected
+ * and in front; drops all of it when the selection is cleared. Belongs to the event thread.
  */
 public final class Details extends JPanel {
     private static final long serialVersionUID = 1L;
@@ -44,6 +51,7 @@ public final class Details extends JPanel {
     private final LayoutPanel layout;
     private final RowsPanel listeners = new RowsPanel("vantrel.listeners", "Filter listeners");
     private final KeysPanel keys;
+    private final ChangesPanel changes;
     private final JButton readAll = new JButton("Read all");
     private final Timer readings = new Timer(MILLIS_BETWEEN_READINGS, event -> read());
     private transient Reading reading;
@@ -63,16 +71,19 @@ public final class Details extends JPanel {
         header = new Header(openWhere);
         layout = new LayoutPanel(selection, () -> reading, edits, this::showReading);
         keys = new KeysPanel(selection);
+        changes = new ChangesPanel(selection);
         PropertyRows editing = new PropertyRows(properties, () -> reading, edits, this::showReading);
         readAll.setName("vantrel.properties.readAll");
         readAll.setToolTipText(Tips.of("Reads what only runs the program's own code, one after the other. "
                 + "Nothing of that is read unasked."));
         readAll.addActionListener(event -> editing.askAll());
         properties.addTool(readAll);
+        properties.table().addCommand("Show Where It Was Set", "F4", this::showChange);
         tabs.setName("vantrel.details");
         tabs.addTab("Properties", properties);
         tabs.addTab("Layout", layout);
         tabs.addTab("Added at", addedAt);
+        tabs.addTab("Changes", changes);
         tabs.addTab("Listeners", listeners);
         tabs.addTab("Keys", keys);
         tabs.addChangeListener(event -> showInFront(false));
@@ -88,6 +99,30 @@ public final class Details extends JPanel {
             }
         });
         selectionChanged();
+    }
+
+    /** Has what became of an attempt to open a line told to somebody else, too, while its tab does not show. */
+    void onOutcome(Consumer<Editor.Outcome> listener) {
+        changes.onOutcome(listener);
+    }
+
+    private void showChange(Row property) {
+        tabs.setSelectedComponent(changes);
+        changes.select(property.name());
+    }
+
+    /** The lines of what has been read, with who has set what. */
+    private List<Row> rows() {
+        Component component = reading.target().isCell() ? null : reading.target().component();
+        if (component == null) {
+            return reading.rows();
+        }
+        List<Row> rows = new ArrayList<>();
+        for (Row row : reading.rows()) {
+            SetBy setBy = SetBys.of(component, row.name());
+            rows.add(setBy == null ? row : row.setBy(setBy));
+        }
+        return rows;
     }
 
     /** Lets the keys that go from tab to tab through to the tabs: tables, lists and scroll panes would go sideways. */
@@ -160,7 +195,7 @@ public final class Details extends JPanel {
     private void showInFront(boolean flash) {
         Component front = tabs.getSelectedComponent();
         if (front == properties || reading == null) {
-            properties.show(reading == null ? Collections.emptyList() : reading.rows(), flash);
+            properties.show(reading == null ? Collections.<Row>emptyList() : rows(), flash);
         }
         if (front == layout || reading == null) {
             layout.show(reading, flash);
@@ -168,6 +203,9 @@ public final class Details extends JPanel {
         if (front == listeners && (count++ % READINGS_BETWEEN_SEARCHES == 0 || !flash)) {
             Component component = selection.component();
             listeners.show(component == null ? Collections.emptyList() : Listeners.of(component), flash);
+        }
+        if (front == changes) {
+            changes.refresh(flash);
         }
         if (front == keys && (count++ % READINGS_BETWEEN_SEARCHES == 0 || !flash)) {
             keys.refresh(flash);

@@ -49,11 +49,8 @@ final class DetailsPane extends JPanel {
             state.show(ToolIcon.CLEAR, "This component is no longer in a window",
                     "Nothing in the program holds it any more.", "", "Alt+Left\tselects what was selected before");
         } else if (!isThere) {
-            state.show(ToolIcon.PICK, "Nothing is selected",
-                    "Control+Click\tin the program selects a component",
-                    "Control+F\tsearches for one",
-                    "Up, Down\tgo through the tree",
-                    "Left, Right\tcollapse and expand",
+            state.show(ToolIcon.PICK, "Nothing is selected", "Control+Click\tin the program selects a component",
+                    "Control+F\tsearches for one", "Up, Down\tgo through the tree", "Left, Right\tcollapse and expand",
                     "Control+F12\thides this window");
         }
         cards.show(this, isThere ? DETAILS : STATE);

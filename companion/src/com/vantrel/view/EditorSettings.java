@@ -66,8 +66,10 @@ final class EditorSettings extends JPanel {
     private void remember(String setting, JTextField field) {
         String value = field.getText().trim();
         boolean isRemembered = Settings.set(setting, value);
-        told.accept(new Editor.Outcome(isRemembered ? "remembered" : "holds until the program ends; the settings file "
-                + "cannot be written", !isRemembered));
+        told.accept(new Editor.Outcome(isRemembered ? "remembered"
+                                                    : "holds until the program ends; the settings file "
+                                + "cannot be written",
+                !isRemembered));
         if (setting.equals(Editor.COMMAND) && !value.isEmpty()) {
             try {
                 new EditorCommand(value);

@@ -56,8 +56,7 @@ final class Header extends JPanel {
     }
 
     private void look() {
-        setBorder(BorderFactory.createCompoundBorder(
-                BorderFactory.createMatteBorder(0, 0, 1, 0, Look.line()),
+        setBorder(BorderFactory.createCompoundBorder(BorderFactory.createMatteBorder(0, 0, 1, 0, Look.line()),
                 BorderFactory.createEmptyBorder(Look.GAP, 2 * Look.GAP, Look.GAP, 2 * Look.GAP)));
         what.setFont(Look.bold().deriveFont(Look.bold().getSize2D() + 2));
         state.setFont(Look.font());
@@ -92,8 +91,7 @@ final class Header extends JPanel {
     }
 
     private static String cell(Target target, Component owner) {
-        return owner instanceof JTable ? "Cell " + target.row() + ", " + target.column()
-                : "Cell " + target.row();
+        return owner instanceof JTable ? "Cell " + target.row() + ", " + target.column() : "Cell " + target.row();
     }
 
     private void showLine(StackTraceElement now, String otherwise) {

@@ -13,6 +13,7 @@ import javax.swing.Action;
 import javax.swing.JMenuBar;
 import javax.swing.JPanel;
 import javax.swing.JPopupMenu;
+import javax.swing.JSplitPane;
 import javax.swing.SwingUtilities;
 
 import com.vantrel.model.Edits;
@@ -52,7 +53,7 @@ public final class InspectorPane extends JPanel {
         commands = new Commands(selection, edits, tree, sight, status, this::update);
         tools = new ToolBar(commands, tree.searchBar());
         details = new DetailsPane(selection);
-        split = new Split(tree, details);
+        split = new Split(JSplitPane.HORIZONTAL_SPLIT, tree, details);
         split.setResizeWeight(TREE_SHARE);
         menus = Menus.bar(commands, tree.tree()::showsMachinery, closing(close));
         add(tools, BorderLayout.PAGE_START);
@@ -64,7 +65,7 @@ public final class InspectorPane extends JPanel {
         edits.onChange(this::update);
         sight.onChange(this::update);
         tree.onLook(this::update);
-        tree.view().onHover(node -> sight.outline(node == null ? null : node.component()));
+        tree.view().onHover(node -> sight.outline(node == null ? commands.shown() : node.component()));
         rowMenu(tree.view(), Menus.ofRow(commands));
         tree.tree().showMachinery(Boolean.parseBoolean(Settings.get(MACHINERY, "")));
         update();
@@ -106,8 +107,8 @@ public final class InspectorPane extends JPanel {
         });
         Runnable atRow = () -> {
             Rectangle row = view.getCellBounds(view.getSelectedIndex(), view.getSelectedIndex());
-            Point at = new Point(TreeRowPainter.twistyAt(view.getSelectedValue()) + 2 * TreeRowPainter.TWISTY,
-                    row.y + row.height);
+            Point at = new Point(
+                    TreeRowPainter.twistyAt(view.getSelectedValue()) + 2 * TreeRowPainter.TWISTY, row.y + row.height);
             menu.show(view, at.x, at.y);
         };
         view.bind("CONTEXT_MENU", atRow);
@@ -137,7 +138,9 @@ public final class InspectorPane extends JPanel {
         if (isDisplayable()) {
             AddedAtPanel addedAt = new AddedAtPanel(selection);
             addedAt.onOutcome(outcome -> status.say(outcome.line(), outcome.isFailure()));
-            details.fill(new Details(selection, edits, addedAt, addedAt::openWhere));
+            Details all = new Details(selection, edits, addedAt, addedAt::openWhere);
+            all.onOutcome(outcome -> status.say(outcome.line(), outcome.isFailure()));
+            details.fill(all);
         }
     }
 

@@ -18,7 +18,9 @@ import com.vantrel.model.Keys;
 import com.vantrel.model.Row;
 import com.vantrel.model.Selection;
 
-/** The key bindings that can take a key while the selected component has the focus, and which one takes a certain key. */
+/**
+ * The key bindings that can take a key while the selected component has the focus, and which one takes a certain key.
+ */
 final class KeysPanel extends JPanel {
     private static final long serialVersionUID = 1L;
 

@@ -155,8 +155,8 @@ final class KindIcon implements Icon {
                 line(g, 3, 7, 11, 7);
                 break;
             case PANEL:
-                g.setStroke(new BasicStroke(1f, BasicStroke.CAP_BUTT, BasicStroke.JOIN_MITER, 10f,
-                        new float[] {2f, 1.5f}, 0f));
+                g.setStroke(new BasicStroke(
+                        1f, BasicStroke.CAP_BUTT, BasicStroke.JOIN_MITER, 10f, new float[] {2f, 1.5f}, 0f));
                 box(g, 1.5, 2.5, 11, 9);
                 break;
             default:

@@ -161,8 +161,7 @@ public final class Look {
     /** A colour between two: the first one at 0, the second one at 1. */
     public static Color mix(Color first, Color second, double share) {
         return new Color(between(first.getRed(), second.getRed(), share),
-                between(first.getGreen(), second.getGreen(), share),
-                between(first.getBlue(), second.getBlue(), share));
+                between(first.getGreen(), second.getGreen(), share), between(first.getBlue(), second.getBlue(), share));
     }
 
     private static int between(int first, int second, double share) {

@@ -27,7 +27,8 @@ final class Menus {
         view.addSeparator();
         add(view, commands.expandAll);
         add(view, commands.collapseAll);
-        view.getPopupMenu().addPopupMenuListener(new OnPopup(() -> machinery.setSelected(showsMachinery.getAsBoolean())));
+        view.getPopupMenu().addPopupMenuListener(
+                new OnPopup(() -> machinery.setSelected(showsMachinery.getAsBoolean())));
         JMenu go = menu("Go", 'G', commands.back, commands.forward, commands.parent, null, commands.outline);
         for (JMenu menu : new JMenu[] {inspector, edit, view, go}) {
             menu.getPopupMenu().addPopupMenuListener(new OnPopup(commands::update));
@@ -57,7 +58,7 @@ final class Menus {
     static JPopupMenu ofRow(Commands commands) {
         JPopupMenu menu = new JPopupMenu();
         for (Action action : new Action[] {commands.outline, commands.parent, null, commands.copyPath,
-            commands.copyClass, commands.copyDescription}) {
+                     commands.copyClass, commands.copyDescription}) {
             if (action == null) {
                 menu.addSeparator();
             } else {

@@ -92,7 +92,7 @@ public final class Placement {
     private static Rectangle usable(GraphicsConfiguration screen) {
         Rectangle bounds = screen.getBounds();
         Insets insets = Toolkit.getDefaultToolkit().getScreenInsets(screen);
-        return new Rectangle(bounds.x + insets.left, bounds.y + insets.top,
-                bounds.width - insets.left - insets.right, bounds.height - insets.top - insets.bottom);
+        return new Rectangle(bounds.x + insets.left, bounds.y + insets.top, bounds.width - insets.left - insets.right,
+                bounds.height - insets.top - insets.bottom);
     }
 }

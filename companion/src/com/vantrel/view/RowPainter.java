@@ -43,8 +43,8 @@ final class RowPainter extends JComponent implements TableCellRenderer {
     }
 
     @Override
-    public Component getTableCellRendererComponent(JTable table, Object value, boolean isSelected, boolean focused,
-            int atLine, int atColumn) {
+    public Component getTableCellRendererComponent(
+            JTable table, Object value, boolean isSelected, boolean focused, int atLine, int atColumn) {
         selected = isSelected;
         line = atLine;
         column = atColumn;
@@ -68,7 +68,9 @@ final class RowPainter extends JComponent implements TableCellRenderer {
     /** How wide a cell would have to be to show all of its text. */
     int wanted(Row row, int ofColumn) {
         FontMetrics metrics = getFontMetrics(Look.font());
-        String text = ofColumn == RowsModel.NAME ? row.name() : ofColumn == RowsModel.VALUE ? row.value() : row.note();
+        String text = ofColumn == RowsModel.NAME ? row.name()
+                : ofColumn == RowsModel.VALUE    ? row.value()
+                                                 : row.source();
         int mark = ofColumn == RowsModel.VALUE && (row.swatch() != null || row.check() != null) ? MARK + PADDING : 0;
         int indent = ofColumn == RowsModel.NAME ? FOLD : 0;
         return metrics.stringWidth(oneLine(text)) + mark + indent + 2 * PADDING;
@@ -76,9 +78,11 @@ final class RowPainter extends JComponent implements TableCellRenderer {
 
     /** Whether a cell's text is cut at its width, or at that of two where the note leaves its place to the value. */
     boolean isCut(Row row, int ofColumn) {
-        boolean both = row.note().isEmpty() && ofColumn != RowsModel.NAME;
-        int width = both ? valueWidth + noteWidth
-                : ofColumn == RowsModel.VALUE ? valueWidth : ofColumn == RowsModel.NOTE ? noteWidth : nameWidth;
+        boolean both = row.source().isEmpty() && ofColumn != RowsModel.NAME;
+        int width = both                      ? valueWidth + noteWidth
+                : ofColumn == RowsModel.VALUE ? valueWidth
+                : ofColumn == RowsModel.NOTE  ? noteWidth
+                                              : nameWidth;
         return wanted(row, both ? RowsModel.VALUE : ofColumn) > width;
     }
 
@@ -125,7 +129,7 @@ final class RowPainter extends JComponent implements TableCellRenderer {
     }
 
     private void paintRow(Graphics2D g, Row row) {
-        boolean value = column == RowsModel.VALUE || column == RowsModel.NOTE && row.note().isEmpty();
+        boolean value = column == RowsModel.VALUE || column == RowsModel.NOTE && row.source().isEmpty();
         double flash = value ? model.flash(line) : 0;
         Color back = flash > 0 ? Look.mix(tableBackground, Look.changed(), Math.min(1, 2 * flash)) : tableBackground;
         g.setColor(back);
@@ -134,15 +138,15 @@ final class RowPainter extends JComponent implements TableCellRenderer {
         if (column == RowsModel.NAME) {
             paintText(g, row.name(), x + FOLD, getWidth(), textOn(back, Look.ink()));
         } else if (column == RowsModel.NOTE) {
-            if (row.note().isEmpty()) {
+            if (row.source().isEmpty()) {
                 // What a long value has no room for goes on here.
                 g.translate(-valueWidth, 0);
                 paintValue(g, row, getWidth() + valueWidth, back);
             } else {
-                paintText(g, row.note(), x, getWidth(), textOn(back, noteColor(row)));
+                paintText(g, row.source(), x, getWidth(), textOn(back, noteColor(row)));
             }
         } else {
-            paintValue(g, row, getWidth() + (row.note().isEmpty() ? noteWidth : 0), back);
+            paintValue(g, row, getWidth() + (row.source().isEmpty() ? noteWidth : 0), back);
         }
     }
 
@@ -163,28 +167,30 @@ final class RowPainter extends JComponent implements TableCellRenderer {
     }
 
     private static Color noteColor(Row row) {
-        return row.note().equals("own") || row.note().equals("set") ? Look.own() : Look.dim();
+        return row.setBy() != null || row.note().equals("own") || row.note().equals("set") ? Look.own() : Look.dim();
     }
 
     private static Color valueColor(Row row) {
         switch (row.kind()) {
-        case ERROR:
-            return Look.error();
-        case DIM:
-        case WAITING:
-            return Look.dim();
-        case ASK:
-            return Look.own();
-        default:
-            return row.isPrograms() ? Look.own() : Look.ink();
+            case ERROR:
+                return Look.error();
+            case DIM:
+            case WAITING:
+                return Look.dim();
+            case ASK:
+                return Look.own();
+            default:
+                return row.isPrograms() ? Look.own() : Look.ink();
         }
     }
 
     /** A colour for text, or that of selected text where it could not be read on a selection. */
     private Color textOn(Color back, Color wanted) {
         boolean readable = Math.abs(brightness(back) - brightness(wanted)) > 90;
-        return readable ? wanted : Math.abs(brightness(back) - brightness(Look.selectionForeground())) > 90
-                ? Look.selectionForeground() : brightness(back) > 128 ? Color.BLACK : Color.WHITE;
+        return readable                                                                    ? wanted
+                : Math.abs(brightness(back) - brightness(Look.selectionForeground())) > 90 ? Look.selectionForeground()
+                : brightness(back) > 128                                                   ? Color.BLACK
+                                                                                           : Color.WHITE;
     }
 
     private static double brightness(Color color) {

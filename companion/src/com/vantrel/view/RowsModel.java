@@ -40,7 +40,7 @@ final class RowsModel extends AbstractTableModel {
 
         boolean isAbout(Line other) {
             return row == null ? other.row == null && group.equals(other.group)
-                    : other.row != null && row.isAbout(other.row);
+                               : other.row != null && row.isAbout(other.row);
         }
 
         boolean isSameAs(Line other) {
@@ -84,8 +84,7 @@ final class RowsModel extends AbstractTableModel {
             Line line = lines.get(i);
             if (!line.isSameAs(before.get(i))) {
                 if (flash && line.row != null && !line.row.saysSame(before.get(i).row)
-                        && before.get(i).row.kind() != Row.Kind.ASK
-                        && before.get(i).row.kind() != Row.Kind.WAITING) {
+                        && before.get(i).row.kind() != Row.Kind.ASK && before.get(i).row.kind() != Row.Kind.WAITING) {
                     changedAt.put(line.key(), System.nanoTime());
                 }
                 fireTableRowsUpdated(i, i);
@@ -128,7 +127,8 @@ final class RowsModel extends AbstractTableModel {
         if (filter.isEmpty()) {
             return true;
         }
-        String text = (row.group() + ' ' + row.name() + ' ' + row.value() + ' ' + row.note()).toLowerCase(Locale.ROOT);
+        String text =
+                (row.group() + ' ' + row.name() + ' ' + row.value() + ' ' + row.source()).toLowerCase(Locale.ROOT);
         for (String word : filter.split("\\s+")) {
             if (!text.contains(word)) {
                 return false;
@@ -218,7 +218,7 @@ final class RowsModel extends AbstractTableModel {
         if (row == null) {
             return column == NAME ? group(line) : "";
         }
-        return column == NAME ? row.name() : column == VALUE ? row.value() : row.note();
+        return column == NAME ? row.name() : column == VALUE ? row.value() : row.source();
     }
 
     /** What can be edited has an editor, which sets it itself: what is set is not always what is shown then. */

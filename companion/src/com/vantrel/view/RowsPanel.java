@@ -6,6 +6,7 @@ import java.awt.Component;
 import java.awt.Dimension;
 import java.awt.Graphics;
 import java.awt.Graphics2D;
+import java.awt.Insets;
 import java.awt.event.ActionEvent;
 import java.awt.event.InputEvent;
 import java.awt.event.KeyAdapter;
@@ -23,6 +24,7 @@ import javax.swing.KeyStroke;
 import javax.swing.ScrollPaneConstants;
 import javax.swing.event.DocumentEvent;
 import javax.swing.event.DocumentListener;
+import javax.swing.plaf.basic.BasicTextAreaUI;
 
 import com.vantrel.model.Row;
 
@@ -33,12 +35,13 @@ import com.vantrel.model.Row;
 final class RowsPanel extends JPanel {
     private static final long serialVersionUID = 1L;
 
-    private static final String HINT = "Up and Down select a row, which is then told in full here. Typing filters the rows.";
+    private static final String HINT =
+            "Up and Down select a row, which is then told in full here. Typing filters the rows.";
     private static final int LINES_OF_STRIP = 3;
 
     private final RowsModel model = new RowsModel();
     private final RowsTable table;
-    private final JTextArea strip = new JTextArea();
+    private final JTextArea strip = new Strip();
     private final JScrollPane stripScroll = new JScrollPane(strip);
     private final JTextField filter;
     private final JPanel top = new JPanel(new BorderLayout(Look.GAP, 0));
@@ -52,10 +55,11 @@ final class RowsPanel extends JPanel {
         table = new RowsTable(name, model);
         filter = new PromptField(prompt);
         filter.setName(name + ".filter");
+        filter.setMargin(new Insets(3, 4, 3, 4));
         filter.setToolTipText("Words that a row has anywhere, in any order. Typing in the table comes here, too.");
         strip.setName(name + ".strip");
-        JScrollPane scroll = new JScrollPane(table, ScrollPaneConstants.VERTICAL_SCROLLBAR_ALWAYS,
-                ScrollPaneConstants.HORIZONTAL_SCROLLBAR_NEVER);
+        JScrollPane scroll = new JScrollPane(
+                table, ScrollPaneConstants.VERTICAL_SCROLLBAR_ALWAYS, ScrollPaneConstants.HORIZONTAL_SCROLLBAR_NEVER);
         scroll.setBorder(BorderFactory.createEmptyBorder());
         strip.setEditable(false);
         strip.setLineWrap(true);
@@ -78,6 +82,7 @@ final class RowsPanel extends JPanel {
         int height = LINES_OF_STRIP * getFontMetrics(Look.font()).getHeight() + 2 * Look.GAP + 1;
         stripScroll.setPreferredSize(new Dimension(10, height));
         stripScroll.setBorder(BorderFactory.createMatteBorder(1, 0, 0, 0, Look.line()));
+        stripScroll.setViewportBorder(BorderFactory.createEmptyBorder()); // or some looks and feels draw one
         stripScroll.setOpaque(false);
         stripScroll.getViewport().setOpaque(false);
     }
@@ -97,6 +102,11 @@ final class RowsPanel extends JPanel {
 
     RowsModel model() {
         return model;
+    }
+
+    /** Tells nothing below the table, where something else tells of the selected row. */
+    void hideStrip() {
+        stripScroll.setVisible(false);
     }
 
     /** Adds something beside the filter field. */
@@ -132,8 +142,9 @@ final class RowsPanel extends JPanel {
     private static String text(Row row) {
         String type = row.type().isEmpty() ? "" : " : " + row.type();
         String value = row.value().isEmpty() || row.kind() == Row.Kind.ASK ? "" : row.value();
-        String more = row.isEditable() ? "Enter or F2 " + (row.check() == null ? "edits" : "changes") + " it."
-                : row.explanation();
+        String edit = row.isEditable() ? "Enter or F2 " + (row.check() == null ? "edits" : "changes") + " it."
+                                       : row.explanation();
+        String more = row.setBy() == null ? edit : (row.setBy().sentence() + " F4 shows the stack. " + edit).trim();
         return (row.name() + type + '\n' + value + (value.isEmpty() || more.isEmpty() ? "" : "\n") + more).trim();
     }
 
@@ -163,8 +174,10 @@ final class RowsPanel extends JPanel {
         table.addKeyListener(new KeyAdapter() {
             @Override
             public void keyTyped(KeyEvent event) {
-                boolean plain = (event.getModifiersEx() & (InputEvent.CTRL_DOWN_MASK | InputEvent.ALT_DOWN_MASK
-                        | InputEvent.META_DOWN_MASK)) == 0;
+                boolean plain =
+                        (event.getModifiersEx()
+                                & (InputEvent.CTRL_DOWN_MASK | InputEvent.ALT_DOWN_MASK | InputEvent.META_DOWN_MASK))
+                        == 0;
                 if (plain && event.getKeyChar() > ' ' && event.getKeyChar() != KeyEvent.VK_DELETE) {
                     event.consume();
                     filter.setText(filter.getText() + event.getKeyChar());
@@ -192,6 +205,16 @@ final class RowsPanel extends JPanel {
                 task.run();
             }
         });
+    }
+
+    /** A text on whatever is behind it. Some looks and feels would fill a text area all the same. */
+    private static final class Strip extends JTextArea {
+        private static final long serialVersionUID = 1L;
+
+        @Override
+        public void updateUI() {
+            setUI(new BasicTextAreaUI());
+        }
     }
 
     /** A text field that says what it is for while it is empty. */

@@ -14,6 +14,7 @@ import java.awt.event.KeyEvent;
 import java.awt.event.MouseAdapter;
 import java.awt.event.MouseEvent;
 import java.util.List;
+import java.util.function.Consumer;
 import java.util.function.Predicate;
 
 import javax.swing.AbstractAction;
@@ -48,6 +49,7 @@ final class RowsTable extends JTable {
 
     private final RowsModel rows;
     private final RowPainter painter;
+    private final transient DoubleClick doubleClick = new DoubleClick();
     private final Timer fades = new Timer(MILLIS_BETWEEN_FADES, event -> fade());
     private final JLabel complaint = new JLabel();
     private final Timer complaintEnds = new Timer(MILLIS_OF_COMPLAINT, event -> complain(-1, null));
@@ -184,6 +186,15 @@ final class RowsTable extends JTable {
         }
     }
 
+    /** Selects a row, and brings it into sight. */
+    void select(Row row) {
+        for (int line = 0; line < rows.getRowCount(); line++) {
+            if (rows.row(line) != null && rows.row(line).isAbout(row)) {
+                changeSelection(line, 0, false, false);
+            }
+        }
+    }
+
     /** The selected row; null if none or a group's title is. */
     Row selectedRow() {
         return rows.row(getSelectedRow());
@@ -236,14 +247,16 @@ final class RowsTable extends JTable {
         widestNote = 0;
     }
 
-    /** Gives names and notes what they need, up to their share, and values the rest; they may go on where no note is. */
+    /**
+     * Gives names and notes what they need, up to their share, and values the rest; they may go on where no note is.
+     */
     private void fitColumns() {
         int width = getParent() instanceof JViewport ? getParent().getWidth() : getWidth();
         for (int line = 0; line < rows.getRowCount(); line++) {
             Row row = rows.row(line);
             if (row != null) {
                 widestName = Math.max(widestName, painter.wanted(row, RowsModel.NAME));
-                if (!row.note().isEmpty()) {
+                if (!row.source().isEmpty()) {
                     widestValue = Math.max(widestValue, painter.wanted(row, RowsModel.VALUE));
                     widestNote = Math.max(widestNote, painter.wanted(row, RowsModel.NOTE));
                 }
@@ -271,8 +284,8 @@ final class RowsTable extends JTable {
             return null;
         }
         if (painter.isCut(row, column)) {
-            boolean note = column == RowsModel.NOTE && !row.note().isEmpty();
-            return Tips.of(column == RowsModel.NAME ? row.name() : note ? row.note() : row.value());
+            boolean note = column == RowsModel.NOTE && !row.source().isEmpty();
+            return Tips.of(column == RowsModel.NAME ? row.name() : note ? row.source() : row.value());
         }
         return row.explanation().isEmpty() ? null : Tips.of(row.explanation());
     }
@@ -299,6 +312,19 @@ final class RowsTable extends JTable {
         menu.add(action("Copy line", () -> copy(selectedRow() == null ? "" : selectedRow().toString())));
         menu.add(action("Copy all lines", () -> copy(allText())));
         return menu;
+    }
+
+    /**
+     * Adds something that can be done with the selected row, by its menu and by key.
+     *
+     * @param key as {@link KeyStroke#getKeyStroke(String)} takes it
+     */
+    void addCommand(String name, String key, Consumer<Row> task) {
+        getComponentPopupMenu().add(bind(KeyStroke.getKeyStroke(key), action(name, () -> {
+            if (selectedRow() != null) {
+                task.accept(selectedRow());
+            }
+        })));
     }
 
     /** Takes a key, but not from an editor, to which the table is a parent. */
@@ -361,6 +387,7 @@ final class RowsTable extends JTable {
 
     private void pressed(MouseEvent event) {
         int line = rowAtPoint(event.getPoint());
+        boolean doubled = doubleClick.isEndedBy(event, rows.key(line));
         if (line < 0) {
             return;
         }
@@ -373,7 +400,7 @@ final class RowsTable extends JTable {
         if (row == null) {
             fold(!rows.isOpen(rows.group(line)));
         } else if (onValue && (row.kind() == Row.Kind.ASK || row.check() != null && isOnCheck(event.getX()))
-                || event.getClickCount() == 2) {
+                || doubled) {
             activate();
         }
     }

@@ -65,8 +65,8 @@ final class SiblingsDrawing extends JComponent {
         double scale = scale();
         double left = (getWidth() - 1 - boxes.parent().width * scale) / 2;
         double top = (getHeight() - 1 - boxes.parent().height * scale) / 2;
-        return new Rectangle2D.Double(left + bounds.x * scale, top + bounds.y * scale, bounds.width * scale,
-                bounds.height * scale);
+        return new Rectangle2D.Double(
+                left + bounds.x * scale, top + bounds.y * scale, bounds.width * scale, bounds.height * scale);
     }
 
     private boolean isThere() {

@@ -10,13 +10,17 @@ import javax.swing.KeyStroke;
 import javax.swing.plaf.basic.BasicSplitPaneDivider;
 import javax.swing.plaf.basic.BasicSplitPaneUI;
 
-/** Two parts side by side with a thin line between them that can be dragged. The same under every look and feel. */
+/**
+ * Two parts, side by side or one above the other, with a thin line between them that can be dragged. The same under
+ * every look and feel.
+ */
 final class Split extends JSplitPane {
     private static final long serialVersionUID = 1L;
     private static final int DIVIDER = 5;
 
-    Split(JComponent left, JComponent right) {
-        super(HORIZONTAL_SPLIT, true, left, right);
+    /** @param orientation HORIZONTAL_SPLIT for side by side, VERTICAL_SPLIT for one above the other */
+    Split(int orientation, JComponent first, JComponent second) {
+        super(orientation, true, first, second);
         // A split pane's own keys for its divider: F8 picks, wherever the focus is.
         getInputMap(WHEN_ANCESTOR_OF_FOCUSED_COMPONENT).put(KeyStroke.getKeyStroke("F8"), "none");
     }
@@ -35,7 +39,11 @@ final class Split extends JSplitPane {
                         g.setColor(Look.background());
                         g.fillRect(0, 0, getWidth(), getHeight());
                         g.setColor(line);
-                        g.fillRect(getWidth() / 2, 0, 1, getHeight());
+                        if (Split.this.getOrientation() == HORIZONTAL_SPLIT) {
+                            g.fillRect(getWidth() / 2, 0, 1, getHeight());
+                        } else {
+                            g.fillRect(0, getHeight() / 2, getWidth(), 1);
+                        }
                     }
                 };
             }

@@ -138,7 +138,8 @@ final class StackList extends JList<StackRows.Row> {
 
         @Override
         public Dimension getPreferredSize() {
-            int width = place.getText().isEmpty() ? method.getPreferredSize().width
+            int width = place.getText().isEmpty()
+                    ? method.getPreferredSize().width
                     : methodWidth + placeWidth + packageName.getPreferredSize().width + 2 * COLUMN_GAP;
             return new Dimension(indent + width + Look.GAP, getFixedCellHeight());
         }

@@ -8,10 +8,10 @@ import java.util.Set;
 
 import javax.swing.AbstractListModel;
 
-import com.vantrel.model.AddedAt;
-import com.vantrel.model.AddedAt.Kind;
-import com.vantrel.model.AddedAt.Part;
 import com.vantrel.model.CallSite;
+import com.vantrel.model.CallStack;
+import com.vantrel.model.CallStack.Kind;
+import com.vantrel.model.CallStack.Part;
 
 /** A folded stack as rows of a list: lines, and folds that can be opened. Belongs to the event thread. */
 final class StackRows extends AbstractListModel<StackRows.Row> {
@@ -39,7 +39,7 @@ final class StackRows extends AbstractListModel<StackRows.Row> {
             return line == null ? part.lines() : Collections.singletonList(line);
         }
 
-        /** Whether this is the program's line that put the component where it is. */
+        /** Whether this is the program's innermost line, the one that is asked for. */
         boolean isWhere() {
             return isWhere;
         }
@@ -66,14 +66,14 @@ final class StackRows extends AbstractListModel<StackRows.Row> {
     private transient StackTraceElement where;
 
     /** Shows another stack, with all folds closed. */
-    void show(AddedAt addedAt) {
+    void show(CallStack stack) {
         open.clear();
-        parts = addedAt.parts();
-        where = addedAt.where();
+        parts = stack.parts();
+        where = stack.where();
         rebuild();
     }
 
-    /** The row of the line that put the component where it is; -1 if there is none. */
+    /** The row of the program's innermost line; -1 if there is none. */
     int whereRow() {
         for (int at = 0; at < rows.size(); at++) {
             if (rows.get(at).isWhere) {

@@ -60,7 +60,8 @@ final class StatusLine extends JComponent {
     void copied(String what, String text) {
         boolean works = Clip.copy(text);
         say(works ? "The " + what + " is on the clipboard."
-                : "The clipboard is busy: another program holds it. Try again.", !works);
+                  : "The clipboard is busy: another program holds it. Try again.",
+                !works);
     }
 
     /** Says for a while what was done, or why it was not. */

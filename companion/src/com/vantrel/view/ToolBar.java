@@ -36,11 +36,17 @@ final class ToolBar extends JComponent {
 
     private void put(JComponent part, int weight, int gap) {
         if (part instanceof AbstractButton && part.getName() == null) {
-            part.setName("vantrel." + ((AbstractButton) part).getAction().getValue(Action.NAME).toString()
-                    .toLowerCase(java.util.Locale.ROOT));
+            part.setName("vantrel."
+                    + ((AbstractButton) part)
+                              .getAction()
+                              .getValue(Action.NAME)
+                              .toString()
+                              .toLowerCase(java.util.Locale.ROOT));
         }
-        add(part, new GridBagConstraints(column++, 0, 1, 1, weight, 0, GridBagConstraints.CENTER,
-                weight > 0 ? GridBagConstraints.HORIZONTAL : GridBagConstraints.NONE, new Insets(0, 0, 0, gap), 0, 0));
+        add(part,
+                new GridBagConstraints(column++, 0, 1, 1, weight, 0, GridBagConstraints.CENTER,
+                        weight > 0 ? GridBagConstraints.HORIZONTAL : GridBagConstraints.NONE, new Insets(0, 0, 0, gap),
+                        0, 0));
     }
 
     /** Shows what is switched on. */

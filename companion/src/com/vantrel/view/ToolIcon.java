@@ -14,7 +14,16 @@ import javax.swing.Icon;
 
 /** The drawings on the inspector's buttons, in lines, sharp at any scale, in the colour of the button's text. */
 enum ToolIcon implements Icon {
-    PICK, SEARCH, CLEAR, MACHINERY, BACK, FORWARD, UNDO, REDO, PREVIOUS, NEXT;
+    PICK,
+    SEARCH,
+    CLEAR,
+    MACHINERY,
+    BACK,
+    FORWARD,
+    UNDO,
+    REDO,
+    PREVIOUS,
+    NEXT;
 
     private static final int SIZE = 16;
 
@@ -39,7 +48,8 @@ enum ToolIcon implements Icon {
         g.dispose();
     }
 
-    private void draw(Graphics2D g) {
+    /** Draws it at the origin, in the colour and stroke that are set. */
+    void draw(Graphics2D g) {
         switch (this) {
             case PICK:
                 path(g, 6.5, 13.5, 3.5, 13.5, 2, 12, 2, 3.5, 3.5, 2, 12, 2, 13.5, 3.5, 13.5, 6);

@@ -52,7 +52,7 @@ final class TreePane extends JPanel {
     private boolean isReady;
     /** Where to go when the search is done: Enter was pressed before. */
     private int stepWhenDone;
-    private transient Runnable onLook = () -> { };
+    private transient Runnable onLook = () -> {};
 
     TreePane(Selection selection) {
         this.selection = selection;

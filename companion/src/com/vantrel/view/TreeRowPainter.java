@@ -51,8 +51,8 @@ final class TreeRowPainter extends JLabel implements ListCellRenderer<TreeNode> 
     }
 
     @Override
-    public Component getListCellRendererComponent(JList<? extends TreeNode> list, TreeNode value, int index,
-            boolean isSelected, boolean hasFocus) {
+    public Component getListCellRendererComponent(
+            JList<? extends TreeNode> list, TreeNode value, int index, boolean isSelected, boolean hasFocus) {
         node = value;
         selected = isSelected;
         hovered = tree.hovered() == index;
@@ -137,7 +137,8 @@ final class TreeRowPainter extends JLabel implements ListCellRenderer<TreeNode> 
         }
         if (!look.text().isEmpty()) {
             String text = quoted(look);
-            paintText(g, Look.fitting(text, g.getFontMetrics(Look.font()), getWidth() - x - LEFT), Look.font(), weak, x);
+            paintText(
+                    g, Look.fitting(text, g.getFontMetrics(Look.font()), getWidth() - x - LEFT), Look.font(), weak, x);
         }
     }
 

@@ -40,8 +40,8 @@ final class TreeView extends JList<TreeNode> {
     private final transient TreeSearch search;
     private final TreeRowPainter painter = new TreeRowPainter(this);
     private final Rows rows = new Rows();
-    private transient Consumer<TreeNode> onSelect = node -> { };
-    private transient Consumer<TreeNode> onHover = node -> { };
+    private transient Consumer<TreeNode> onSelect = node -> {};
+    private transient Consumer<TreeNode> onHover = node -> {};
     private transient TreeNode selected;
     private boolean adjusting;
     private int hovered = -1;
@@ -188,8 +188,8 @@ final class TreeView extends JList<TreeNode> {
             Dimension size = getPreferredSize();
             setSize(Math.max(size.width, getWidth()), size.height); // or the viewport takes the old height for a limit
             int y = getCellBounds(now, now).y + offset;
-            ((JViewport) getParent()).setViewPosition(
-                    new Point(seen.x, Math.max(0, Math.min(y, size.height - seen.height))));
+            ((JViewport) getParent())
+                    .setViewPosition(new Point(seen.x, Math.max(0, Math.min(y, size.height - seen.height))));
         }
         repaint();
     }
@@ -263,8 +263,9 @@ final class TreeView extends JList<TreeNode> {
     /** Typing goes to the search and does not jump about in the rows. */
     @Override
     protected void processKeyEvent(KeyEvent event) {
-        boolean command = (event.getModifiersEx() & (InputEvent.CTRL_DOWN_MASK | InputEvent.META_DOWN_MASK
-                | InputEvent.ALT_DOWN_MASK)) != 0;
+        boolean command = (event.getModifiersEx()
+                                  & (InputEvent.CTRL_DOWN_MASK | InputEvent.META_DOWN_MASK | InputEvent.ALT_DOWN_MASK))
+                != 0;
         if (event.getID() == KeyEvent.KEY_TYPED && !command && !Character.isISOControl(event.getKeyChar())) {
             if ("+-*".indexOf(event.getKeyChar()) < 0) {
                 firePropertyChange("typed", null, String.valueOf(event.getKeyChar()));
@@ -323,15 +324,18 @@ final class TreeView extends JList<TreeNode> {
     }
 
     private final class Mouse extends MouseInputAdapter {
+        private final DoubleClick doubleClick = new DoubleClick();
+
         @Override
         public void mousePressed(MouseEvent event) {
             TreeNode node = nodeAt(event.getPoint());
+            boolean doubled = doubleClick.isEndedBy(event, node);
             if (node == null || !SwingUtilities.isLeftMouseButton(event)) {
                 return;
             }
             int x = event.getX() - TreeRowPainter.twistyAt(node);
             boolean onTwisty = x >= 0 && x < TreeRowPainter.TWISTY;
-            if (node.isExpandable() && (onTwisty || event.getClickCount() == 2)) {
+            if (node.isExpandable() && (onTwisty || doubled)) {
                 expand(node, !tree.isExpanded(node));
             }
         }

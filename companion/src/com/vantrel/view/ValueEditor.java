@@ -98,8 +98,8 @@ final class ValueEditor extends AbstractCellEditor implements TableCellEditor {
         button.setFocusable(false);
         button.setToolTipText("Choose a colour");
         button.addActionListener(event -> {
-            Color chosen = JColorChooser.showDialog(SwingUtilities.getWindowAncestor(table),
-                    row.name() + " of the selected component", row.swatch());
+            Color chosen = JColorChooser.showDialog(
+                    SwingUtilities.getWindowAncestor(table), row.name() + " of the selected component", row.swatch());
             if (chosen != null && field != null) {
                 field.setText(String.format("#%06x", chosen.getRGB() & 0xFFFFFF));
                 stopCellEditing();

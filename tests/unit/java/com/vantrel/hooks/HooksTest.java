@@ -77,25 +77,25 @@ public class HooksTest {
         JPanel one = named("one", new JPanel(null));
         JPanel two = named("two", new JPanel(null));
         Object[][] cases = {
-            {(Runnable) () -> label.setText("x"), "label text"},
-            {(Runnable) () -> label.setOpaque(true), "label opaque"},
-            {(Runnable) () -> label.setIconTextGap(9), "label iconTextGap"},
-            {(Runnable) () -> label.setBounds(1, 2, 3, 4), "label " + Hooks.BOUNDS},
-            {(Runnable) () -> label.setSize(7, 7), "label " + Hooks.BOUNDS},
-            {(Runnable) () -> label.setVisible(false), "label " + Hooks.VISIBLE},
-            {(Runnable) () -> label.setVisible(true), "label " + Hooks.VISIBLE},
-            {(Runnable) () -> button.setEnabled(false), "button " + Hooks.ENABLED},
-            {(Runnable) () -> button.setEnabled(true), "button " + Hooks.ENABLED},
-            {(Runnable) () -> label.setCursor(new Cursor(Cursor.HAND_CURSOR)), "label " + Hooks.CURSOR},
-            {(Runnable) () -> label.setFocusable(false), "label " + Hooks.FOCUSABLE},
-            {(Runnable) () -> label.invalidate(), "label " + Hooks.VALID},
-            {(Runnable) () -> one.add(label), "label from none to one"},
-            {(Runnable) () -> two.add(label), "label from one to none"},
-            {(Runnable) () -> one.add(label), "label from none to one"},
-            {(Runnable) () -> one.add(button), "button from none to one"},
-            {(Runnable) () -> one.setComponentZOrder(button, 0), "one " + Hooks.ORDER},
-            {(Runnable) () -> two.setComponentZOrder(button, 0), "button from none to two"},
-            {(Runnable) () -> one.removeAll(), "label from one to none"},
+                {(Runnable) () -> label.setText("x"), "label text"},
+                {(Runnable) () -> label.setOpaque(true), "label opaque"},
+                {(Runnable) () -> label.setIconTextGap(9), "label iconTextGap"},
+                {(Runnable) () -> label.setBounds(1, 2, 3, 4), "label " + Hooks.BOUNDS},
+                {(Runnable) () -> label.setSize(7, 7), "label " + Hooks.BOUNDS},
+                {(Runnable) () -> label.setVisible(false), "label " + Hooks.VISIBLE},
+                {(Runnable) () -> label.setVisible(true), "label " + Hooks.VISIBLE},
+                {(Runnable) () -> button.setEnabled(false), "button " + Hooks.ENABLED},
+                {(Runnable) () -> button.setEnabled(true), "button " + Hooks.ENABLED},
+                {(Runnable) () -> label.setCursor(new Cursor(Cursor.HAND_CURSOR)), "label " + Hooks.CURSOR},
+                {(Runnable) () -> label.setFocusable(false), "label " + Hooks.FOCUSABLE},
+                {(Runnable) () -> label.invalidate(), "label " + Hooks.VALID},
+                {(Runnable) () -> one.add(label), "label from none to one"},
+                {(Runnable) () -> two.add(label), "label from one to none"},
+                {(Runnable) () -> one.add(label), "label from none to one"},
+                {(Runnable) () -> one.add(button), "button from none to one"},
+                {(Runnable) () -> one.setComponentZOrder(button, 0), "one " + Hooks.ORDER},
+                {(Runnable) () -> two.setComponentZOrder(button, 0), "button from none to two"},
+                {(Runnable) () -> one.removeAll(), "label from one to none"},
         };
         listen(listener);
         for (int i = 0; i < cases.length; i++) {
@@ -167,9 +167,7 @@ public class HooksTest {
             assertTrue(told.contains("label text"));
             assertTrue(told.contains("label from none to panel"));
             assertEquals(panel, label.getParent());
-            filter((source, event) -> {
-                throw new IllegalStateException("third fault");
-            });
+            filter((source, event) -> { throw new IllegalStateException("third fault"); });
             label.dispatchEvent(new ComponentEvent(label, ComponentEvent.COMPONENT_MOVED));
         } finally {
             System.setErr(own);

@@ -16,6 +16,7 @@ import javax.swing.JButton;
 import javax.swing.JComponent;
 import javax.swing.JLabel;
 import javax.swing.JPanel;
+import javax.swing.JRootPane;
 import javax.swing.JScrollBar;
 import javax.swing.JScrollPane;
 import javax.swing.JTextArea;
@@ -78,6 +79,11 @@ public class ComponentTreeTest {
         tree.reveal(null);
         assertSame("not the viewport", node(scroll), tree.parentOf(node(scroll.getViewport().getView())));
 
+        JRootPane root = new JRootPane();
+        assertEquals(Machinery.PART, Machinery.of(root.getGlassPane(), root));
+        root.getGlassPane().setVisible(true);
+        assertEquals("somebody uses it", Machinery.NO, Machinery.of(root.getGlassPane(), root));
+
         tree.showMachinery(true);
         assertTrue(rows(), rows().startsWith("window .form ..ok ..scroll ...JViewport ....notes ...ScrollBar"));
     }
@@ -128,15 +134,33 @@ public class ComponentTreeTest {
         ok.getAccessibleContext().setAccessibleName("Confirmation");
         form.setBackground(new java.awt.Color(1, 2, 3));
         String[][] cases = {
-            // typed, found
-            {"jbut", "ok"}, {"javax.swing.jb", "ok"}, {"swing", ""}, // a package only where it is meant
-            {"NOTES", "notes"}, {"accept", "ok"}, {"order", "ok"}, {"confirm", "ok"},
-            {"\"some lines\"", ""}, {"lines", "notes"},
-            {"jb accept", "ok"}, {"jb lines", ""},
-            {"enabled=false", "ok"}, {"enabled!=true", "ok"}, {"text=acc*", "ok"}, {"text=Acc", ""},
-            {"background=#010203", "form"}, {"background=1,2,3", "form"}, {"background.red<2 name=form", "form"},
-            {"layout=FlowLayout", "window form"}, {"rows>-1", "notes"}, {"rows>many", ""}, {"noSuchThing=1", ""},
-            {"name=ok enabled=true", ""}, {"toolTipText=null name=ok", ""}, {"class=", "window form ok scroll notes"},
+                // typed, found
+                {"jbut", "ok"},
+                {"javax.swing.jb", "ok"},
+                {"swing", ""}, // a package only where it is meant
+                {"NOTES", "notes"},
+                {"accept", "ok"},
+                {"order", "ok"},
+                {"confirm", "ok"},
+                {"\"some lines\"", ""},
+                {"lines", "notes"},
+                {"jb accept", "ok"},
+                {"jb lines", ""},
+                {"enabled=false", "ok"},
+                {"enabled!=true", "ok"},
+                {"text=acc*", "ok"},
+                {"text=Acc", ""},
+                {"background=#010203", "form"},
+                {"background=1,2,3", "form"},
+                {"background.red<2 name=form", "form"},
+                {"layout=FlowLayout", "window form"},
+                {"background.red<1 name=form", ""},
+                {"rows>-1", "notes"},
+                {"rows>many", ""},
+                {"noSuchThing=1", ""},
+                {"name=ok enabled=true", ""},
+                {"toolTipText=null name=ok", ""},
+                {"class=", "window form ok scroll notes"},
         };
         tree.refresh();
         String all = rows();
@@ -169,6 +193,11 @@ public class ComponentTreeTest {
         assertEquals("JPanel \"window\" > JPanel \"form\" > JLabel[1]", Description.pathText(second));
         assertEquals("JPanel \"window\" > JPanel \"form\" > JScrollPane \"scroll\" > JTextArea \"notes\"",
                 Description.pathText(scroll.getViewport().getView()));
+        JButton icon = named("icon", new JButton());
+        icon.setToolTipText("Saves it");
+        form.add(icon);
+        tree.refresh();
+        assertEquals("JButton icon \"Saves it\" (in no window)", node(icon).toString());
         assertTrue(Description.of(second), Description.of(second).contains("text     second"));
     }
 }

@@ -24,8 +24,7 @@ import org.junit.rules.TemporaryFolder;
 public class EditorTest {
     private static final StackTraceElement LINE = new StackTraceElement("a.b.Form$1", "build", "Form.java", 42);
 
-    @Rule
-    public final TemporaryFolder folder = new TemporaryFolder();
+    @Rule public final TemporaryFolder folder = new TemporaryFolder();
 
     @Before
     public void rememberInTheFolder() {
@@ -41,19 +40,21 @@ public class EditorTest {
 
     @Test
     public void aCommandIsSplitAndFilled() {
-        String[][] cases = { // command, words
-            {"idea --line %line %file", "idea", "--line", "42", "/s r/F.java"},
-            {"  vim\t+%line  %file ", "vim", "+42", "/s r/F.java"},
-            {"code --goto %file:%line:1", "code", "--goto", "/s r/F.java:42:1"},
-            {"'/opt/my editor/run' -e \"(open '%file' %line)\"", "/opt/my editor/run", "-e", "(open '/s r/F.java' 42)"},
-            {"a'b c'\"d e\"f '' %file", "ab cd ef", "", "/s r/F.java"},
-            {"gedit", "gedit", "/s r/F.java"},
-            {"e %%file 100%% %f", "e", "%file", "100%", "%f", "/s r/F.java"},
-            {"e C:\\x $HOME `x` | y %file", "e", "C:\\x", "$HOME", "`x`", "|", "y", "/s r/F.java"},
+        String[][] cases = {
+                // command, words
+                {"idea --line %line %file", "idea", "--line", "42", "/s r/F.java"},
+                {"  vim\t+%line  %file ", "vim", "+42", "/s r/F.java"},
+                {"code --goto %file:%line:1", "code", "--goto", "/s r/F.java:42:1"},
+                {"'/opt/my editor/run' -e \"(open '%file' %line)\"", "/opt/my editor/run", "-e",
+                        "(open '/s r/F.java' 42)"},
+                {"a'b c'\"d e\"f '' %file", "ab cd ef", "", "/s r/F.java"},
+                {"gedit", "gedit", "/s r/F.java"},
+                {"e %%file 100%% %f", "e", "%file", "100%", "%f", "/s r/F.java"},
+                {"e C:\\x $HOME `x` | y %file", "e", "C:\\x", "$HOME", "`x`", "|", "y", "/s r/F.java"},
         };
         for (String[] c : cases) {
-            assertEquals(Arrays.asList(c).subList(1, c.length),
-                    new EditorCommand(c[0]).words(Paths.get("/s r/F.java"), 42));
+            assertEquals(
+                    Arrays.asList(c).subList(1, c.length), new EditorCommand(c[0]).words(Paths.get("/s r/F.java"), 42));
         }
         assertEquals("a file without lines", Arrays.asList("e", "F", "1"),
                 new EditorCommand("e %file %line").words(Paths.get("F"), -1));
@@ -119,15 +120,16 @@ public class EditorTest {
     public void theEditorIsStartedOrALineSaysWhyNot() throws Exception {
         source("src/a/b/Form.java");
         String root = folder.getRoot().getPath();
-        String[][] cases = { // command, source folders, what is said
-            {"/bin/sh -c 'echo \"$1\" >\"$0\"' " + root + "/opened %file:%line", root, "opened Form.java:42 in sh"},
-            {"/bin/sh -c 'exit 3' %file", root, "opened Form.java:42 in sh",
-                "the editor '/bin/sh' has ended with status 3"},
-            {"/nowhere/edit %file", root,
-                "the editor '/nowhere/edit' does not start: No such file or directory"},
-            {"edit '%file", root, "the editor command has a quote (') that nothing closes"},
-            {"edit", root + "/none", "Form.java was not found; source folders: " + root + "/none, "
-                + System.getProperty("user.dir")},
+        String[][] cases = {
+                // command, source folders, what is said
+                {"/bin/sh -c 'echo \"$1\" >\"$0\"' " + root + "/opened %file:%line", root, "opened Form.java:42 in sh"},
+                {"/bin/sh -c 'exit 3' %file", root, "opened Form.java:42 in sh",
+                        "the editor '/bin/sh' has ended with status 3"},
+                {"/nowhere/edit %file", root, "the editor '/nowhere/edit' does not start: No such file or directory"},
+                {"edit '%file", root, "the editor command has a quote (') that nothing closes"},
+                {"edit", root + "/none",
+                        "Form.java was not found; source folders: " + root + "/none, "
+                                + System.getProperty("user.dir")},
         };
         for (String[] c : cases) {
             Settings.set(Editor.COMMAND, c[0]);

@@ -52,7 +52,7 @@ public class EditsTest {
     @Test
     public void undoPutsBackWhatWasThere() {
         JPanel parent = new JPanel();
-        JComponent plain = new JComponent() { };
+        JComponent plain = new JComponent() {};
         parent.add(plain);
         set(plain, "background", "#ff0000");
         set(plain, "name", "plain");
@@ -64,20 +64,24 @@ public class EditsTest {
         assertFalse(edits.canUndo());
         edits.redo();
         assertEquals(Color.RED, plain.getBackground());
+        set(plain, "preferredSize", "10 x 20");
+        edits.undo();
+        assertFalse("computed again", plain.isPreferredSizeSet());
         set(plain, "enabled", "false");
         assertFalse("what was undone is forgotten", edits.canRedo());
-        assertEquals("all went well", java.util.Collections.nCopies(3, null), told);
+        assertEquals("all went well", java.util.Collections.nCopies(4, null), told);
     }
 
     @Test
     public void aRefusedValueLeavesTheOldOne() {
+        boolean[] locked = {false};
         JLabel label = new JLabel("before") {
             private static final long serialVersionUID = 1L;
 
             @Override
             public void setText(String text) {
                 super.setText(text);
-                if ("bad".equals(text)) {
+                if ("bad".equals(text) || locked[0]) {
                     throw new IllegalArgumentException("no such text");
                 }
             }
@@ -86,6 +90,16 @@ public class EditsTest {
         assertEquals(List.of("The component refuses it: IllegalArgumentException: no such text."), told);
         assertEquals("before", label.getText());
         assertFalse(edits.canUndo());
+        List<String> complaints = new ArrayList<>();
+        edits.onComplaint(complaints::add);
+        set(label, "text", "good");
+        locked[0] = true;
+        edits.undo();
+        assertTrue("" + complaints, complaints.get(0).contains("cannot be set back: The component refuses it: "));
+        assertTrue("the undo that failed can be tried again", edits.whatToUndo().startsWith("text of "));
+        locked[0] = false;
+        edits.undo();
+        assertEquals("before", label.getText());
 
         JPanel panel = new JPanel(new BorderLayout());
         JButton north = new JButton("north");
@@ -93,7 +107,7 @@ public class EditsTest {
         panel.add(north, BorderLayout.NORTH);
         panel.add(center);
         set(center, "constraints", "NORTH");
-        assertTrue(told.get(1), told.get(1).contains("JButton is there already"));
+        assertTrue(told.get(2), told.get(2).contains("JButton is there already"));
         set(center, "constraints", "SOUTH");
         assertEquals(BorderLayout.SOUTH, ((BorderLayout) panel.getLayout()).getConstraints(center));
         edits.undo();
@@ -114,14 +128,19 @@ public class EditsTest {
 
     @Test
     public void readsGridBagConstraintsAsItWritesThem() {
-        for (String text : List.of("gridx=0 gridy=3", "gridx=RELATIVE gridy=1 gridwidth=2 weightx=0.5 anchor=LINE_START "
-                + "fill=BOTH insets=1,2,3,4 ipadx=5 ipady=6")) {
+        for (String text : List.of("gridx=0 gridy=3",
+                     "gridx=RELATIVE gridy=1 gridwidth=2 weightx=0.5 anchor=LINE_START "
+                             + "fill=BOTH insets=1,2,3,4 ipadx=5 ipady=6")) {
             assertEquals(text, gridBag(text));
         }
         assertEquals("gridx=1 gridy=RELATIVE gridwidth=0", gridBag(" gridwidth = REMAINDER  gridx=1"));
         String[][] wrong = {
-            {"gridx=-3", "not negative"}, {"gridz=1", "no \u201cgridz\u201d"}, {"anchor=UP", "not one of CENTER"},
-            {"weightx=-1", "0 or more"}, {"gridx=1 and more", "type gridx"}, {"insets=1,2", "type gridx"},
+                {"gridx=-3", "not negative"},
+                {"gridz=1", "no \u201cgridz\u201d"},
+                {"anchor=UP", "not one of CENTER"},
+                {"weightx=-1", "0 or more"},
+                {"gridx=1 and more", "type gridx"},
+                {"insets=1,2", "type gridx"},
         };
         for (String[] it : wrong) {
             Exception e = assertThrows(it[0], IllegalArgumentException.class, () -> gridBag(it[0]));

@@ -14,6 +14,9 @@ import javax.swing.AbstractAction;
 import javax.swing.Action;
 import javax.swing.JButton;
 import javax.swing.JComponent;
+import javax.swing.JInternalFrame;
+import javax.swing.JMenuBar;
+import javax.swing.JMenuItem;
 import javax.swing.JPanel;
 import javax.swing.JTextField;
 import javax.swing.KeyStroke;
@@ -43,7 +46,9 @@ public class KeysTest {
     }
 
     private static String taker(List<Row> rows) {
-        return rows.stream().filter(row -> row.name().equals("taken by")).map(Row::value)
+        return rows.stream()
+                .filter(row -> row.name().equals("taken by"))
+                .map(Row::value)
                 .collect(Collectors.joining("; "));
     }
 
@@ -62,7 +67,10 @@ public class KeysTest {
         bind(outer, JComponent.WHEN_ANCESTOR_OF_FOCUSED_COMPONENT, "ctrl B", "outer");
         button.getInputMap().put(KeyStroke.getKeyStroke("ctrl C"), "nowhere");
         bind(inner, JComponent.WHEN_FOCUSED, "ctrl C", "not the focused one's");
-        for (int code : new int[] {KeyEvent.VK_A, KeyEvent.VK_B, KeyEvent.VK_C}) {
+        inner.setEnabled(false);
+        bind(inner, JComponent.WHEN_ANCESTOR_OF_FOCUSED_COMPONENT, "ctrl D", "of a disabled one");
+        bind(outer, JComponent.WHEN_ANCESTOR_OF_FOCUSED_COMPONENT, "ctrl D", "outer");
+        for (int code : new int[] {KeyEvent.VK_A, KeyEvent.VK_B, KeyEvent.VK_C, KeyEvent.VK_D}) {
             ran.clear();
             KeyEvent event = press(button, code, InputEvent.CTRL_DOWN_MASK);
             String said = taker(Keys.takers(button, event));
@@ -72,8 +80,27 @@ public class KeysTest {
         Row passed = Keys.takers(button, press(button, KeyEvent.VK_B, InputEvent.CTRL_DOWN_MASK)).get(0);
         assertEquals("passed over", passed.name());
         assertEquals("Not taken: the action is disabled.", passed.explanation());
-        assertEquals("the focus, which moves to the next component",
-                taker(Keys.takers(button, press(button, KeyEvent.VK_TAB, 0))));
+        List<Row> tab = Keys.takers(button, new KeyEvent(button, KeyEvent.KEY_PRESSED, 0, 0, KeyEvent.VK_TAB, '\t'));
+        assertEquals("the focus, which moves to the next component", taker(tab));
+        assertEquals("and nothing is typed", 1, tab.size());
+    }
+
+    @Test
+    public void aWindowsMenusComeLast() {
+        JInternalFrame frame = new JInternalFrame();
+        JButton button = new JButton();
+        frame.add(button);
+        JMenuItem item = new JMenuItem("Item");
+        item.setAccelerator(KeyStroke.getKeyStroke("ctrl M"));
+        frame.setJMenuBar(new JMenuBar());
+        frame.getJMenuBar().add(item);
+        bind(button, JComponent.WHEN_IN_FOCUSED_WINDOW, "ctrl M", "own");
+        List<String> asked = Keys.takers(button, press(button, KeyEvent.VK_M, InputEvent.CTRL_DOWN_MASK))
+                                     .stream()
+                                     .map(row -> row.note().replaceAll(",.*", ""))
+                                     .collect(Collectors.toList());
+        assertEquals(List.of("This JButton", "JMenuItem", ""), asked);
+        assertTrue(Keys.of(button).stream().anyMatch(row -> row.name().endsWith(" released")));
     }
 
     @Test
@@ -96,22 +123,36 @@ public class KeysTest {
         field.addPropertyChangeListener("text", event -> ran.add("named"));
         field.getDocument().addDocumentListener(new javax.swing.event.DocumentListener() {
             @Override
-            public void insertUpdate(javax.swing.event.DocumentEvent event) { }
+            public void insertUpdate(javax.swing.event.DocumentEvent event) {
+            }
 
             @Override
-            public void removeUpdate(javax.swing.event.DocumentEvent event) { }
+            public void removeUpdate(javax.swing.event.DocumentEvent event) {
+            }
 
             @Override
-            public void changedUpdate(javax.swing.event.DocumentEvent event) { }
+            public void changedUpdate(javax.swing.event.DocumentEvent event) {
+            }
         });
         List<Row> rows = Listeners.of(field);
-        List<String> programs = rows.stream().filter(Row::isPrograms)
-                .map(row -> row.group() + " | " + row.name() + " | " + row.value() + " | " + row.note())
-                .collect(Collectors.toList());
+        List<String> programs =
+                rows.stream()
+                        .filter(Row::isPrograms)
+                        .map(row -> row.group() + " | " + row.name() + " | " + row.value() + " | " + row.note())
+                        .collect(Collectors.toList());
         String own = KeysTest.class.getName();
         assertEquals(List.of("Action | lambda in KeysTest | " + own + " | ",
-                "Property change | lambda in KeysTest | " + own + " | of \"text\"",
-                "Document of its document | KeysTest$2 | " + own + "$2 | "), programs);
+                             "Property change | lambda in KeysTest | " + own + " | of \"text\"",
+                             "Document of its document | KeysTest$2 | " + own + "$2 | "),
+                programs);
+        Action named = new AbstractAction("Go") {
+            private static final long serialVersionUID = 1L;
+
+            @Override
+            public void actionPerformed(ActionEvent event) {
+            }
+        };
+        assertEquals("action \"Go\"", Listeners.of(new JButton(named)).get(0).note());
         assertTrue("the toolkit listens, too", rows.stream().anyMatch(Row::isFolded));
     }
 }

@@ -102,6 +102,9 @@ public class ReadingTest {
         for (String name : List.of("name", "text", "preferredSize", "minimumSize", "baseline", "order")) {
             assertEquals(name, Row.Kind.ASK, row(reading, name).kind());
         }
+        assertEquals("int[2]  1, 2", Values.text(new int[] {1, 2}));
+        JPanel fresh = new JPanel();
+        assertEquals("it would make one", Row.Kind.ASK, row(read(fresh), "accessibleName").kind());
         assertEquals("the toolkit's own are read", "LEADING", row(reading, "horizontalAlignment").value());
 
         reading.ask(row(reading, "preferredSize"));
@@ -150,7 +153,7 @@ public class ReadingTest {
         JButton button = new JButton("OK");
         JPanel panel = new JPanel();
         panel.setName("panel");
-        JComponent plain = new JComponent() { };
+        JComponent plain = new JComponent() {};
         panel.add(button);
         panel.add(plain);
         assertEquals("Button.background", row(read(button), "background").note());

@@ -36,18 +36,18 @@ public class HotKeyTest {
     @Test
     public void isTheKeyThatIsNamedAndNoOther() {
         Object[][] cases = {
-            {null, KeyEvent.VK_F12, CONTROL, true},
-            {"", KeyEvent.VK_F12, CONTROL, true},
-            {null, KeyEvent.VK_F12, 0, false},
-            {null, KeyEvent.VK_F12, CONTROL | SHIFT, false},
-            {null, KeyEvent.VK_F11, CONTROL, false},
-            {"Control+Shift+F11", KeyEvent.VK_F11, CONTROL | SHIFT, true},
-            {"ctrl+shift+F11", KeyEvent.VK_F11, CONTROL | SHIFT, true},
-            {"Control+Shift+F11", KeyEvent.VK_F12, CONTROL, false},
-            {"Alt+i", KeyEvent.VK_I, InputEvent.ALT_DOWN_MASK, true},
-            {"Pause", KeyEvent.VK_PAUSE, 0, true},
-            {"Super+F12", KeyEvent.VK_F12, 0, false},
-            {"no such key", KeyEvent.VK_F12, CONTROL, false},
+                {null, KeyEvent.VK_F12, CONTROL, true},
+                {"", KeyEvent.VK_F12, CONTROL, true},
+                {null, KeyEvent.VK_F12, 0, false},
+                {null, KeyEvent.VK_F12, CONTROL | SHIFT, false},
+                {null, KeyEvent.VK_F11, CONTROL, false},
+                {"Control+Shift+F11", KeyEvent.VK_F11, CONTROL | SHIFT, true},
+                {"ctrl+shift+F11", KeyEvent.VK_F11, CONTROL | SHIFT, true},
+                {"Control+Shift+F11", KeyEvent.VK_F12, CONTROL, false},
+                {"Alt+i", KeyEvent.VK_I, InputEvent.ALT_DOWN_MASK, true},
+                {"Pause", KeyEvent.VK_PAUSE, 0, true},
+                {"Super+F12", KeyEvent.VK_F12, 0, false},
+                {"no such key", KeyEvent.VK_F12, CONTROL, false},
         };
         for (Object[] c : cases) {
             HotKey key = named((String) c[0]);

@@ -29,9 +29,7 @@ import org.junit.Test;
 /** Runs under the agent: traces lie in a field that the agent adds. */
 public class StackTraceManagerTest {
     /** An AWT component, of no kind that Swing knows. */
-    private static final class Plain extends Component {
-        private static final long serialVersionUID = 1L;
-    }
+    private static final class Plain extends Component { private static final long serialVersionUID = 1L; }
 
     private static StackTraceElement[] trace(String method) {
         return new StackTraceElement[] {new StackTraceElement("App", method, "App.java", 7)};
@@ -73,43 +71,43 @@ public class StackTraceManagerTest {
 
     @Test
     public void everyWayOfGettingAParentIsSeen() throws Exception {
-        Object[][] cases = {
-            {"addImpl", (Way) (container, component) -> container.add(component)},
-            {"addImpl", (Way) (container, component) -> container.add("name", component)},
-            {"addImpl", (Way) (container, component) -> {
-                container.add(component, "constraint", 0);
-                return component;
-            }},
-            {"addDelicately", (Way) (container, component) -> {
-                container.setComponentZOrder(component, 0);
-                return component;
-            }},
-            {"addDelicately", (Way) (container, component) -> {
-                new Container().add(component);
-                container.setComponentZOrder(component, 0);
-                return component;
-            }},
-            {"readObject", (Way) (container, component) -> {
-                container.add(component);
-                return ((Container) copy(container)).getComponent(0);
-            }},
-        };
-        for (int i = 0; i < cases.length; i++) {
-            Component added = ((Way) cases[i][1]).add(new Container(), new Plain());
-            StackTraceElement[] expected = new Throwable().getStackTrace();
-            StackTraceElement[] trace = StackTraceManager.getStackTrace(added);
-            assertTrue("case " + i, trace.length > expected.length);
-            assertEquals("java.awt.Container." + cases[i][0], trace[0].getClassName() + "." + trace[0].getMethodName());
-            assertTrue(trace[0].toString(), trace[0].getLineNumber() > 0);
-            StackTraceElement here = trace[trace.length - expected.length];
-            assertEquals(expected[0].getMethodName(), here.getMethodName());
-            assertEquals(expected[0].getLineNumber() - 1, here.getLineNumber());
-            assertEquals(expected[expected.length - 1], trace[trace.length - 1]);
+        assertSeen("addImpl", (container, component) -> container.add(component));
+        assertSeen("addImpl", (container, component) -> container.add("name", component));
+        assertSeen("addImpl", (container, component) -> {
+            container.add(component, "constraint", 0);
+            return component;
+        });
+        assertSeen("addDelicately", (container, component) -> {
+            container.setComponentZOrder(component, 0);
+            return component;
+        });
+        assertSeen("addDelicately", (container, component) -> {
+            new Container().add(component);
+            container.setComponentZOrder(component, 0);
+            return component;
+        });
+        assertSeen("readObject", (container, component) -> {
+            container.add(component);
+            return ((Container) copy(container)).getComponent(0);
+        });
+    }
 
-            StackTraceElement[] again = StackTraceManager.getStackTrace(added);
-            assertArrayEquals(trace, again);
-            assertNotSame("callers get copies", trace, again);
-        }
+    /** @param method the container's, in which the component gets its parent */
+    private static void assertSeen(String method, Way way) throws Exception {
+        Component added = way.add(new Container(), new Plain());
+        StackTraceElement[] expected = new Throwable().getStackTrace();
+        StackTraceElement[] trace = StackTraceManager.getStackTrace(added);
+        assertTrue(method, trace.length > expected.length);
+        assertEquals("java.awt.Container." + method, trace[0].getClassName() + "." + trace[0].getMethodName());
+        assertTrue(trace[0].toString(), trace[0].getLineNumber() > 0);
+        StackTraceElement here = trace[trace.length - expected.length];
+        assertEquals(expected[0].getMethodName(), here.getMethodName());
+        assertEquals(expected[0].getLineNumber() - 1, here.getLineNumber());
+        assertEquals(expected[expected.length - 1], trace[trace.length - 1]);
+
+        StackTraceElement[] again = StackTraceManager.getStackTrace(added);
+        assertArrayEquals(trace, again);
+        assertNotSame("callers get copies", trace, again);
     }
 
     @Test
@@ -144,7 +142,7 @@ public class StackTraceManagerTest {
                 StackTraceManager.getStackTrace(component);
             }
             gone.add(new WeakReference<>(component));
-            gone.add(new WeakReference<>(TraceField.get(component)));
+            gone.add(new WeakReference<>(TraceField.FIELD.get(component)));
             assertNotNull(gone.get(gone.size() - 1).get());
         }
         for (WeakReference<Object> reference : gone) {

@@ -62,16 +62,20 @@ public class ClassFileEditorTest {
         public int write(int number) {
             int sum = number;
             switch (number) {
-                case 0: case 1: case 2:
+                case 0:
+                case 1:
+                case 2:
                     field = 1;
                     break;
-                case 1000: case 100_000:
+                case 1000:
+                case 100_000:
                     sum += 1000; // wide iinc
                     field = 0xB5B5; // putfield's opcode in a constant
                     break;
                 default:
                     switch (number) {
-                        case 0xB5: case -7000:
+                        case 0xB5:
+                        case -7000:
                             other = 5;
                             break;
                         default:
@@ -169,13 +173,22 @@ public class ClassFileEditorTest {
         ClassFileEditor editor = new ClassFileEditor(subject());
         String parameters = "(L" + SUBJECT + ";I)V";
         editor.replaceWrites(SUBJECT, "field", "I", editor.methodRef(SUBJECT, "tell", parameters));
-        byte[] tell = new ByteSink().u1(Instructions.ALOAD_0).u1(Instructions.INVOKESTATIC)
-                .u2(editor.methodRef(RECORDER, "seen", "(Ljava/lang/Object;)V")).u1(Instructions.RETURN).toByteArray();
+        byte[] tell = new ByteSink()
+                              .u1(Instructions.ALOAD_0)
+                              .u1(Instructions.INVOKESTATIC)
+                              .u2(editor.methodRef(RECORDER, "seen", "(Ljava/lang/Object;)V"))
+                              .u1(Instructions.RETURN)
+                              .toByteArray();
         editor.addMethod(Modifier.STATIC, "tell", parameters, 1, 2, tell, ClassFileEditor.NO_FRAME);
         Class<?> edited = new EditedLoader().define(Subject.class.getName(), editor.toByteArray());
         Object subject = edited.getConstructor().newInstance();
         int[][] cases = {
-            {1, 1, 1}, {1000, 1, 2000}, {100_000, 1, 101_000}, {5, 1, 5}, {0xB5, 0, 0xB5}, {-7000, 0, -7000},
+                {1, 1, 1},
+                {1000, 1, 2000},
+                {100_000, 1, 101_000},
+                {5, 1, 5},
+                {0xB5, 0, 0xB5},
+                {-7000, 0, -7000},
         };
         for (int[] c : cases) {
             Recorder.SEEN.clear();
@@ -201,8 +214,8 @@ public class ClassFileEditorTest {
     public void whatCannotBeEditedIsRefused() throws Exception {
         ClassFileEditor editor = new ClassFileEditor(subject());
         assertFalse(addCall(editor, "repeat", "(I)V", false));
-        IllegalArgumentException refusal = assertThrows(IllegalArgumentException.class,
-                () -> redirectWrites(editor, SUBJECT, "field", "J"));
+        IllegalArgumentException refusal =
+                assertThrows(IllegalArgumentException.class, () -> redirectWrites(editor, SUBJECT, "field", "J"));
         assertEquals("The class never writes to " + SUBJECT + ".field", refusal.getMessage());
 
         for (int i = 0; i < 66_000; i++) {
@@ -305,8 +318,7 @@ public class ClassFileEditorTest {
         }
 
         private static String descriptor(Method method) {
-            return MethodType.methodType(method.getReturnType(), method.getParameterTypes())
-                    .toMethodDescriptorString();
+            return MethodType.methodType(method.getReturnType(), method.getParameterTypes()).toMethodDescriptorString();
         }
     }
 }

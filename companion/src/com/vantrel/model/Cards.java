@@ -1,0 +1,28 @@
+package com.vantrel.model;
+
+import java.awt.CardLayout;
+import java.awt.Component;
+import java.lang.reflect.Field;
+
+/** The names that the cards of a CardLayout were given, which it keeps to itself. For the event thread. */
+final class Cards {
+    private static final Field ALL = Members.field(CardLayout.class, "vector");
+
+    private Cards() {
+    }
+
+    /** The name of a component's card; null where it has none, or the toolkit's module is closed to us. */
+    static String name(CardLayout layout, Component child) throws IllegalAccessException {
+        if (ALL == null) {
+            return null;
+        }
+        for (Object card : (Iterable<?>) ALL.get(layout)) {
+            Field component = Members.field(card.getClass(), "comp");
+            Field name = Members.field(card.getClass(), "name");
+            if (component != null && name != null && component.get(card) == child) {
+                return (String) name.get(card);
+            }
+        }
+        return null;
+    }
+}

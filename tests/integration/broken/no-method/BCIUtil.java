@@ -1,4 +1,0 @@
-package com.vantrel.util;
-
-public final class BCIUtil {
-}

@@ -1,0 +1,29 @@
+// What the inputs are, and what is in a folder among them.
+#ifndef VANTREL_REWRITE_INPUT_KIND_H
+#define VANTREL_REWRITE_INPUT_KIND_H
+
+#include <filesystem>
+
+namespace vantrel_rewrite {
+
+enum class Kind {
+    ClassFile,
+    Jar,
+    Folder,
+    Link,  // in a folder; carried over as a link
+    Other  // in a folder; carried over
+};
+
+// A file's status, seen through links; not_found is one. Throws a Failure for a file that cannot be looked at.
+std::filesystem::file_status status_of(const std::filesystem::path& path);
+
+// What an input of the command line is. Its name need not tell: what begins like a class file or an archive is one.
+// Throws a Failure for what is neither a class file, nor a jar, nor a folder.
+Kind kind_of_input(const std::filesystem::path& input);
+
+// What is in a folder goes by its name and by what kind of file it is. Throws a Failure for a device and the like.
+Kind kind_in_folder(const std::filesystem::directory_entry& entry);
+
+}  // namespace vantrel_rewrite
+
+#endif
