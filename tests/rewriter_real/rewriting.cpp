@@ -30,9 +30,12 @@ const char* if_wanted(unsigned trackers, unsigned tracker, const char* text) {
     return (trackers & tracker) != 0 ? text : nullptr;
 }
 
-void pass_modern_names_on(void* /*context*/, uint32_t class_number, const char* const* names,
+void pass_modern_names_on(void* context, uint32_t class_number, const char* const* names,
                           const char* const* descriptors, int count) {
-    pass_names_on(class_number, const_cast<const char**>(names), const_cast<const char**>(descriptors), count);
+    const auto& take = *static_cast<const MethodNames*>(context);
+    std::vector<const char*> all_names(names, names + count);
+    std::vector<const char*> all_descriptors(descriptors, descriptors + count);
+    take(class_number, all_names, all_descriptors);
 }
 
 struct Modern {
@@ -51,7 +54,10 @@ Modern rewrite_modern(std::span<const unsigned char> image, const Rewriting& how
     options.class_name = how.name;
     options.class_number = how.class_number;
     options.system_class = how.system_class ? 1 : 0;
-    options.methods = pass_modern_names_on;
+    if (how.method_names) {
+        options.methods = pass_modern_names_on;
+        options.context = const_cast<MethodNames*>(&how.method_names);
+    }
     VantrelRewriterResult result{};
     result.size = sizeof result;
     if (vantrel_rewriter_rewrite(image.data(), image.size(), &options, &result) > VANTREL_REWRITER_CARRIED_OVER) {
