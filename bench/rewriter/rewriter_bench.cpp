@@ -69,7 +69,7 @@ using Work = void (*)(const Image&);
 
 void on_classes(benchmark::State& state, Work work, const std::vector<Image>& classes) {
     const std::size_t before = allocations();
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (const Image& image : classes) {
             work(image);
         }
@@ -84,7 +84,7 @@ void on_classes(benchmark::State& state, Work work, const std::vector<Image>& cl
 }
 
 void on_adversary(benchmark::State& state, Work work, const Adversary& adversary) {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         work(adversary.image);
     }
     state.SetBytesProcessed(static_cast<std::int64_t>(adversary.code_size) * state.iterations());
@@ -92,10 +92,9 @@ void on_adversary(benchmark::State& state, Work work, const Adversary& adversary
 
 }  // namespace
 
-int main(int argument_count, char** arguments) {
-    benchmark::Initialize(&argument_count, arguments);
-    const std::vector<Image> classes = classes_of({arguments + 1, arguments + argument_count});
-    const std::vector<Adversary> hardest = adversaries();
+namespace {
+
+void register_all(const std::vector<Image>& classes, const std::vector<Adversary>& hardest) {
     const struct {
         const char* name;
         Work work;
@@ -116,6 +115,13 @@ int main(int argument_count, char** arguments) {
                 ->Unit(benchmark::kMillisecond);
         }
     }
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+    benchmark::Initialize(&argument_count, arguments);
+    register_all(classes_of({arguments + 1, arguments + argument_count}), adversaries());
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }
