@@ -108,7 +108,8 @@ const Staging::HiddenFolder& Staging::hidden_folder_in(const fs::path& parent, c
     for (int number = 0;; ++number) {
         const fs::path path = parent / (stem + std::to_string(number));
         if (mkdir(path.c_str(), kOnlyOurs) == 0) {
-            return folders_.emplace_back(path, lock(path));
+            folders_.push_back({path, lock(path)});
+            return folders_.back();
         }
         if (errno != EEXIST) {
             fail(target, std::error_code(errno, std::generic_category()));
@@ -118,7 +119,8 @@ const Staging::HiddenFolder& Staging::hidden_folder_in(const fs::path& parent, c
 
 NewFile Staging::stage(const fs::path& target) {
     const HiddenFolder& folder = hidden_folder_in(target.parent_path(), target);
-    return results_.emplace_back(folder.path / std::to_string(results_.size()), target);
+    results_.push_back({folder.path / std::to_string(results_.size()), target});
+    return results_.back();
 }
 
 NewFile Staging::stage_for_stdout() {
@@ -128,7 +130,8 @@ NewFile Staging::stage_for_stdout() {
         throw command::Failure{"TMPDIR names no folder for what goes to stdout: " + error.message()};
     }
     const HiddenFolder& folder = hidden_folder_in(parent, parent);
-    return results_.emplace_back(folder.path / std::to_string(results_.size()), kStdout);
+    results_.push_back({folder.path / std::to_string(results_.size()), kStdout});
+    return results_.back();
 }
 
 void Staging::put_in_place() {

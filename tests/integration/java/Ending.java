@@ -27,13 +27,16 @@ public final class Ending {
         while (arguments.length == 1 && !Files.exists(Path.of("end"))) {
             Thread.sleep(2);
         }
-        switch (way) {
-            case "return" -> { }
-            case "exit" -> System.exit(3);
-            case "event thread" -> SwingUtilities.invokeLater(() -> System.exit(3));
-            case "dispose" -> SwingUtilities.invokeLater(() -> frame.dispose());
-            case "throw" -> throw new IllegalStateException("thrown on purpose");
-            default -> throw new IllegalArgumentException(way);
+        if (way.equals("exit")) {
+            System.exit(3);
+        } else if (way.equals("event thread")) {
+            SwingUtilities.invokeLater(() -> System.exit(3));
+        } else if (way.equals("dispose")) {
+            SwingUtilities.invokeLater(() -> frame.dispose());
+        } else if (way.equals("throw")) {
+            throw new IllegalStateException("thrown on purpose");
+        } else if (!way.equals("return")) {
+            throw new IllegalArgumentException(way);
         }
     }
 }

@@ -5,6 +5,7 @@ import java.awt.Container;
 import java.awt.Dimension;
 import java.awt.Graphics;
 import java.awt.event.MouseEvent;
+import java.util.Map;
 import java.util.function.Supplier;
 
 import javax.swing.JPanel;
@@ -28,14 +29,9 @@ final class Odd extends JPanel {
 
     /** Adds one to the panel "room", known as "odd." and its kind; it has a child "odd." KIND ".child". */
     static String add(Things things, String kind) {
-        Odd odd = new Odd(switch (kind) {
-            case "throwing" -> () -> {
-                throw new IllegalStateException("asked on purpose");
-            };
-            case "blocking" -> Odd::late;
-            case "null", "lying" -> () -> null;
-            default -> throw new IllegalArgumentException(kind);
-        }, kind.equals("lying") || kind.equals("throwing"));
+        Map<String, Supplier<String>> answers =
+                Map.of("throwing", Odd::fail, "blocking", Odd::late, "null", () -> null, "lying", () -> null);
+        Odd odd = new Odd(answers.get(kind), kind.equals("lying") || kind.equals("throwing"));
         things.known("odd." + kind, odd);
         odd.add(things.named("odd." + kind + ".child", new JPanel()));
         Container room = things.get("room", Container.class);
@@ -43,6 +39,10 @@ final class Odd extends JPanel {
         room.validate();
         room.repaint();
         return "";
+    }
+
+    private static String fail() {
+        throw new IllegalStateException("asked on purpose");
     }
 
     private static String late() {
@@ -56,45 +56,44 @@ final class Odd extends JPanel {
 
     @Override
     public String getName() {
-        return answer == null ? null :
-                answer.get(); // null while the superclass is being made
+        return answer == null ? null : answer.get(); // null while the superclass is being made
     }
 
     public String getText() {
-            return answer.get();
+        return answer.get();
     }
 
     public String getTitle() {
-            return answer.get();
+        return answer.get();
     }
 
     @Override
     public String getToolTipText() {
-            return answer.get();
+        return answer.get();
     }
 
     @Override
     public String getToolTipText(MouseEvent event) {
-            return null; // asked by Swing
+        return null; // asked by Swing
     }
 
     @Override
     public String toString() {
-            return answer.get();
+        return answer.get();
     }
 
     @Override
     public Component[] getComponents() {
-            if (hidesChildren) {
-                answer.get();
-                return null;
-            }
-            return super.getComponents();
+        if (hidesChildren) {
+            answer.get();
+            return null;
+        }
+        return super.getComponents();
     }
 
     @Override
     protected void paintComponent(Graphics graphics) {
-            graphics.setColor(java.awt.Color.ORANGE);
-            graphics.fillRect(0, 0, getWidth(), getHeight());
+        graphics.setColor(java.awt.Color.ORANGE);
+        graphics.fillRect(0, 0, getWidth(), getHeight());
     }
-    }
+}

@@ -20,15 +20,14 @@ final class Themes {
      * a text field or menu of the JDK fails by itself. Any other name is a class's.
      */
     static void use(String name) throws Exception {
-        switch (name) {
-            case "dark" -> {
-                MetalLookAndFeel.setCurrentTheme(new Dark());
-                UIManager.put("swing.boldMetal", Boolean.FALSE);
-                UIManager.setLookAndFeel(new MetalLookAndFeel());
-            }
-            case "bare" -> UIManager.setLookAndFeel(new Bare());
-            case "" -> { }
-            default -> UIManager.setLookAndFeel(name);
+        if (name.equals("dark")) {
+            MetalLookAndFeel.setCurrentTheme(new Dark());
+            UIManager.put("swing.boldMetal", Boolean.FALSE);
+            UIManager.setLookAndFeel(new MetalLookAndFeel());
+        } else if (name.equals("bare")) {
+            UIManager.setLookAndFeel(new Bare());
+        } else if (!name.isEmpty()) {
+            UIManager.setLookAndFeel(name);
         }
     }
 
@@ -80,12 +79,12 @@ final class Themes {
         public UIDefaults getDefaults() {
             UIDefaults all = super.getDefaults();
             for (Object key : all.keySet().toArray()) {
-                    Object value = all.get(key);
-                    if (value instanceof Color || value instanceof Border || value instanceof Icon) {
-                        all.remove(key);
-                    }
+                Object value = all.get(key);
+                if (value instanceof Color || value instanceof Border || value instanceof Icon) {
+                    all.remove(key);
                 }
-                return all;
+            }
+            return all;
         }
 
         @Override

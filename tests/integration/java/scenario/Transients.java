@@ -5,6 +5,7 @@ import java.awt.Dialog.ModalityType;
 import java.awt.Frame;
 import java.awt.Window;
 import java.awt.event.MouseAdapter;
+import java.util.Map;
 
 import javax.swing.JButton;
 import javax.swing.JComboBox;
@@ -18,6 +19,9 @@ import javax.swing.SwingUtilities;
 
 /** Windows that come and go: popup menus, a combo box's list, dialogs, a second frame; and the glass pane. */
 final class Transients {
+    private static final Map<String, ModalityType> MODALITIES = Map.of("document", ModalityType.DOCUMENT_MODAL,
+            "application", ModalityType.APPLICATION_MODAL, "toolkit", ModalityType.TOOLKIT_MODAL);
+
     private final Things things;
     private JDialog dialog;
     private JPopupMenu popup;
@@ -63,12 +67,7 @@ final class Transients {
         }
         if (!modality.equals("none")) {
             dialog = things.named("dialog", new JDialog(things.get("main", Frame.class), modality));
-            dialog.setModalityType(switch (modality) {
-                case "document" -> ModalityType.DOCUMENT_MODAL;
-                case "application" -> ModalityType.APPLICATION_MODAL;
-                case "toolkit" -> ModalityType.TOOLKIT_MODAL;
-                default -> ModalityType.MODELESS;
-            });
+            dialog.setModalityType(MODALITIES.getOrDefault(modality, ModalityType.MODELESS));
             dialog.add(things.named("dialog.button", new JButton("In the dialog")));
             dialog.setBounds(200, 200, 200, 100);
             JDialog shown = dialog;
@@ -87,7 +86,7 @@ final class Transients {
 
     String glass(String state) {
         JComponent glass = (JComponent) things.get("main", JFrame.class).getGlassPane();
-        glass.addMouseListener(new MouseAdapter() { });
+        glass.addMouseListener(new MouseAdapter() {});
         glass.setVisible(state.equals("on"));
         return "";
     }
@@ -96,15 +95,15 @@ final class Transients {
     String fullScreen(String state) {
         JFrame main = things.get("main", JFrame.class);
         main.getGraphicsConfiguration().getDevice().setFullScreenWindow(state.equals("on") ? main : null);
-                    return "";
+        return "";
     }
 
     String disposeAll() {
-                for (Window window : Window.getWindows()) {
-                    if (!Scenario.isInspectors(window)) {
-                        window.dispose();
-                    }
-                }
-                return "";
-    }
+        for (Window window : Window.getWindows()) {
+            if (!Scenario.isInspectors(window)) {
+                window.dispose();
+            }
         }
+        return "";
+    }
+}
