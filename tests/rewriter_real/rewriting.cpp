@@ -63,7 +63,7 @@ Modern rewrite_modern(std::span<const unsigned char> image, const Rewriting& how
     if (vantrel_rewriter_rewrite(image.data(), image.size(), &options, &result) > VANTREL_REWRITER_CARRIED_OVER) {
         throw std::runtime_error(std::string(result.method) + ": " + result.sentence);
     }
-    const Modern rewritten{{result.image, result.image + result.length}, result.class_name};
+    Modern rewritten{{result.image, result.image + result.length}, result.class_name};
     vantrel_rewriter_release(&result);
     return rewritten;
 }
