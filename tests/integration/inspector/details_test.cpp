@@ -270,7 +270,7 @@ TEST_P(InspectorDetails, TellOfLayoutListenersAndKeys) {
     seek("group.field");
     click(where("vantrel.keys.filter"));
     expect_focus("vantrel.keys.filter");
-    for (int tab = 0; tab < 3; ++tab) {
+    for (int tab = 0; tab < 4; ++tab) {
         keys.press({XK_Control_L, XK_Page_Up});
     }
     EXPECT_TRUE(shows(R"(horizontally | [JLabel "group.label", JTextField "group.field"])", "vantrel.layout.rows"))
