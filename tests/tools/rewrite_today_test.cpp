@@ -60,7 +60,10 @@ TEST_P(Today, ProgramSaysTheSameAndIsCounted) {
     const Finished tracked = run_in(scratch.path, java({"-cp", "tracked.jar:tracker", "today.Today"}));
     EXPECT_EQ(tracked.status, 0);
     EXPECT_EQ(tracked.out, plain.out);
-    EXPECT_EQ(tracked.err, "22 calls, 21 returns, 4 arrays\n");
+    // main, a lambda, 4 shapes made (1 of which fails), 4 components read, 2 texts, 1 comparison, 2 sizes and 2 names
+    // found, and 4 calls that set the enum up. The older compiler has a class of its own for the switch, with an array,
+    // which calls values().
+    EXPECT_EQ(tracked.err, GetParam() == 17 ? "23 calls, 22 returns, 3 arrays\n" : "21 calls, 20 returns, 2 arrays\n");
 }
 
 // The manual's words, in a shell. The source launcher has the compiler run on the classes.
