@@ -1,12 +1,12 @@
 # What the build needs besides the compiler and the JDK; scripts/setup installs it on Debian.
 #
-# Gives: PkgConfig::Xcb (not on macOS), PkgConfig::Zip, PkgConfig::Zlib, Threads::Threads, Cli11::headers; and where the
-# tests are built: GTest::gmock, GTest::gtest_main, PkgConfig::XcbTest, and the files JUNIT4_JAR,
+# Gives: PkgConfig::Xcb (not on macOS), PkgConfig::Deflate, PkgConfig::Zlib, Threads::Threads, Cli11::headers; and where
+# the tests are built: GTest::gmock, GTest::gtest_main, PkgConfig::Zip, PkgConfig::XcbTest, and the files JUNIT4_JAR,
 # HAMCREST_JAR, MIGLAYOUT_SWING_JAR and MIGLAYOUT_CORE_JAR.
 
 find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
-pkg_check_modules(Zip REQUIRED IMPORTED_TARGET libzip)
+pkg_check_modules(Deflate REQUIRED IMPORTED_TARGET libdeflate)
 pkg_check_modules(Zlib REQUIRED IMPORTED_TARGET zlib)
 if(NOT APPLE)
     pkg_check_modules(Xcb REQUIRED IMPORTED_TARGET xcb)
@@ -18,6 +18,7 @@ target_include_directories(Cli11::headers SYSTEM INTERFACE ${CLI11_INCLUDE_DIR})
 
 if(VANTREL_TESTS AND NOT VANTREL_FUZZ)
     find_package(GTest REQUIRED)
+    pkg_check_modules(Zip REQUIRED IMPORTED_TARGET libzip)
     pkg_check_modules(XcbTest REQUIRED IMPORTED_TARGET xcb xcb-xtest)
     find_file(JUNIT4_JAR junit4.jar PATHS /usr/share/java REQUIRED)
     find_file(HAMCREST_JAR hamcrest.jar PATHS /usr/share/java REQUIRED)

@@ -146,7 +146,7 @@ unsigned newest_version() {
     return static_cast<unsigned>(vantrel_rewriter_newest_class_file_version());
 }
 
-RewrittenClass rewrite_class(const Arguments& arguments, unsigned number, const ReadClass& read) {
+RewrittenClass rewrite_class(const Arguments& arguments, unsigned number, std::uint64_t size, const ReadClass& read) {
     Bytes image = read(kHeaderSize);
     if (image.empty()) {
         return not_rewritten(Outcome::Failed, "it is empty");
@@ -159,10 +159,10 @@ RewrittenClass rewrite_class(const Arguments& arguments, unsigned number, const 
         return not_rewritten(Outcome::TooNew, "version " + std::to_string(version) + " is newer than " +
                                                   std::to_string(newest_version()));
     }
-    const Bytes rest = read(kLargestClass);
-    if (rest.size() == kLargestClass) {
+    if (size > kLargestClass) {
         return not_rewritten(Outcome::Failed, "it is too large to be a class file");
     }
+    const Bytes rest = read(kLargestClass);
     image.insert(image.end(), rest.begin(), rest.end());
     try {
         return rewrite_image(arguments, number, image);

@@ -3,6 +3,7 @@
 #define VANTREL_REWRITE_CLASS_REWRITER_H
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -35,7 +36,8 @@ using ReadClass = std::function<Bytes(size_t at_most)>;
 
 // Reads no more of the file than it takes to decide. What `read` throws is thrown on. Any number of threads may rewrite
 // at the same time.
-RewrittenClass rewrite_class(const Arguments& arguments, unsigned number, const ReadClass& read);
+//   size   the file's
+RewrittenClass rewrite_class(const Arguments& arguments, unsigned number, std::uint64_t size, const ReadClass& read);
 
 }  // namespace vantrel_rewrite
 
