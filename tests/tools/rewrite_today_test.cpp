@@ -66,6 +66,25 @@ TEST_P(Today, ProgramSaysTheSameAndIsCounted) {
     EXPECT_EQ(tracked.err, GetParam() == 17 ? "23 calls, 22 returns, 3 arrays\n" : "21 calls, 20 returns, 2 arrays\n");
 }
 
+// Which of its classes a jar gives to a VM is the VM's to say, before and after.
+TEST_P(Today, JarForSeveralReleasesIsOne) {
+    for (const std::string release : {"11", "17"}) {
+        write(scratch.path / release / "Which.java",
+              "class Which { public static void main(String[] arguments) { System.out.println(" + release + "); } }");
+        ASSERT_NO_FATAL_FAILURE(compile({"--release", release, "-d", "for" + release, release + "/Which.java"}));
+    }
+    ASSERT_EQ(run_in(scratch.path,
+                     {tool("jar"), "cfe", "in.jar", "Which", "-C", "for11", ".", "--release", "17", "-C", "for17", "."})
+                  .status,
+              0);
+    EXPECT_EQ(rewrite({"-o", "out.jar", "in.jar"}, scratch.path).out, "2 classes: 2 rewritten, 0 too new, 0 failed\n");
+    write(scratch.path / "Tracker.java", part_of_manual("package com.x;\n\nimport"));
+    ASSERT_NO_FATAL_FAILURE(compile({"-d", "tracker", "Tracker.java"}));
+    const Finished program = run_in(scratch.path, java({"-cp", "out.jar:tracker", "Which"}));
+    EXPECT_EQ(program.out, "17\n");
+    EXPECT_EQ(program.err, "1 calls, 0 returns, 0 arrays\n");
+}
+
 // The manual's words, in a shell. The source launcher has the compiler run on the classes.
 TEST_P(Today, VmRunsOnItsOwnClassesRewritten) {
     write(scratch.path / "BaseTracker.java", part_of_manual("package com.x;\n\npublic final class BaseTracker"));
