@@ -29,8 +29,8 @@ in a folder; all classes count, whether they are rewritten or not. Methods are n
 
 Classes of a newer version, classes that cannot be rewritten, and the tracker class are carried over as they are; so is
 java.lang.Object without --object-init, for no VM starts with what else that adds. A
-signed jar comes out unsigned: its signature files and the digests in its manifest are dropped. Jars inside of jars are carried
-over.
+signed jar comes out unsigned: its signature files and the digests in its manifest are dropped. Jars inside of a jar are
+rewritten in their places.
 
 Exit status: 0 if all is well, 1 if the rewrite of a class failed or the summary cannot be written, 2 if there is no
 result.
