@@ -38,6 +38,9 @@ struct Jar {
     const JarContents& contents;
     size_t next_class;  // its number
     ZipWriter::Sink sink;
+    // A jar in it, or nothing where none of that one's classes is rewritten. Not there for a jar that is in another
+    // one.
+    std::optional<PackedEntry> (*rewrite_inner)(Jar& jar, const ZipEntry& entry);
     std::optional<ZipWriter> writer = {};  // there is none before the first change
     size_t dropped = 0;                    // files of signatures
 };
@@ -118,21 +121,6 @@ void write_entries(Jar& jar, size_t begin, size_t end, const Changes& changes) {
     }
 }
 
-bool rewrite_jar(Jar& jar);
-
-// Nothing where none of its classes is rewritten.
-std::optional<PackedEntry> rewrite_inner_jar(Jar& outer, const ZipEntry& entry) {
-    const std::string path = outer.path + ": " + entry.name;
-    const InnerJar inner(outer.bytes, entry, outer.path);
-    Bytes result;
-    Jar jar{outer.work,       path,
-            inner.bytes(),    inner.contents(),
-            outer.next_class, [&](BytesView bytes) { result.insert(result.end(), bytes.begin(), bytes.end()); }};
-    const bool is_changed = rewrite_jar(jar);
-    outer.next_class = jar.next_class;
-    return is_changed ? std::optional(pack_entry(entry.method, std::move(result))) : std::nullopt;
-}
-
 // The next part of a jar, from an entry on: a jar in it, or some classes with what is between them.
 struct Part {
     size_t end;
@@ -143,7 +131,7 @@ Part rewrite_part(Jar& jar, size_t begin) {
     const auto& entries = entries_of(jar);
     if (jar.contents.jars.contains(begin)) {
         Part part{begin + 1, {}};
-        if (auto packed = rewrite_inner_jar(jar, entries[begin])) {
+        if (auto packed = jar.rewrite_inner(jar, entries[begin])) {
             part.changes.emplace(begin, *std::move(packed));
         }
         return part;
@@ -169,7 +157,7 @@ bool rewrite_jar(Jar& jar) {
     for (size_t at = 0; at < count;) {
         const Part part = rewrite_part(jar, at);
         if (!jar.writer && !part.changes.empty()) {
-            jar.writer.emplace(jar.bytes, jar.contents.directory, jar.sink);
+            jar.writer.emplace(jar.bytes, jar.contents.directory, jar.path, jar.sink);
             write_entries(jar, 0, at, {});
         }
         if (jar.writer) {
@@ -188,6 +176,19 @@ bool rewrite_jar(Jar& jar) {
     return true;
 }
 
+std::optional<PackedEntry> rewrite_inner_jar(Jar& outer, const ZipEntry& entry) {
+    const std::string path = outer.path + ": " + entry.name;
+    const InnerJar inner(outer.bytes, entry, outer.path);
+    Bytes result;
+    Jar jar{outer.work,       path,
+            inner.bytes(),    inner.contents(),
+            outer.next_class, [&](BytesView bytes) { result.insert(result.end(), bytes.begin(), bytes.end()); },
+            nullptr};
+    const bool is_changed = rewrite_jar(jar);
+    outer.next_class = jar.next_class;
+    return is_changed ? std::optional(pack_entry(entry.method, std::move(result))) : std::nullopt;
+}
+
 }  // namespace
 
 void write_rewritten_jar(Work& work, const fs::path& source, const NewFile& target, const JarContents& contents,
@@ -199,12 +200,18 @@ void write_rewritten_jar(Work& work, const fs::path& source, const NewFile& targ
         work.reports.note(note);
     }
     std::optional<OutputFile> output;
-    Jar jar{work, path, bytes, contents, first_class, [&](BytesView written) {
+    Jar jar{work,
+            path,
+            bytes,
+            contents,
+            first_class,
+            [&](BytesView written) {
                 if (!output) {
                     output.emplace(target, input.permissions());
                 }
                 output->write(written);
-            }};
+            },
+            rewrite_inner_jar};
     if (rewrite_jar(jar)) {
         output->close();
     } else {

@@ -53,8 +53,8 @@ size_t size_of_descriptor(const ZipEntry& entry, BytesView begin, bool is_wide) 
 
 }  // namespace
 
-ZipWriter::ZipWriter(const ArchiveBytes& from, const ZipDirectory& directory, Sink sink)
-    : from_(from), directory_(directory), sink_(std::move(sink)) {
+ZipWriter::ZipWriter(const ArchiveBytes& from, const ZipDirectory& directory, const std::string& path, Sink sink)
+    : from_(from), directory_(directory), path_(path), sink_(std::move(sink)) {
     copy(0, directory.begin);
 }
 
@@ -71,12 +71,16 @@ void ZipWriter::flush() {
     buffer_.clear();
 }
 
+void ZipWriter::read(std::uint64_t position, unsigned char* to, size_t size) const {
+    if (!from_.read(position, to, size)) {
+        throw command::Failure{"cannot read " + path_ + ": it ends in the middle of an entry"};
+    }
+}
+
 void ZipWriter::copy(std::uint64_t position, std::uint64_t size) {
     while (size > 0) {
         Bytes block(std::min<std::uint64_t>(size, kBlock));
-        if (!from_.read(position, block.data(), block.size())) {
-            throw command::Failure{"it ends too early"};
-        }
+        read(position, block.data(), block.size());
         write(block);
         position += block.size();
         size -= block.size();
@@ -87,13 +91,10 @@ void ZipWriter::carry_over(const ZipEntry& entry) {
     const std::uint64_t header = written_;
     std::uint64_t size = entry.data - entry.header + entry.packed_size;
     if ((entry.flags & kHasDescriptor) != 0) {
-        const size_t head_size = static_cast<size_t>(entry.data - entry.header);
-        Bytes head(head_size);
+        Bytes head(static_cast<size_t>(entry.data - entry.header));
         unsigned char begin[4];
-        if (!from_.read(entry.header, head.data(), head.size()) ||
-            !from_.read(entry.header + size, begin, sizeof begin)) {
-            throw command::Failure{"it ends too early"};
-        }
+        read(entry.header, head.data(), head.size());
+        read(entry.header + size, begin, sizeof begin);
         const size_t extra_size = u2(&head[header::kExtraSize]);
         size += size_of_descriptor(entry, begin, has_wide_numbers(BytesView(head).last(extra_size)));
     }
@@ -105,9 +106,7 @@ void ZipWriter::carry_over(const ZipEntry& entry) {
 void ZipWriter::replace(const ZipEntry& entry, const PackedEntry& contents) {
     const std::uint64_t header = written_;
     Bytes head(static_cast<size_t>(entry.data - entry.header));
-    if (!from_.read(entry.header, head.data(), head.size())) {
-        throw command::Failure{"it ends too early"};
-    }
+    read(entry.header, head.data(), head.size());
     const size_t extra_size = u2(&head[header::kExtraSize]);
     const Bytes extra = without_wide_numbers(BytesView(head).last(extra_size));
     head.resize(head.size() - extra_size);
@@ -144,7 +143,7 @@ void ZipWriter::add_record(const ZipEntry& entry, std::uint64_t header, const Pa
         append_number<2>(extra, wide.size());
         extra.insert(extra.end(), wide.begin(), wide.end());
         if (extra.size() > UINT16_MAX) {
-            throw command::Failure{entry.name + " has no room for its position"};
+            throw command::Failure{"cannot rewrite " + path_ + ": " + entry.name + " has no room for its position"};
         }
     }
     if (contents != nullptr) {
