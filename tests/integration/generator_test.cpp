@@ -212,7 +212,7 @@ TEST_P(Generator, GoesOnAfterAClassThatCannotBeWritten) {
                     "vantrel-generate: java/awt/List: another class has been written to List.h in this run",
                     "vantrel-generate: 'a;b' is not a class name; write it like java.awt.Container or "
                     "java/awt/Container",
-                    "vantrel-generate: '\xff' is not a class name; write it like java.awt.Container or "
+                    "vantrel-generate: '\\xff' is not a class name; write it like java.awt.Container or "
                     "java/awt/Container"));
     EXPECT_THAT(names_in(out, ".cpp"), ElementsAre("EventObject", "List"));
 }

@@ -30,12 +30,20 @@ const char* if_wanted(unsigned trackers, unsigned tracker, const char* text) {
     return (trackers & tracker) != 0 ? text : nullptr;
 }
 
-void pass_modern_names_on(void* /*context*/, uint32_t class_number, const char* const* names,
+void pass_modern_names_on(void* context, uint32_t class_number, const char* const* names,
                           const char* const* descriptors, int count) {
-    pass_names_on(class_number, const_cast<const char**>(names), const_cast<const char**>(descriptors), count);
+    const auto& take = *static_cast<const MethodNames*>(context);
+    std::vector<const char*> all_names(names, names + count);
+    std::vector<const char*> all_descriptors(descriptors, descriptors + count);
+    take(class_number, all_names, all_descriptors);
 }
 
-ClassImage rewrite_modern(std::span<const unsigned char> image, const Rewriting& how) {
+struct Modern {
+    ClassImage image;
+    std::string class_name;
+};
+
+Modern rewrite_modern(std::span<const unsigned char> image, const Rewriting& how) {
     VantrelRewriterOptions options{};
     options.size = sizeof options;
     options.tracker_class = "tracking/Tracker";
@@ -46,13 +54,16 @@ ClassImage rewrite_modern(std::span<const unsigned char> image, const Rewriting&
     options.class_name = how.name;
     options.class_number = how.class_number;
     options.system_class = how.system_class ? 1 : 0;
-    options.methods = pass_modern_names_on;
+    if (how.method_names) {
+        options.methods = pass_modern_names_on;
+        options.context = const_cast<MethodNames*>(&how.method_names);
+    }
     VantrelRewriterResult result{};
     result.size = sizeof result;
     if (vantrel_rewriter_rewrite(image.data(), image.size(), &options, &result) > VANTREL_REWRITER_CARRIED_OVER) {
         throw std::runtime_error(std::string(result.method) + ": " + result.sentence);
     }
-    const ClassImage rewritten(result.image, result.image + result.length);
+    Modern rewritten{{result.image, result.image + result.length}, result.class_name};
     vantrel_rewriter_release(&result);
     return rewritten;
 }
@@ -66,7 +77,7 @@ unsigned class_version(std::span<const unsigned char> image) {
 ClassImage rewrite(std::span<const unsigned char> image, const Rewriting& how) {
     current_names = &how.method_names;
     if (how.is_modern) {
-        return rewrite_modern(image, how);
+        return rewrite_modern(image, how).image;
     }
     unsigned char* bytes = nullptr;
     long length = 0;
@@ -82,6 +93,10 @@ ClassImage rewrite(std::span<const unsigned char> image, const Rewriting& how) {
 }
 
 std::string class_name(std::span<const unsigned char> image) {
+    constexpr unsigned kNewest = 52;  // of java_crw_demo_classname, as far as constants go
+    if (class_version(image) > kNewest) {
+        return rewrite_modern(image, {}).class_name;
+    }
     const std::unique_ptr<char, Free> name(
         java_crw_demo_classname(image.data(), static_cast<long>(image.size()), throw_message));
     return name ? name.get() : "";

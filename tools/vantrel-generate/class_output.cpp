@@ -13,6 +13,7 @@
 #include "failure.h"
 #include "loaded_class.h"
 #include "present_files.h"
+#include "text.h"
 
 using generator::Argument;
 using generator::Field;
@@ -133,7 +134,7 @@ void write_files(const Proxy& proxy, generate::Output& output) {
 }  // namespace
 
 std::string generate::internal_name_of(const std::string& name) {
-    std::string internal = generator::modified_of_utf8(name).value_or("");
+    std::string internal = command::modified_utf8(name).value_or("");
     std::replace(internal.begin(), internal.end(), '.', '/');
     const bool empty_part = internal.empty() || internal.front() == '/' || internal.back() == '/' ||
                             internal.find("//") != std::string::npos;

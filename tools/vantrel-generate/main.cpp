@@ -19,6 +19,7 @@
 #include "class_path.h"
 #include "failure.h"
 #include "java_vm.h"
+#include "text.h"
 
 namespace fs = std::filesystem;
 using generate::Arguments;
@@ -33,7 +34,7 @@ constexpr int kNothingDone = 2;
 void show_progress(size_t number, size_t count, const std::string& name) {
     static const bool is_shown = isatty(STDERR_FILENO) != 0;
     if (is_shown && count > 1) {
-        fprintf(stderr, "\033[K%zu of %zu: %.60s\r", number, count, name.c_str());
+        fprintf(stderr, "\033[K%zu of %zu: %.60s\r", number, count, command::printable(name).c_str());
     }
 }
 
@@ -45,7 +46,7 @@ void clear_progress() {
 
 void report(const std::string& message) {
     clear_progress();
-    fprintf(stderr, "vantrel-generate: %s\n", message.c_str());
+    fprintf(stderr, "vantrel-generate: %s\n", command::printable(message).c_str());
 }
 
 std::vector<std::string> vm_options(const Arguments& arguments) {

@@ -97,25 +97,6 @@ std::string generator::utf8_of_modified(std::string_view text) {
     return to_utf8(decode_modified_utf8(text));
 }
 
-std::optional<std::string> generator::modified_of_utf8(std::string_view text) {
-    std::string modified;
-    for (size_t at = 0; at < text.size();) {
-        const auto [code, length] = character_at(text, at);
-        const bool is_replaced = code == kReplacement && length == 1;
-        if (is_replaced || length != length_of(code) || is_high(code) || is_low(code) || code > 0x10FFFF) {
-            return std::nullopt;
-        }
-        if (code < 0x10000) {
-            append(modified, code);
-        } else {
-            append(modified, 0xD800 + ((code - 0x10000) >> 10));
-            append(modified, 0xDC00 + ((code - 0x10000) & 0x3FF));
-        }
-        at += length;
-    }
-    return modified;
-}
-
 std::string generator::quoted_modified_utf8(std::string_view text) {
     std::string literal = "\"";
     for (size_t at = 0; at < text.size();) {

@@ -4,7 +4,6 @@
 #ifndef VANTREL_MODIFIED_UTF8_H
 #define VANTREL_MODIFIED_UTF8_H
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,9 +14,6 @@ std::u32string decode_modified_utf8(std::string_view text);
 std::string utf8_of_modified(std::string_view text);
 
 std::string to_utf8(std::u32string_view text);
-
-// Nothing if the text is no UTF-8.
-std::optional<std::string> modified_of_utf8(std::string_view text);
 
 // The text as a string literal of C++, with its quotes. What is no UTF-8, and what a literal cannot hold, is escaped,
 // so that the literal has the text's own bytes in a file of UTF-8.

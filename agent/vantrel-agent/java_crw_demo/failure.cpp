@@ -38,8 +38,10 @@ Failure failure_in(const ClassRewriteState& ci, const char* condition, const cha
     return failure;
 }
 
-Failure assertion(const ClassRewriteState& ci, const char* condition, const char* file, int line) {
+Failure assertion(const ClassRewriteState& ci, const char* condition, const char* file, int line,
+                  bool lacks_room = false) {
     Failure failure = failure_in(ci, condition, file, line);
+    failure.lacks_room = lacks_room;
     const std::string_view name = ci.name.value_or("?");
     const std::string_view method = ci.current_method != nullptr ? c_string(ci.current_method->name) : "?";
     snprintf(failure.message, sizeof failure.message, "CRW ASSERTION FAILURE: %s (%.*s:%.*s:%d)", condition,
@@ -47,19 +49,19 @@ Failure assertion(const ClassRewriteState& ci, const char* condition, const char
     return failure;
 }
 
-[[noreturn]] void fail(Failure failure, const char* message) {
+Failure with_message(Failure failure, const char* message) {
     snprintf(failure.message, sizeof failure.message, "%s", message != nullptr ? message : failure.condition);
-    throw failure;
+    return failure;
 }
 
 }  // namespace
 
 void fatal_error(const char* condition, const char* message, const char* file, int line) {
-    fail(failure_at(condition, file, line), message);
+    throw with_message(failure_at(condition, file, line), message);
 }
 
 void fatal_error(const ClassRewriteState& ci, const char* condition, const char* message, const char* file, int line) {
-    fail(failure_in(ci, condition, file, line), message);
+    throw with_message(failure_in(ci, condition, file, line), message);
 }
 
 void assertion_failed(const ClassRewriteState& ci, const char* condition, const char* file, int line) {
@@ -67,9 +69,7 @@ void assertion_failed(const ClassRewriteState& ci, const char* condition, const 
 }
 
 void output_is_full(const ClassRewriteState& ci, const char* file, int line) {
-    Failure failure = assertion(ci, kInsideImages, file, line);
-    failure.lacks_room = true;
-    throw failure;
+    throw assertion(ci, kInsideImages, file, line, true);
 }
 
 }  // namespace crw

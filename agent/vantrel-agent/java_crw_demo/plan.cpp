@@ -56,15 +56,16 @@ class Planner {
   private:
     // For the map, whose values are all written before they are read, and for the sites.
     void make_room(size_t code_size) {
-        constexpr size_t kUsualSites = 1024;
+        constexpr size_t kUsualSites = 256;
+        constexpr size_t kUsualCode = 2048;
         ClassRewriteState& ci = mi_.ci;
         if (ci.map_size <= code_size) {
-            ci.map_size = code_size + 1 + std::min<size_t>(code_size, kLongestCode - code_size);
+            ci.map_size = std::max(2 * code_size + 1, kUsualCode);
             ci.map.reset(new int32_t[ci.map_size]);
         }
         mi_.map = ci.map.get();
         mi_.sites.clear();
-        mi_.sites.reserve(std::min(code_size, kUsualSites));
+        mi_.sites.reserve(kUsualSites);
     }
 
     // Where an instruction ends. That must be inside the code, and inside the class file.

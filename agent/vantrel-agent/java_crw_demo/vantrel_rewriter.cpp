@@ -156,6 +156,7 @@ void rewrite(const unsigned char* class_file, size_t length, VantrelRewriterOpti
         result.status = VANTREL_REWRITER_CARRIED_OVER;
         result.length = length;
     }
+    put_text(result.class_name, ci.name.value_or(""));
     result.image = image.release();
 }
 

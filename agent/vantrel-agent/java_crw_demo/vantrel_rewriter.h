@@ -89,11 +89,12 @@ struct VantrelRewriterResult {
     unsigned char* image; /* NULL after a failure; vantrel_rewriter_release frees it */
     size_t length;        /* in bytes */
 
+    char class_name[256]; /* in internal form; empty where it is not known, and for a module-info */
+
     /* After a failure. */
-    char class_name[256]; /* empty where it is not known */
-    char method[256];     /* name and descriptor; empty where it is not about a method's code */
-    int pc;               /* about where in that code; -1 where it is not about one */
-    char sentence[256];   /* what is wrong, for people */
+    char method[256];   /* name and descriptor; empty where it is not about a method's code */
+    int pc;             /* about where in that code; -1 where it is not about one */
+    char sentence[256]; /* what is wrong, for people */
 };
 
 /* NOLINTEND(modernize-use-using) */

@@ -246,7 +246,7 @@ class Settler {
             // The first multiple of the distance that the branch jumps over.
             const size_t first = candidate.first_between(own);
             const int32_t begin = first < candidates_.size() ? candidates_[first].grown_pc : candidate.grown_pc;
-            candidate.pivot = static_cast<size_t>(begin / kPivotDistance + 1);
+            candidate.pivot = static_cast<size_t>(begin / kPivotDistance) + 1;
             if (candidate.pivot >= pivots_.size()) {
                 pivots_.resize(candidate.pivot + 1);
             }

@@ -253,7 +253,7 @@ TEST_P(InspectorDetails, TellOfLayoutListenersAndKeys) {
     keys.press({XK_Control_L, XK_Page_Down});
     EXPECT_TRUE(shows("constraints | gridx=0 gridy=4", "vantrel.layout.rows"));
     take_picture("details-layout");
-    for (int tab = 0; tab < 2; ++tab) {
+    for (int tab = 0; tab < 3; ++tab) {
         keys.press({XK_Control_L, XK_Page_Down});
     }
     EXPECT_TRUE(shows("scenario.EventLog", "vantrel.listeners"));

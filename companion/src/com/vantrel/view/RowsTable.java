@@ -6,25 +6,16 @@ import java.awt.FontMetrics;
 import java.awt.Graphics;
 import java.awt.Graphics2D;
 import java.awt.Rectangle;
-import java.awt.event.ActionEvent;
 import java.awt.event.FocusAdapter;
 import java.awt.event.FocusEvent;
-import java.awt.event.InputEvent;
-import java.awt.event.KeyEvent;
 import java.awt.event.MouseAdapter;
 import java.awt.event.MouseEvent;
 import java.util.List;
 import java.util.function.Consumer;
 import java.util.function.Predicate;
 
-import javax.swing.AbstractAction;
-import javax.swing.Action;
-import javax.swing.BorderFactory;
-import javax.swing.JLabel;
-import javax.swing.JPopupMenu;
 import javax.swing.JTable;
 import javax.swing.JViewport;
-import javax.swing.KeyStroke;
 import javax.swing.ListSelectionModel;
 import javax.swing.SwingUtilities;
 import javax.swing.Timer;
@@ -42,7 +33,6 @@ final class RowsTable extends JTable {
     private static final long serialVersionUID = 1L;
 
     private static final int MILLIS_BETWEEN_FADES = 60;
-    private static final int MILLIS_OF_COMPLAINT = 6000;
     /** At most this share of the width goes to names, and this to notes where values have no use for it themselves. */
     private static final double MOST_FOR_NAMES = 0.4;
     private static final double NOTES_SHARE = 0.29;
@@ -51,8 +41,8 @@ final class RowsTable extends JTable {
     private final RowPainter painter;
     private final transient DoubleClick doubleClick = new DoubleClick();
     private final Timer fades = new Timer(MILLIS_BETWEEN_FADES, event -> fade());
-    private final JLabel complaint = new JLabel();
-    private final Timer complaintEnds = new Timer(MILLIS_OF_COMPLAINT, event -> complain(-1, null));
+    private final transient Complaint complaint = new Complaint(this);
+    private final transient RowCommands commands = new RowCommands(this);
     /** What Enter or a double click does to a row before anything else; answers whether it did. */
     private transient Predicate<Row> activator = row -> false;
     private String wantedKey;
@@ -75,17 +65,13 @@ final class RowsTable extends JTable {
         // Editing begins when it is asked for, ends when the focus goes elsewhere, and takes nothing half typed.
         putClientProperty("JTable.autoStartsEdit", Boolean.FALSE);
         putClientProperty("terminateEditOnFocusLost", Boolean.TRUE);
-        complaint.setName("vantrel.complaint");
-        complaintEnds.setRepeats(false);
         look();
-        bindKeys();
         addMouseListener(new MouseAdapter() {
             @Override
             public void mousePressed(MouseEvent event) {
                 pressed(event);
             }
         });
-        setComponentPopupMenu(menu());
         // By itself a table repaints one cell of the selected row when the focus comes or goes.
         addFocusListener(new FocusAdapter() {
             @Override
@@ -107,11 +93,7 @@ final class RowsTable extends JTable {
         setFont(Look.font());
         FontMetrics metrics = getFontMetrics(Look.font());
         setRowHeight(metrics.getHeight() + Look.GAP);
-        complaint.setOpaque(true);
-        complaint.setFont(Look.font());
-        complaint.setForeground(Color.WHITE);
-        complaint.setBackground(new Color(0xB3261E));
-        complaint.setBorder(BorderFactory.createEmptyBorder(2, RowPainter.PADDING, 2, RowPainter.PADDING));
+        complaint.look();
     }
 
     @Override
@@ -120,6 +102,11 @@ final class RowsTable extends JTable {
         if (rows != null) { // it is called by the superclass's constructor, too
             look();
         }
+    }
+
+    /** What the table shows. */
+    RowsModel rows() {
+        return rows;
     }
 
     /** Ours, though some looks and feels put their own in the place of a table's when they come or go. */
@@ -212,7 +199,7 @@ final class RowsTable extends JTable {
     @Override
     public void removeNotify() {
         fades.stop();
-        complaintEnds.stop();
+        complaint.hide();
         super.removeNotify();
     }
 
@@ -290,87 +277,20 @@ final class RowsTable extends JTable {
         return row.explanation().isEmpty() ? null : Tips.of(row.explanation());
     }
 
-    private void bindKeys() {
-        bind(KeyStroke.getKeyStroke(KeyEvent.VK_ENTER, 0), action("Edit", this::activate));
-        bind(KeyStroke.getKeyStroke(KeyEvent.VK_F2, 0), action("Edit", this::activate));
-        bind(KeyStroke.getKeyStroke(KeyEvent.VK_SPACE, 0), action("Edit", this::activate));
-        bind(KeyStroke.getKeyStroke(KeyEvent.VK_LEFT, 0), action("Fold", () -> fold(false)));
-        bind(KeyStroke.getKeyStroke(KeyEvent.VK_RIGHT, 0), action("Unfold", () -> fold(true)));
-        bind(KeyStroke.getKeyStroke(KeyEvent.VK_HOME, 0), action("First", () -> go(0)));
-        bind(KeyStroke.getKeyStroke(KeyEvent.VK_END, 0), action("Last", () -> go(getRowCount() - 1)));
-        // Out of the table, and not from cell to cell: a row is walked as one.
-        bind(KeyStroke.getKeyStroke(KeyEvent.VK_TAB, 0), action("Next", this::transferFocus));
-        bind(KeyStroke.getKeyStroke(KeyEvent.VK_TAB, InputEvent.SHIFT_DOWN_MASK),
-                action("Previous", this::transferFocusBackward));
-    }
-
-    private JPopupMenu menu() {
-        int shortcut = Tips.shortcutMask();
-        JPopupMenu menu = new JPopupMenu();
-        menu.add(bind(KeyStroke.getKeyStroke(KeyEvent.VK_C, shortcut),
-                action("Copy value", () -> copy(selectedRow() == null ? "" : selectedRow().value()))));
-        menu.add(action("Copy line", () -> copy(selectedRow() == null ? "" : selectedRow().toString())));
-        menu.add(action("Copy all lines", () -> copy(allText())));
-        return menu;
-    }
-
-    /**
-     * Adds something that can be done with the selected row, by its menu and by key.
-     *
-     * @param key as {@link KeyStroke#getKeyStroke(String)} takes it
-     */
+    /** Adds something that can be done with the selected row; see {@link RowCommands#add}. */
     void addCommand(String name, String key, Consumer<Row> task) {
-        getComponentPopupMenu().add(bind(KeyStroke.getKeyStroke(key), action(name, () -> {
-            if (selectedRow() != null) {
-                task.accept(selectedRow());
-            }
-        })));
+        commands.add(name, key, task);
     }
 
-    /** Takes a key, but not from an editor, to which the table is a parent. */
-    private Action bind(KeyStroke key, Action action) {
-        Object name = "vantrel " + key;
-        getInputMap(WHEN_ANCESTOR_OF_FOCUSED_COMPONENT).put(key, name);
-        getActionMap().put(name, action);
-        action.putValue(Action.ACCELERATOR_KEY, key);
-        return action;
-    }
-
-    private Action action(String name, Runnable task) {
-        return new AbstractAction(name) {
-            private static final long serialVersionUID = 1L;
-
-            @Override
-            public void actionPerformed(ActionEvent event) {
-                if (!isEditing()) {
-                    task.run();
-                }
-            }
-        };
-    }
-
-    private static void copy(String text) {
-        if (!text.isEmpty()) {
-            Clip.copy(text);
-        }
-    }
-
-    private String allText() {
-        StringBuilder text = new StringBuilder();
-        for (int line = 0; line < rows.getRowCount(); line++) {
-            Row row = rows.row(line);
-            text.append(row == null ? rows.group(line) : "    " + row).append('\n');
-        }
-        return text.toString();
-    }
-
-    private void go(int line) {
+    /** Selects a line and brings it into sight, if there is such a line. */
+    void go(int line) {
         if (line >= 0 && line < getRowCount()) {
             changeSelection(line, 0, false, false);
         }
     }
 
-    private void fold(boolean open) {
+    /** Opens or folds the group that the selected line is the title of, or in. */
+    void fold(boolean open) {
         int line = getSelectedRow();
         if (line >= 0) {
             String group = rows.group(line);
@@ -410,7 +330,8 @@ final class RowsTable extends JTable {
         return x < left + 3 * RowPainter.PADDING + RowPainter.PADDING;
     }
 
-    private void activate() {
+    /** Does with the selected line what Enter or a double click does. */
+    void activate() {
         if (isEditing()) {
             return; // a space that is typed into the editor comes by here, too
         }
@@ -430,7 +351,7 @@ final class RowsTable extends JTable {
     public void removeEditor() {
         super.removeEditor();
         if (complaint != null) { // it is called by the superclass's constructor, too
-            complain(-1, null);
+            complaint.hide();
         }
     }
 
@@ -448,20 +369,11 @@ final class RowsTable extends JTable {
 
     /** Says what is wrong right below a line, for a moment; null says nothing any more. */
     void complain(int line, String text) {
-        complaintEnds.stop();
-        remove(complaint);
-        repaint();
         if (text == null || line < 0 || line >= getRowCount()) {
-            return;
+            complaint.hide();
+        } else {
+            complaint.show(getCellRect(line, RowsModel.VALUE, true), text);
         }
-        Rectangle cell = getCellRect(line, RowsModel.VALUE, true);
-        int width = getWidth() - 2 * Look.GAP;
-        complaint.setText("<html><body width='" + (width - 4 * Look.GAP) + "'>" + Tips.escaped(text));
-        int height = complaint.getPreferredSize().height;
-        boolean below = cell.y + cell.height + height <= getVisibleRect().y + getVisibleRect().height;
-        complaint.setBounds(Look.GAP, below ? cell.y + cell.height : cell.y - height, width, height);
-        add(complaint, 0);
-        complaintEnds.restart();
     }
 
     /** Says what is wrong with a row's value, where it is now. */

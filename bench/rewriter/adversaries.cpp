@@ -1,0 +1,88 @@
+#include "adversaries.h"
+
+#include <algorithm>
+#include <random>
+
+#include "class_builder.h"
+
+using namespace class_builder;
+
+namespace {
+
+constexpr int kFarthest = 32767;
+
+void aim(Bytes& code, std::size_t pc, int offset) {
+    code[pc + 1] = static_cast<std::uint8_t>(offset >> 8);
+    code[pc + 2] = static_cast<std::uint8_t>(offset);
+}
+
+Bytes branches(unsigned opcode, std::size_t count) {
+    return times(count, branch(opcode, 0));
+}
+
+// Branches that lead nowhere far, a return that grows, and branches back over it, all of which have to grow.
+Bytes short_then_far(unsigned opcode) {
+    Bytes code = cat({branches(opcode, 10940), {op::return_}});
+    append(code, times(6450, branch(opcode, -kFarthest - 1)));
+    return code;
+}
+
+// Each one that grows makes the one before it too long.
+Bytes chain(unsigned opcode) {
+    constexpr std::size_t kCount = 10900;
+    Bytes code = cat({branches(opcode, kCount), times(20000, {op::nop})});
+    for (std::size_t i = 0; i < kCount; ++i) {
+        aim(code, 3 * i, std::min(kFarthest, static_cast<int>(code.size() - 3 * i - 1)));
+    }
+    code[kFarthest] = op::return_;
+    return code;
+}
+
+// Branches with more or less to spare, both ways, around a return that grows.
+Bytes scattered(unsigned opcode, int most_to_spare) {
+    std::mt19937 random(1);  // NOLINT(cert-msc32-c,cert-msc51-cpp): the same method each time
+    constexpr std::size_t kCount = 12000;
+    Bytes code =
+        cat({branches(opcode, kCount / 2), {op::return_}, branches(opcode, kCount / 2), times(6000, {op::nop})});
+    for (std::size_t i = 0; i < kCount; ++i) {
+        const std::size_t pc = 3 * i + (i < kCount / 2 ? 0 : 1);
+        const int to_spare = static_cast<int>(random() % static_cast<unsigned>(most_to_spare));
+        const int forward = kFarthest - to_spare;
+        const bool fits = pc + static_cast<std::size_t>(forward) < code.size();
+        const int offset = fits ? forward : to_spare - kFarthest - 1;
+        aim(code, pc, static_cast<int>(pc) + offset < 0 ? 0 : offset);
+    }
+    return code;
+}
+
+// Switches, whose paddings follow every change, before branches that have to grow over a return.
+Bytes switches(unsigned opcode) {
+    std::mt19937 random(1);  // NOLINT(cert-msc32-c,cert-msc51-cpp)
+    Bytes code;
+    for (int i = 0; i < 3000; ++i) {
+        append(code, lookupswitch(code.size(), 0, {}));
+    }
+    code.push_back(op::return_);
+    for (int i = 0; i < 6000; ++i) {
+        append(code, branch(opcode, static_cast<int>(random() % 3000) - kFarthest - 1));
+    }
+    return code;
+}
+
+Adversary adversary(const std::string& name, const Bytes& code) {
+    ClassFile file;
+    file.methods.push_back({.code = Code{.bytes = code}});
+    file.attributes = {{"Padding", times(60000, {0})}};  // lets the new image be long enough
+    return {name, code.size(), assemble(file)};
+}
+
+}  // namespace
+
+std::vector<Adversary> adversaries() {
+    return {adversary("short_then_far/goto", short_then_far(op::goto_)),
+            adversary("short_then_far/if", short_then_far(op::ifeq)),
+            adversary("chain", chain(op::goto_)),
+            adversary("scattered/3000", scattered(op::goto_, 3000)),
+            adversary("scattered/40", scattered(op::goto_, 40)),
+            adversary("switches", switches(op::ifeq))};
+}
