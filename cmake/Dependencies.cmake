@@ -1,8 +1,8 @@
 # What the build needs besides the compiler and the JDK; scripts/setup installs it on Debian.
 #
-# Gives: PkgConfig::Xcb (not on macOS); where more than the library is built: PkgConfig::Zip, PkgConfig::Zlib,
-# Threads::Threads, Cli11::headers; and where the tests are built: GTest::gmock, GTest::gtest_main, PkgConfig::XcbTest,
-# and the files JUNIT4_JAR, HAMCREST_JAR, MIGLAYOUT_SWING_JAR and MIGLAYOUT_CORE_JAR.
+# Gives: PkgConfig::Xcb (not on macOS); where more than the library is built: PkgConfig::Deflate, PkgConfig::Zlib,
+# Threads::Threads, Cli11::headers; and where the tests are built: GTest::gmock, GTest::gtest_main, PkgConfig::Zip,
+# PkgConfig::XcbTest, and the files JUNIT4_JAR, HAMCREST_JAR, MIGLAYOUT_SWING_JAR and MIGLAYOUT_CORE_JAR.
 
 if(NOT APPLE)
     find_package(PkgConfig REQUIRED)
@@ -14,7 +14,7 @@ endif()
 
 find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
-pkg_check_modules(Zip REQUIRED IMPORTED_TARGET libzip)
+pkg_check_modules(Deflate REQUIRED IMPORTED_TARGET libdeflate)
 pkg_check_modules(Zlib REQUIRED IMPORTED_TARGET zlib)
 
 find_path(CLI11_INCLUDE_DIR CLI/CLI.hpp REQUIRED)
@@ -23,6 +23,7 @@ target_include_directories(Cli11::headers SYSTEM INTERFACE ${CLI11_INCLUDE_DIR})
 
 if(VANTREL_TESTS AND NOT VANTREL_FUZZ)
     find_package(GTest REQUIRED)
+    pkg_check_modules(Zip REQUIRED IMPORTED_TARGET libzip)
     pkg_check_modules(XcbTest REQUIRED IMPORTED_TARGET xcb xcb-xtest)
     find_file(JUNIT4_JAR junit4.jar PATHS /usr/share/java REQUIRED)
     find_file(HAMCREST_JAR hamcrest.jar PATHS /usr/share/java REQUIRED)

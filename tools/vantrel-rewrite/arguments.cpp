@@ -16,7 +16,7 @@ namespace {
 constexpr unsigned kMostWorkers = 256;
 
 constexpr const char* kDescription =
-    "Injects calls of a tracker class into Java class files, up to version 52 (Java 8).\n"
+    "Injects calls of a tracker class into Java class files, up to version 69 (Java 25).\n"
     "\n"
     "IN is a class file, a jar or a folder with such files in it. As with cp, OUT is the result itself; or, where it\n"
     "is an existing folder, ends in a slash, or there are several inputs, the folder that the results go into under\n"
@@ -27,9 +27,10 @@ constexpr const char* kFooter =
 and --new-array. Classes are numbered from 0 in the order of the inputs, of a jar's entries, and of the sorted names
 in a folder; all classes count, whether they are rewritten or not. Methods are numbered from 0 in each class file.
 
-Classes of a newer version, classes that cannot be rewritten, and the tracker class are carried over as they are. A
-signed jar comes out unsigned: its signature files and the digests in its manifest are dropped. Jars inside of jars are carried
-over.
+Classes of a newer version, classes that cannot be rewritten, and the tracker class are carried over as they are; so is
+java.lang.Object without --object-init, for no VM starts with what else that adds. A
+signed jar comes out unsigned: its signature files and the digests in its manifest are dropped. Jars inside of a jar are
+rewritten in their places.
 
 Exit status: 0 if all is well, 1 if the rewrite of a class failed or the summary cannot be written, 2 if there is no
 result.

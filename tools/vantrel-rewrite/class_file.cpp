@@ -128,14 +128,12 @@ ClassFile read_class_file(BytesView image) {
     reader.enter("its fields");
     skip_fields(reader);
     reader.enter("its methods");
-    file.methods_begin = reader.position();
     for (size_t left = reader.u2(); left > 0; --left) {
         ClassFile::Method method;
         method.access = reader.u2();
         method.name = constants.text(reader.u2());
         method.descriptor = constants.text(reader.u2());
         skip_attributes(reader);
-        method.end = reader.position();
         file.methods.push_back(std::move(method));
     }
     reader.enter("its attributes");

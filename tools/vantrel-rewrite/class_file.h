@@ -28,12 +28,10 @@ struct ClassFile {
         std::uint16_t access;
         std::string name;
         std::string descriptor;
-        size_t end;  // of its last attribute
     };
     std::uint16_t access;
     std::string name;
     std::string super_name;  // empty for java.lang.Object
-    size_t methods_begin;    // where their number is, which stands before them
     std::vector<Method> methods;
     size_t end;  // of the class
 };

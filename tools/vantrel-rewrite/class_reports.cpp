@@ -26,6 +26,7 @@ bool ClassReports::is_named(Outcome outcome) const {
     switch (outcome) {
         case Outcome::Rewritten:
             return false;
+        case Outcome::NoCode:
         case Outcome::TooNew:
             return verbose_;
         default:
@@ -37,6 +38,9 @@ void ClassReports::add(const std::string& where, const ClassReport& report) {
     summary_.count(report.outcome);
     if (map_) {
         map_->write(bytes_of(report.map_lines));
+    }
+    if (report.outcome == Outcome::Rewritten && !report.reason.empty()) {
+        note(where + ": " + report.reason);
     }
     if (is_named(report.outcome)) {
         note(where + ": not rewritten: " + report.reason);
@@ -57,10 +61,15 @@ Summary ClassReports::finish() {
                  (outcome == Outcome::Failed ? " more failed" : " more were kept") + "; --verbose names all");
         }
     }
+    const size_t too_new = summary_.of(Outcome::TooNew);
+    const std::string newest = std::to_string(newest_version());
     if (summary_.classes() == 0) {
         note("vantrel-rewrite: nothing was rewritten: there are no classes in the input");
-    } else if (summary_.of(Outcome::TooNew) == summary_.classes()) {
-        note("vantrel-rewrite: nothing was rewritten: all classes are newer than version 52 (Java 8)");
+    } else if (too_new == summary_.classes()) {
+        note("vantrel-rewrite: nothing was rewritten: all classes are newer than version " + newest);
+    } else if (too_new > 0) {
+        note("vantrel-rewrite: " + std::to_string(too_new) + (too_new == 1 ? " class is" : " classes are") +
+             " newer than version " + newest + " and carried over as " + (too_new == 1 ? "it is" : "they are"));
     }
     return summary_;
 }

@@ -20,7 +20,7 @@ class Summary {
     [[nodiscard]] size_t classes() const;
 
   private:
-    std::array<size_t, 4> counts_{};
+    std::array<size_t, kOutcomes> counts_{};
 };
 
 // What became of one class.

@@ -3,6 +3,7 @@
 #define VANTREL_REWRITE_CLASS_REWRITER_H
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -11,14 +12,21 @@
 
 namespace vantrel_rewrite {
 
-// The newest version of class files that can be rewritten, that of Java 8.
-constexpr unsigned kNewestVersion = 52;
+// The newest major version of class files that can be rewritten.
+unsigned newest_version();
 
-enum class Outcome { Rewritten, Kept, TooNew, Failed };
+enum class Outcome {
+    Rewritten,
+    Kept,    // it is not to be rewritten (kept_classes.h)
+    NoCode,  // a module-info
+    TooNew,
+    Failed
+};
+constexpr size_t kOutcomes = 5;
 
 struct RewrittenClass {
     Outcome outcome = Outcome::Failed;
-    std::string reason;     // why it was not rewritten, for the user
+    std::string reason;     // why it was not rewritten, for the user; or what the user has to know if it was
     std::string map_lines;  // of its methods; empty where it was not rewritten
     Bytes image;            // the same
 };
@@ -28,7 +36,8 @@ using ReadClass = std::function<Bytes(size_t at_most)>;
 
 // Reads no more of the file than it takes to decide. What `read` throws is thrown on. Any number of threads may rewrite
 // at the same time.
-RewrittenClass rewrite_class(const Arguments& arguments, unsigned number, const ReadClass& read);
+//   size   the file's
+RewrittenClass rewrite_class(const Arguments& arguments, unsigned number, std::uint64_t size, const ReadClass& read);
 
 }  // namespace vantrel_rewrite
 

@@ -6,6 +6,7 @@
 
 #include "failure.h"
 #include "file_io.h"
+#include "zip_directory.h"
 
 namespace fs = std::filesystem;
 
@@ -17,6 +18,17 @@ bool begins_with(const fs::path& file, BytesView bytes) {
     unsigned char begin[4] = {};
     const size_t count = InputFile(file).read_at(0, begin, bytes.size());
     return std::equal(bytes.begin(), bytes.end(), begin, begin + count);
+}
+
+// An archive may have a start script in front of it.
+bool ends_as_archive(const fs::path& path) {
+    const InputFile file(path);
+    try {
+        read_zip_directory(ArchiveBytes(file), path);
+        return true;
+    } catch (const command::Failure&) {
+        return false;
+    }
 }
 
 Kind kind_by_name(const fs::path& file) {
@@ -52,7 +64,7 @@ Kind kind_of_input(const fs::path& input) {
     if (begins_with(input, bytes_of("\xCA\xFE\xBA\xBE"))) {
         return Kind::ClassFile;
     }
-    if (begins_with(input, bytes_of("PK"))) {
+    if (begins_with(input, bytes_of("PK")) || ends_as_archive(input)) {
         return Kind::Jar;
     }
     throw command::Failure{input.string() + " is neither a class file nor a jar"};

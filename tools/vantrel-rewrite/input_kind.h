@@ -17,7 +17,8 @@ enum class Kind {
 // A file's status, seen through links; not_found is one. Throws a Failure for a file that cannot be looked at.
 std::filesystem::file_status status_of(const std::filesystem::path& path);
 
-// What an input of the command line is. Its name need not tell: what begins like a class file or an archive is one.
+// What an input of the command line is. Its name need not tell: what begins like a class file or an archive, or ends
+// like an archive, is one.
 // Throws a Failure for what is neither a class file, nor a jar, nor a folder.
 Kind kind_of_input(const std::filesystem::path& input);
 

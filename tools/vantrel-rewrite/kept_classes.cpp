@@ -40,6 +40,9 @@ std::optional<std::string> reason_to_keep(const Arguments& arguments, const std:
     if (name.starts_with(tracker + "$")) {
         return "it is a part of the tracker class";
     }
+    if (name == "java/lang/Object" && !arguments.tracker.object_init) {
+        return "no VM would start with a method added to it; --object-init rewrites it all the same";
+    }
     const auto& patterns = arguments.keep;
     if (std::any_of(patterns.begin(), patterns.end(), [&](const auto& pattern) { return matches(pattern, name); })) {
         return "--keep names it";

@@ -27,6 +27,9 @@ std::string text_of(const Summary& summary, bool verbose) {
     if (summary.of(Outcome::Kept) > 0) {
         text += ", " + std::to_string(summary.of(Outcome::Kept)) + " kept";
     }
+    if (summary.of(Outcome::NoCode) > 0) {
+        text += ", " + std::to_string(summary.of(Outcome::NoCode)) + " module-info";
+    }
     if (!verbose && summary.of(Outcome::TooNew) > 0) {
         text += " (--verbose names them)";
     }

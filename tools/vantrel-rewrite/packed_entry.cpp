@@ -1,107 +1,145 @@
 #include "packed_entry.h"
 
+#include <libdeflate.h>
 #include <zlib.h>
 
 #include <algorithm>
 #include <memory>
 #include <new>
 
-#include "zip_archive.h"
-
-namespace fs = std::filesystem;
+#include "failure.h"
+#include "zip_format.h"
 
 namespace vantrel_rewrite {
 
 namespace {
 
-// The contents of a packed entry as libzip reads them. Freed by libzip.
-struct PackedSource {
-    const PackedEntry* entry;
-    size_t position = 0;
-    zip_error_t error{};
+// Entries up to this size are unpacked at once. Of larger ones the begin is looked at first, for a VM would not take
+// most of them as classes, and an archive of some kilobytes may unpack to as much as it likes.
+constexpr std::uint64_t kSmall = std::uint64_t{1} << 20U;
+// Entries that are no class: manifests, and jars inside of jars.
+constexpr std::uint64_t kLargest = std::uint64_t{1} << 30U;
+// No deflated byte becomes more.
+constexpr std::uint64_t kMostGrowth = 1032;
+
+struct FreeDecompressor {
+    void operator()(libdeflate_decompressor* one) const { libdeflate_free_decompressor(one); }
+};
+struct FreeCompressor {
+    void operator()(libdeflate_compressor* one) const { libdeflate_free_compressor(one); }
 };
 
-zip_int64_t read_packed(void* state, void* data, zip_uint64_t size, zip_source_cmd_t command) {
-    auto* source = static_cast<PackedSource*>(state);
-    const PackedEntry& entry = *source->entry;
-    switch (command) {
-        case ZIP_SOURCE_OPEN:
-            source->position = 0;
-            return 0;
-        case ZIP_SOURCE_READ: {
-            const size_t count = std::min<size_t>(size, entry.data.size() - source->position);
-            std::copy_n(entry.data.begin() + static_cast<std::ptrdiff_t>(source->position), count,
-                        static_cast<unsigned char*>(data));
-            source->position += count;
-            return static_cast<zip_int64_t>(count);
-        }
-        case ZIP_SOURCE_STAT: {
-            auto* status = static_cast<zip_stat_t*>(data);
-            zip_stat_init(status);
-            status->valid = ZIP_STAT_SIZE | ZIP_STAT_COMP_SIZE | ZIP_STAT_COMP_METHOD | ZIP_STAT_CRC;
-            status->size = entry.size;
-            status->comp_size = entry.data.size();
-            status->comp_method = static_cast<zip_uint16_t>(entry.method);
-            status->crc = entry.crc;
-            return sizeof(*status);
-        }
-        case ZIP_SOURCE_ERROR:
-            return zip_error_to_data(&source->error, data, size);
-        case ZIP_SOURCE_FREE:
-            delete source;
-            return 0;
-        case ZIP_SOURCE_SUPPORTS:
-            return ZIP_SOURCE_SUPPORTS_READABLE;
-        default:
-            return 0;
-    }
+// One for each thread that needs one, for they are large.
+libdeflate_decompressor* decompressor() {
+    thread_local const std::unique_ptr<libdeflate_decompressor, FreeDecompressor> one(libdeflate_alloc_decompressor());
+    return one ? one.get() : throw std::bad_alloc();
 }
 
-Bytes deflated(BytesView contents) {
-    z_stream stream{};
-    // Negative: without zlib's own header, as archives have it.
-    if (deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, -MAX_WBITS, MAX_MEM_LEVEL - 1, Z_DEFAULT_STRATEGY) !=
-        Z_OK) {
-        throw std::bad_alloc();
-    }
-    Bytes packed(deflateBound(&stream, contents.size()));
-    stream.next_in = const_cast<unsigned char*>(contents.data());
-    stream.avail_in = static_cast<uInt>(contents.size());
-    stream.next_out = packed.data();
-    stream.avail_out = static_cast<uInt>(packed.size());
-    deflate(&stream, Z_FINISH);
-    packed.resize(stream.total_out);
-    deflateEnd(&stream);
-    return packed;
+libdeflate_compressor* compressor() {
+    constexpr int kUsualLevel = 5;  // as small as zlib's usual level, to some hundredths of a percent
+    thread_local const std::unique_ptr<libdeflate_compressor, FreeCompressor> one(
+        libdeflate_alloc_compressor(kUsualLevel));
+    return one ? one.get() : throw std::bad_alloc();
 }
 
 }  // namespace
 
-PackedEntry pack_entry(zip_uint64_t index, zip_int32_t method, BytesView contents) {
-    PackedEntry entry{index, method, {}, contents.size(), 0};
-    entry.crc = static_cast<zip_uint32_t>(crc32_z(0, contents.data(), contents.size()));
-    if (method == ZIP_CM_STORE) {
-        entry.data.assign(contents.begin(), contents.end());
-    } else {
-        entry.method = ZIP_CM_DEFLATE;
-        entry.data = deflated(contents);
-    }
-    return entry;
+void EntryReader::fail(const std::string& why) const {
+    throw command::Failure{"cannot read " + path_ + ": " + why};
 }
 
-void replace_entry(zip_t* zip, const PackedEntry& entry, const fs::path& path) {
-    auto state = std::make_unique<PackedSource>(PackedSource{&entry});
-    zip_source_t* source = zip_source_function(zip, read_packed, state.get());
-    if (source != nullptr) {
-        state.release();  // NOLINT(bugprone-unused-return-value): the source's now
+Bytes EntryReader::packed(std::uint64_t at_most) const {
+    Bytes bytes(std::min(entry_.packed_size, at_most));
+    if (!archive_.read(entry_.data, bytes.data(), bytes.size())) {
+        fail("it ends too early");
     }
-    if (source == nullptr || zip_file_replace(zip, entry.index, source, 0) != 0) {
-        zip_source_free(source);
-        fail_on_zip("change", path, zip_get_error(zip));
+    return bytes;
+}
+
+// Fewer bytes where there are no more of them.
+Bytes EntryReader::begin(size_t size) const {
+    if (entry_.method == zip::kStored) {
+        return packed(size);
     }
-    if (zip_set_file_compression(zip, entry.index, entry.method, 0) != 0) {
-        fail_on_zip("change", path, zip_get_error(zip));
+    constexpr size_t kEnough = 4096;  // of packed bytes: more than the tables that come first
+    Bytes from = packed(kEnough);
+    Bytes to(size);
+    z_stream stream{};
+    // Negative: without zlib's own header, as archives have it.
+    if (inflateInit2(&stream, -MAX_WBITS) != Z_OK) {
+        throw std::bad_alloc();
     }
+    stream.next_in = from.data();
+    stream.avail_in = static_cast<uInt>(from.size());
+    stream.next_out = to.data();
+    stream.avail_out = static_cast<uInt>(to.size());
+    inflate(&stream, Z_SYNC_FLUSH);
+    to.resize(stream.total_out);
+    inflateEnd(&stream);
+    return to;
+}
+
+Bytes EntryReader::whole() const {
+    Bytes contents;
+    if (entry_.method == zip::kStored) {
+        contents = packed(entry_.packed_size);
+    } else {
+        if (entry_.size / kMostGrowth > entry_.packed_size) {
+            fail("what is packed is damaged");
+        }
+        const Bytes from = packed(entry_.packed_size);
+        contents.resize(entry_.size);
+        if (libdeflate_deflate_decompress(decompressor(), from.data(), from.size(), contents.data(), contents.size(),
+                                          nullptr) != LIBDEFLATE_SUCCESS) {
+            fail("what is packed is damaged");
+        }
+    }
+    if (contents.size() != entry_.size || libdeflate_crc32(0, contents.data(), contents.size()) != entry_.crc) {
+        fail("CRC error");
+    }
+    return contents;
+}
+
+Bytes EntryReader::read(size_t at_most) {
+    if ((entry_.flags & zip::kEncrypted) != 0) {
+        fail("it is encrypted");
+    }
+    if (entry_.method != zip::kStored && entry_.method != zip::kDeflated) {
+        fail("it is packed by method " + std::to_string(entry_.method) + ", which no VM knows");
+    }
+    if (position_ == 0 && entry_.size > kSmall && at_most < entry_.size) {
+        Bytes result = begin(at_most);
+        position_ = result.size();
+        return result;
+    }
+    if (whole_.empty()) {
+        whole_ = whole();
+    }
+    const size_t count = std::min(at_most, whole_.size() - std::min(position_, whole_.size()));
+    const auto from = whole_.begin() + static_cast<std::ptrdiff_t>(position_);
+    position_ += count;
+    return {from, from + static_cast<std::ptrdiff_t>(count)};
+}
+
+Bytes read_entry(const ArchiveBytes& archive, const ZipEntry& entry, const std::string& path) {
+    if (entry.size > kLargest) {
+        throw command::Failure{"cannot read " + path + ": " + entry.name + " is too large"};
+    }
+    return EntryReader(archive, entry, path).read(kLargest);
+}
+
+PackedEntry pack_entry(std::uint16_t method, Bytes contents) {
+    PackedEntry entry{method, {}, contents.size(), libdeflate_crc32(0, contents.data(), contents.size())};
+    if (method == zip::kStored) {
+        entry.data = std::move(contents);
+        return entry;
+    }
+    entry.method = zip::kDeflated;
+    entry.data.resize(libdeflate_deflate_compress_bound(compressor(), contents.size()));
+    entry.data.resize(libdeflate_deflate_compress(compressor(), contents.data(), contents.size(), entry.data.data(),
+                                                  entry.data.size()));
+    entry.data.shrink_to_fit();
+    return entry;
 }
 
 }  // namespace vantrel_rewrite

@@ -1,31 +1,53 @@
-// New contents for an entry of a jar. Packing takes most of the time that a jar costs, so it is done on many threads,
-// apart from the archive, which is for one.
+// The contents of an archive's entries: packed to what they are, and back. Most of the time that a jar costs goes here,
+// so whole entries are packed at once, on many threads.
 #ifndef VANTREL_REWRITE_PACKED_ENTRY_H
 #define VANTREL_REWRITE_PACKED_ENTRY_H
 
-#include <zip.h>
+#include <cstdint>
+#include <string>
 
-#include <filesystem>
-
-#include "file_io.h"
+#include "archive_bytes.h"
+#include "zip_directory.h"
 
 namespace vantrel_rewrite {
 
-// An entry's new contents, as they go into the file.
-struct PackedEntry {
-    zip_uint64_t index;
-    zip_int32_t method;  // ZIP_CM_STORE or ZIP_CM_DEFLATE
-    Bytes data;
-    zip_uint64_t size;  // unpacked
-    zip_uint32_t crc;
+// An entry that is unpacked when it is read, and no more of it than that takes.
+class EntryReader {
+  public:
+    //   path   the archive's, for messages. All arguments must outlive this.
+    EntryReader(const ArchiveBytes& archive, const ZipEntry& entry, const std::string& path)
+        : archive_(archive), entry_(entry), path_(path) {}
+
+    // The next bytes: so many, or fewer at the end of the entry. Throws a Failure, "cannot read PATH: " and why, for an
+    // entry that is damaged, or that was packed or encrypted in a way that no VM reads.
+    Bytes read(size_t at_most);
+
+  private:
+    [[noreturn]] void fail(const std::string& why) const;
+    [[nodiscard]] Bytes packed(std::uint64_t at_most) const;
+    [[nodiscard]] Bytes begin(size_t size) const;
+    [[nodiscard]] Bytes whole() const;
+
+    const ArchiveBytes& archive_;
+    const ZipEntry& entry_;
+    const std::string& path_;
+    Bytes whole_;
+    size_t position_ = 0;
 };
 
-// Packs the contents of the entry with a number: not at all if `method` is ZIP_CM_STORE, or else as ZIP_CM_DEFLATE.
-PackedEntry pack_entry(zip_uint64_t index, zip_int32_t method, BytesView contents);
+// The whole of an entry that is of some size at most. Throws a Failure, also for a larger one.
+Bytes read_entry(const ArchiveBytes& archive, const ZipEntry& entry, const std::string& path);
 
-// Gives an entry its new contents; its place and attributes stay. Its time does not: entry_times.h sees to that.
-// `entry` must live until the archive is closed. Throws a Failure that names `path`, the archive's file.
-void replace_entry(zip_t* zip, const PackedEntry& entry, const std::filesystem::path& path);
+// An entry's new contents, as they go into the archive.
+struct PackedEntry {
+    std::uint16_t method;  // stored or deflated
+    Bytes data;
+    std::uint64_t size;  // unpacked
+    std::uint32_t crc;
+};
+
+// Packs contents: not at all if `method` is zip::kStored, or else as zip::kDeflated.
+PackedEntry pack_entry(std::uint16_t method, Bytes contents);
 
 }  // namespace vantrel_rewrite
 

@@ -47,8 +47,8 @@ void add(Plan& plan, const Result& result, const fs::path& made) {
         if (next.kind == Kind::ClassFile) {
             ++plan.class_count;
         } else if (next.kind == Kind::Jar) {
-            piece.classes = classes_of_jar(next.source);
-            plan.class_count += piece.classes.size();
+            piece.jar = read_jar(next.source);
+            plan.class_count += piece.jar.class_count;
         } else if (next.kind == Kind::Folder) {
             std::vector<Result> contents = contents_of(next);
             rest.insert(rest.end(), std::make_move_iterator(contents.rbegin()),

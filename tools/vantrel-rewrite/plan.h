@@ -9,7 +9,7 @@
 
 #include "arguments.h"
 #include "input_kind.h"
-#include "rewritten_jar.h"
+#include "jar_contents.h"
 #include "staging.h"
 
 namespace vantrel_rewrite {
@@ -19,8 +19,8 @@ struct Piece {
     Kind kind;
     std::filesystem::path source;  // nothing, for a folder that only holds the results
     NewFile target;
-    size_t first_class = 0;         // the number of its first class
-    std::vector<JarClass> classes;  // a jar's
+    size_t first_class = 0;  // the number of its first class
+    JarContents jar;         // nothing, for what is none
 };
 
 struct Plan {

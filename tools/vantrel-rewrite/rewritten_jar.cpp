@@ -1,13 +1,15 @@
 #include "rewritten_jar.h"
 
+#include <map>
 #include <optional>
+#include <utility>
 
-#include "archive_transfer.h"
-#include "entry_times.h"
 #include "failure.h"
 #include "interrupt.h"
 #include "jar_signature.h"
-#include "zip_archive.h"
+#include "packed_entry.h"
+#include "workers.h"
+#include "zip_writer.h"
 
 namespace fs = std::filesystem;
 
@@ -15,92 +17,206 @@ namespace vantrel_rewrite {
 
 namespace {
 
-// libzip writes an archive from its first entry on: a program in front of it would be lost.
-void check_begin(const fs::path& path) {
-    unsigned char begin[2] = {};
-    InputFile(path).read_at(0, begin, sizeof begin);
-    if (begin[0] != 'P' || begin[1] != 'K') {
-        throw command::Failure{path.string() + " has something before its first entry (a script?), which would be " +
-                               "lost; take that off first"};
+// How much of a jar is rewritten before it is written: enough for many threads, and little beside what a process has.
+constexpr size_t kMostEntries = 4096;
+constexpr std::uint64_t kMostBytes = std::uint64_t{64} << 20U;
+
+// New contents of entries, by their numbers.
+using Changes = std::map<size_t, PackedEntry>;
+
+// A class of a jar, and its entry's new contents where it is rewritten.
+struct ClassResult {
+    ClassReport report;
+    std::optional<PackedEntry> packed;
+};
+
+// One jar, in a file or in another jar.
+struct Jar {
+    Work& work;
+    const std::string& path;  // for messages
+    const ArchiveBytes& bytes;
+    const JarContents& contents;
+    size_t next_class;  // its number
+    ZipWriter::Sink sink;
+    // A jar in it, or nothing where none of that one's classes is rewritten. Not there for a jar that is in another
+    // one.
+    std::optional<PackedEntry> (*rewrite_inner)(Jar& jar, const ZipEntry& entry);
+    std::optional<ZipWriter> writer = {};  // there is none before the first change
+    size_t dropped = 0;                    // files of signatures
+};
+
+const std::vector<ZipEntry>& entries_of(const Jar& jar) {
+    return jar.contents.directory.entries;
+}
+
+ClassResult rewrite_entry(const Jar& jar, const ZipEntry& entry, size_t number) {
+    RewrittenClass result;
+    try {
+        EntryReader reader(jar.bytes, entry, jar.path);
+        result = rewrite_class(jar.work.arguments, static_cast<unsigned>(number), entry.size,
+                               [&](size_t at_most) { return reader.read(at_most); });
+    } catch (const command::Failure& failure) {
+        return {{Outcome::Failed, failure.line, {}}, std::nullopt};  // carried over, as damaged as it is
+    }
+    ClassResult made;
+    if (result.outcome == Outcome::Rewritten) {
+        made.packed = pack_entry(entry.method, std::move(result.image));
+    }
+    made.report = report_on(std::move(result));
+    return made;
+}
+
+// Rewrites some of a jar's classes, which the workers share.
+Changes rewrite_classes(Jar& jar, const std::vector<size_t>& classes) {
+    std::vector<ClassResult> results(classes.size());
+    for_each_index(jar.work.arguments.workers, classes.size(), [&](unsigned /*worker*/, size_t index) {
+        results[index] = rewrite_entry(jar, entries_of(jar)[classes[index]], jar.next_class + index);
+        jar.work.progress.step();
+    });
+    jar.next_class += classes.size();
+    Changes changes;
+    for (size_t index = 0; index < classes.size(); ++index) {
+        jar.work.reports.add(jar.path + ": " + entries_of(jar)[classes[index]].name, results[index].report);
+        if (results[index].packed) {
+            changes.emplace(classes[index], *std::move(results[index].packed));
+        }
+    }
+    return changes;
+}
+
+// The manifest without the digests of entries; nothing where it has none.
+std::optional<PackedEntry> cleaned_manifest(const Jar& jar, const ZipEntry& manifest) {
+    const Bytes old = read_entry(jar.bytes, manifest, jar.path);
+    const std::string cleaned = without_digests({reinterpret_cast<const char*>(old.data()), old.size()});
+    if (cleaned.size() == old.size()) {
+        return std::nullopt;
+    }
+    const BytesView bytes = bytes_of(cleaned);
+    return pack_entry(manifest.method, {bytes.begin(), bytes.end()});
+}
+
+void write_unchanged(Jar& jar, const ZipEntry& entry) {
+    if (is_signature_file(entry.name)) {
+        ++jar.dropped;
+        return;
+    }
+    if (is_manifest(entry.name)) {
+        if (const auto cleaned = cleaned_manifest(jar, entry)) {
+            jar.writer->replace(entry, *cleaned);
+            return;
+        }
+    }
+    jar.writer->carry_over(entry);
+}
+
+void write_entries(Jar& jar, size_t begin, size_t end, const Changes& changes) {
+    for (size_t index = begin; index < end; ++index) {
+        interrupt::check();
+        const ZipEntry& entry = entries_of(jar)[index];
+        if (const auto change = changes.find(index); change != changes.end()) {
+            jar.writer->replace(entry, change->second);
+        } else {
+            write_unchanged(jar, entry);
+        }
     }
 }
 
-// Drops the files of signatures; returns how many there were.
-size_t drop_signatures(zip_t* zip, const fs::path& source) {
-    size_t dropped = 0;
-    for (zip_uint64_t index = 0; index < entry_count(zip); ++index) {
-        if (is_signature_file(entry_name(zip, index))) {
-            if (zip_delete(zip, index) != 0) {
-                fail_on_zip("change", source, zip_get_error(zip));
-            }
-            ++dropped;
+// The next part of a jar, from an entry on: a jar in it, or some classes with what is between them.
+struct Part {
+    size_t end;
+    Changes changes;
+};
+
+Part rewrite_part(Jar& jar, size_t begin) {
+    const auto& entries = entries_of(jar);
+    if (jar.contents.jars.contains(begin)) {
+        Part part{begin + 1, {}};
+        if (auto packed = jar.rewrite_inner(jar, entries[begin])) {
+            part.changes.emplace(begin, *std::move(packed));
+        }
+        return part;
+    }
+    std::vector<size_t> classes;
+    std::uint64_t bytes = 0;
+    size_t end = begin;
+    for (; end < entries.size() && end - begin < kMostEntries && bytes < kMostBytes; ++end) {
+        if (jar.contents.jars.contains(end)) {
+            break;
+        }
+        if (is_class(entries[end])) {
+            classes.push_back(end);
+            bytes += entries[end].size;
         }
     }
-    return dropped;
+    return {end, rewrite_classes(jar, classes)};
 }
 
-// The manifest without the digests of entries; nothing where there is none, or it has none.
-std::optional<PackedEntry> manifest_without_digests(zip_t* zip, const fs::path& source) {
-    for (zip_uint64_t index = 0; index < entry_count(zip); ++index) {
-        if (is_manifest(entry_name(zip, index))) {
-            const Bytes old = read_entry(zip, index, source);
-            const std::string cleaned = without_digests({reinterpret_cast<const char*>(old.data()), old.size()});
-            zip_stat_t status;
-            if (cleaned.size() != old.size() && zip_stat_index(zip, index, 0, &status) == 0) {
-                return pack_entry(index, status.comp_method, bytes_of(cleaned));
-            }
+// Returns whether anything has changed; nothing is written otherwise.
+bool rewrite_jar(Jar& jar) {
+    const size_t count = entries_of(jar).size();
+    for (size_t at = 0; at < count;) {
+        const Part part = rewrite_part(jar, at);
+        if (!jar.writer && !part.changes.empty()) {
+            jar.writer.emplace(jar.bytes, jar.contents.directory, jar.path, jar.sink);
+            write_entries(jar, 0, at, {});
         }
+        if (jar.writer) {
+            write_entries(jar, at, part.end, part.changes);
+        }
+        at = part.end;
     }
-    return std::nullopt;
+    if (!jar.writer) {
+        return false;
+    }
+    jar.writer->finish();
+    if (jar.dropped > 0) {
+        jar.work.reports.note(jar.path + ": signed; the result is not (" + std::to_string(jar.dropped) +
+                              " signature files dropped)");
+    }
+    return true;
+}
+
+std::optional<PackedEntry> rewrite_inner_jar(Jar& outer, const ZipEntry& entry) {
+    const std::string path = outer.path + ": " + entry.name;
+    const InnerJar inner(outer.bytes, entry, outer.path);
+    Bytes result;
+    Jar jar{outer.work,       path,
+            inner.bytes(),    inner.contents(),
+            outer.next_class, [&](BytesView bytes) { result.insert(result.end(), bytes.begin(), bytes.end()); },
+            nullptr};
+    const bool is_changed = rewrite_jar(jar);
+    outer.next_class = jar.next_class;
+    return is_changed ? std::optional(pack_entry(entry.method, std::move(result))) : std::nullopt;
 }
 
 }  // namespace
 
-std::vector<JarClass> classes_of_jar(const fs::path& path) {
-    const Zip zip = open_archive(path);
-    check_begin(path);
-    std::vector<JarClass> classes;
-    for (zip_uint64_t index = 0; index < entry_count(zip.get()); ++index) {
-        zip_stat_t status;
-        std::string name = entry_name(zip.get(), index);
-        if (name.ends_with(".class") && zip_stat_index(zip.get(), index, 0, &status) == 0) {
-            classes.push_back({index, std::move(name), status.comp_method});
-        }
-    }
-    return classes;
-}
-
-size_t write_rewritten_jar(const fs::path& source, const NewFile& target, const std::vector<PackedEntry>& changes) {
-    if (changes.empty()) {
-        copy_whole_file(source, target);
-        return 0;
-    }
+void write_rewritten_jar(Work& work, const fs::path& source, const NewFile& target, const JarContents& contents,
+                         size_t first_class) {
     const InputFile input(source);
-    OutputFile output(target, input.permissions());
-    ArchiveTransfer transfer(input, output);
-    std::optional<PackedEntry> manifest;
-    Zip zip = transfer.open(source);
-    for (const PackedEntry& change : changes) {
-        replace_entry(zip.get(), change, source);
+    const ArchiveBytes bytes(input);
+    const std::string path = source.string();
+    for (const std::string& note : contents.notes) {
+        work.reports.note(note);
     }
-    manifest = manifest_without_digests(zip.get(), source);
-    if (manifest) {
-        replace_entry(zip.get(), *manifest, source);
+    std::optional<OutputFile> output;
+    Jar jar{work,
+            path,
+            bytes,
+            contents,
+            first_class,
+            [&](BytesView written) {
+                if (!output) {
+                    output.emplace(target, input.permissions());
+                }
+                output->write(written);
+            },
+            rewrite_inner_jar};
+    if (rewrite_jar(jar)) {
+        output->close();
+    } else {
+        copy_whole_file(source, target);
     }
-    const size_t dropped = drop_signatures(zip.get(), source);
-    zip_register_cancel_callback_with_state(
-        zip.get(), [](zip_t*, void*) { return interrupt::requested() ? 1 : 0; }, nullptr, nullptr);
-    if (zip_close(zip.get()) != 0) {
-        interrupt::check();
-        transfer.rethrow_failure();
-        // What went wrong while it was written is a failure of the transfer. This is an entry that cannot be carried
-        // over.
-        fail_on_zip("read", source, zip_get_error(zip.get()));
-    }
-    zip.release();  // NOLINT(bugprone-unused-return-value): closed
-    carry_times_over(source, output, target);
-    output.close();
-    return dropped;
 }
 
 }  // namespace vantrel_rewrite

@@ -2,30 +2,20 @@
 #ifndef VANTREL_REWRITE_REWRITTEN_JAR_H
 #define VANTREL_REWRITE_REWRITTEN_JAR_H
 
-#include <cstdint>
+#include <cstddef>
 #include <filesystem>
-#include <string>
-#include <vector>
 
-#include "packed_entry.h"
+#include "jar_contents.h"
+#include "work.h"
 
 namespace vantrel_rewrite {
 
-// An entry that is a class.
-struct JarClass {
-    std::uint64_t index;
-    std::string name;
-    int method;  // how it is packed, as libzip numbers it
-};
-
-// In the order of the entries. Throws a Failure, also for an archive that cannot be carried over as a whole.
-std::vector<JarClass> classes_of_jar(const std::filesystem::path& path);
-
-// Writes a jar with other contents of some entries. All else is carried over as it is: order, times (entry_times.h),
-// attributes, comments; but signatures are dropped (jar_signature.h), and their number is returned. A jar whose classes
-// all stay is copied, with its signatures. Throws a Failure, or Interrupted.
-size_t write_rewritten_jar(const std::filesystem::path& source, const NewFile& target,
-                           const std::vector<PackedEntry>& changes);
+// Rewrites the classes of a jar and of the jars in it, and writes the jar with them, a part at a time. All else is
+// carried over as it is (zip_writer.h), but signatures are dropped (jar_signature.h). A jar whose classes all stay is
+// copied, with its signatures. Reports on all classes, in their order. Throws a Failure, or Interrupted.
+//   first_class   the number of the jar's first class
+void write_rewritten_jar(Work& work, const std::filesystem::path& source, const NewFile& target,
+                         const JarContents& contents, size_t first_class);
 
 }  // namespace vantrel_rewrite
 

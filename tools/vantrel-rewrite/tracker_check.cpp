@@ -11,7 +11,8 @@
 #include "failure.h"
 #include "file_io.h"
 #include "input_kind.h"
-#include "zip_archive.h"
+#include "packed_entry.h"
+#include "zip_directory.h"
 
 namespace fs = std::filesystem;
 
@@ -38,9 +39,12 @@ std::optional<Bytes> find_class(const fs::path& place, const std::string& name) 
         const fs::path file = place / (name + ".class");
         return fs::exists(status_of(file)) ? std::optional(read_file(file)) : std::nullopt;
     }
-    const Zip zip = open_archive(place);
-    const zip_int64_t index = zip_name_locate(zip.get(), (name + ".class").c_str(), ZIP_FL_ENC_GUESS);
-    return index < 0 ? std::nullopt : std::optional(read_entry(zip.get(), static_cast<zip_uint64_t>(index), place));
+    const InputFile file(place);
+    const ArchiveBytes bytes(file);
+    const ZipDirectory directory = read_zip_directory(bytes, place);
+    const auto entry = std::find_if(directory.entries.begin(), directory.entries.end(),
+                                    [&](const ZipEntry& each) { return each.name == name + ".class"; });
+    return entry == directory.entries.end() ? std::nullopt : std::optional(read_entry(bytes, *entry, place));
 }
 
 // The outline of a class in the first place of a class path that has it.

@@ -2,176 +2,178 @@
 
 #include <algorithm>
 #include <optional>
-#include <string>
 
 #include "failure.h"
-
-namespace fs = std::filesystem;
+#include "zip_format.h"
 
 namespace vantrel_rewrite {
 
+using namespace zip;
+
 namespace {
 
-// The records of an archive, as the "APPNOTE" of its format has them (4.3 and 4.5.3): numbers stand with their low
-// bytes first, and each record begins with a number of its own.
-namespace end_record {
-constexpr std::uint32_t kBegin = 0x06054b50;
-constexpr size_t kSize = 22;
-constexpr size_t kCount = 10;
-constexpr size_t kDirectorySize = 12;
-constexpr size_t kDirectory = 16;
-constexpr size_t kCommentSize = 20;
-}  // namespace end_record
-
-namespace wide_end_locator {  // immediately before the end record, of an archive that needs wide numbers
-constexpr std::uint32_t kBegin = 0x07064b50;
-constexpr size_t kSize = 20;
-constexpr size_t kEndRecord = 8;
-}  // namespace wide_end_locator
-
-namespace wide_end_record {
-constexpr std::uint32_t kBegin = 0x06064b50;
-constexpr size_t kSize = 56;
-constexpr size_t kCount = 32;
-constexpr size_t kDirectorySize = 40;
-constexpr size_t kDirectory = 48;
-}  // namespace wide_end_record
-
-namespace directory_entry {
-constexpr std::uint32_t kBegin = 0x02014b50;
-constexpr size_t kSize = 46;
-constexpr size_t kTime = 12;  // and the date after it
-constexpr size_t kPackedSize = 20;
-constexpr size_t kUnpackedSize = 24;
-constexpr size_t kNameSize = 28;
-constexpr size_t kExtraSize = 30;
-constexpr size_t kCommentSize = 32;
-constexpr size_t kHeader = 42;
-}  // namespace directory_entry
-
-namespace header {
-constexpr size_t kTime = 10;
-}  // namespace header
-
-constexpr std::uint32_t kIsWide = 0xFFFFFFFF;
-constexpr unsigned kWideNumbers = 1;  // the kind of extra field that has the numbers which are kIsWide in the record
-
-std::uint64_t number_at(const unsigned char* at, size_t size) {
-    std::uint64_t number = 0;
-    while (size-- > 0) {
-        number = number << 8U | at[size];
-    }
-    return number;
+size_t size_of_record(const unsigned char* at) {
+    return record::kSize + u2(at + record::kNameSize) + u2(at + record::kExtraSize) + u2(at + record::kCommentSize);
 }
 
-std::uint16_t u2(const unsigned char* at) {
-    return static_cast<std::uint16_t>(number_at(at, 2));
-}
-
-std::uint32_t u4(const unsigned char* at) {
-    return static_cast<std::uint32_t>(number_at(at, 4));
-}
-
-bool read_exactly(const InputFile& file, std::uint64_t position, Bytes& to) {
-    return file.read_at(static_cast<off_t>(position), to.data(), to.size()) == to.size();
-}
-
-size_t size_of_record(const unsigned char* record) {
-    return directory_entry::kSize + u2(record + directory_entry::kNameSize) + u2(record + directory_entry::kExtraSize) +
-           u2(record + directory_entry::kCommentSize);
-}
-
-// Where the header before an entry's contents is. Nothing if the record does not tell.
-std::optional<std::uint64_t> header_of(const unsigned char* record) {
-    const std::uint32_t position = u4(record + directory_entry::kHeader);
-    if (position != kIsWide) {
-        return position;
-    }
-    const unsigned char* extra = record + directory_entry::kSize + u2(record + directory_entry::kNameSize);
-    const unsigned char* const end = extra + u2(record + directory_entry::kExtraSize);
-    for (; end - extra >= 4; extra += 4 + u2(extra + 2)) {
-        const size_t before = 8 * (static_cast<size_t>(u4(record + directory_entry::kUnpackedSize) == kIsWide) +
-                                   static_cast<size_t>(u4(record + directory_entry::kPackedSize) == kIsWide));
-        if (u2(extra) == kWideNumbers && static_cast<size_t>(end - extra) >= 4 + before + 8) {
-            return number_at(extra + 4 + before, 8);
+// Replaces the numbers of an entry that are wide. Returns false where they are not there.
+bool read_wide_numbers(const unsigned char* at, ZipEntry& entry) {
+    std::vector<std::uint64_t*> missing;
+    for (std::uint64_t* number : {&entry.size, &entry.packed_size, &entry.header}) {
+        if (*number == kIsWide) {
+            missing.push_back(number);
         }
-        if (end - extra < 4 + u2(extra + 2)) {
-            break;
+    }
+    const unsigned char* extra = at + record::kSize + u2(at + record::kNameSize);
+    size_t left = u2(at + record::kExtraSize);
+    while (!missing.empty() && left >= kExtraHeadSize) {
+        const size_t size = u2(extra + 2);
+        if (size > left - kExtraHeadSize) {
+            return false;
+        }
+        if (u2(extra) == kWideNumbers) {
+            for (size_t index = 0; index < missing.size() && 8 * (index + 1) <= size; ++index) {
+                *missing[index] = u8(extra + kExtraHeadSize + 8 * index);
+            }
+            return size >= 8 * missing.size();
+        }
+        extra += kExtraHeadSize + size;
+        left -= kExtraHeadSize + size;
+    }
+    return missing.empty();
+}
+
+ZipEntry entry_of(const unsigned char* at) {
+    ZipEntry entry{};
+    entry.name.assign(reinterpret_cast<const char*>(at + record::kSize), u2(at + record::kNameSize));
+    entry.flags = u2(at + record::kFlags);
+    entry.method = u2(at + record::kMethod);
+    entry.crc = u4(at + record::kCrc);
+    entry.packed_size = u4(at + record::kPackedSize);
+    entry.size = u4(at + record::kUnpackedSize);
+    entry.header = u4(at + record::kHeader);
+    return entry;
+}
+
+// Where an end record, or the wide one before it, says that the directory is.
+struct DirectoryPlace {
+    std::uint64_t position;
+    std::uint64_t size;
+    std::uint64_t count;
+    std::uint64_t end;  // of the directory, where the record begins
+};
+
+// The directory at a position, or nothing where there is none.
+std::optional<ZipDirectory> directory_at(const ArchiveBytes& archive, std::uint64_t position,
+                                         const DirectoryPlace& place) {
+    if (!archive.holds(position, place.size) || position < place.position) {
+        return std::nullopt;
+    }
+    ZipDirectory directory;
+    directory.shift = position - place.position;
+    directory.begin = position;
+    directory.bytes.resize(place.size);
+    archive.read(position, directory.bytes.data(), directory.bytes.size());
+    for (size_t at = 0; directory.entries.size() < place.count;) {
+        const unsigned char* begin = directory.bytes.data() + at;
+        const size_t rest = directory.bytes.size() - at;
+        if (rest < record::kSize || u4(begin) != record::kBegin || rest < size_of_record(begin)) {
+            return std::nullopt;
+        }
+        ZipEntry entry = entry_of(begin);
+        if (!read_wide_numbers(begin, entry)) {
+            return std::nullopt;
+        }
+        entry.header += directory.shift;
+        entry.record = at;
+        entry.record_size = size_of_record(begin);
+        at += entry.record_size;
+        directory.entries.push_back(std::move(entry));
+    }
+    return directory;
+}
+
+DirectoryPlace place_in(const ArchiveBytes& archive, std::uint64_t end, const unsigned char* at) {
+    unsigned char locator[wide_end_locator::kSize];
+    if (end >= sizeof locator && archive.read(end - sizeof locator, locator, sizeof locator) &&
+        u4(locator) == wide_end_locator::kBegin) {
+        unsigned char wide[wide_end_record::kSize];
+        // The second place is right where something was put before the archive.
+        for (const std::uint64_t place :
+             {u8(locator + wide_end_locator::kEndRecord), end - sizeof locator - sizeof wide}) {
+            if (archive.read(place, wide, sizeof wide) && u4(wide) == wide_end_record::kBegin) {
+                return {u8(wide + wide_end_record::kDirectory), u8(wide + wide_end_record::kDirectorySize),
+                        u8(wide + wide_end_record::kCount), place};
+            }
+        }
+    }
+    return {u4(at + end_record::kDirectory), u4(at + end_record::kDirectorySize), u2(at + end_record::kCount), end};
+}
+
+// The directory is before the record that tells of it, as VMs have it, or else where the record says.
+std::optional<ZipDirectory> directory_before(const ArchiveBytes& archive, const DirectoryPlace& place) {
+    if (place.size <= place.end) {
+        if (auto directory = directory_at(archive, place.end - place.size, place)) {
+            return directory;
+        }
+    }
+    return directory_at(archive, place.position, place);
+}
+
+// Looks for the end record from the end on, for a comment of any length may come after it.
+std::optional<ZipDirectory> find_directory(const ArchiveBytes& archive) {
+    constexpr std::uint64_t kLongestEnd = end_record::kSize + UINT16_MAX;
+    const std::uint64_t begin = archive.size() - std::min(archive.size(), kLongestEnd);
+    Bytes end(archive.size() - begin);
+    if (!archive.read(begin, end.data(), end.size()) || end.size() < end_record::kSize) {
+        return std::nullopt;
+    }
+    for (size_t at = end.size() - end_record::kSize + 1; at-- > 0;) {
+        if (u4(&end[at]) == end_record::kBegin &&
+            u2(&end[at] + end_record::kCommentSize) <= end.size() - at - end_record::kSize) {
+            if (auto directory = directory_before(archive, place_in(archive, begin + at, &end[at]))) {
+                directory->end.assign(end.begin() + static_cast<std::ptrdiff_t>(at), end.end());
+                return directory;
+            }
         }
     }
     return std::nullopt;
 }
 
-std::string name_of(const unsigned char* record) {
-    std::string name(reinterpret_cast<const char*>(record + directory_entry::kSize),
-                     u2(record + directory_entry::kNameSize));
-    std::replace(name.begin(), name.end(), '\0', ' ');
-    return name;
-}
-
-// Nothing where there is no directory of that many entries.
-std::optional<ZipDirectory> directory_at(const InputFile& file, std::uint64_t position, std::uint64_t size,
-                                         std::uint64_t count) {
-    const auto file_size = static_cast<std::uint64_t>(file.size());
-    if (position > file_size || size > file_size - position) {
-        return std::nullopt;
-    }
-    ZipDirectory directory{position, Bytes(size), {}};
-    if (!read_exactly(file, position, directory.bytes)) {
-        return std::nullopt;
-    }
-    for (size_t at = 0; directory.entries.size() < count;) {
-        const unsigned char* record = directory.bytes.data() + at;
-        const size_t rest = directory.bytes.size() - at;
-        if (rest < directory_entry::kSize || u4(record) != directory_entry::kBegin || rest < size_of_record(record)) {
-            return std::nullopt;
+// Looks at what is before each entry's contents. Returns false where entries overlap or are not there, for then a copy
+// of all could be of any size.
+bool find_contents(const ArchiveBytes& archive, ZipDirectory& directory) {
+    std::vector<std::pair<std::uint64_t, std::uint64_t>> places;
+    const std::uint64_t end = directory.begin;
+    for (ZipEntry& entry : directory.entries) {
+        unsigned char head[header::kSize];
+        if (!archive.read(entry.header, head, sizeof head) || u4(head) != header::kBegin) {
+            return false;
         }
-        const auto header = header_of(record);
-        if (!header) {
-            return std::nullopt;
+        entry.data = entry.header + sizeof head + u2(head + header::kNameSize) + u2(head + header::kExtraSize);
+        if (entry.data > end || entry.packed_size > end - entry.data) {
+            return false;
         }
-        directory.entries.push_back({name_of(record), at + directory_entry::kTime, *header + header::kTime});
-        at += size_of_record(record);
+        places.emplace_back(entry.header, entry.data + entry.packed_size);
+        directory.begin = std::min(directory.begin, entry.header);
     }
-    return directory;
-}
-
-// The directory that an end record tells of, or the wide one before it.
-std::optional<ZipDirectory> directory_of(const InputFile& file, std::uint64_t end, const unsigned char* record) {
-    Bytes locator(wide_end_locator::kSize);
-    if (end >= locator.size() && read_exactly(file, end - locator.size(), locator) &&
-        u4(locator.data()) == wide_end_locator::kBegin) {
-        Bytes wide(wide_end_record::kSize);
-        if (read_exactly(file, number_at(&locator[wide_end_locator::kEndRecord], 8), wide) &&
-            u4(wide.data()) == wide_end_record::kBegin) {
-            return directory_at(file, number_at(&wide[wide_end_record::kDirectory], 8),
-                                number_at(&wide[wide_end_record::kDirectorySize], 8),
-                                number_at(&wide[wide_end_record::kCount], 8));
-        }
-    }
-    return directory_at(file, u4(record + end_record::kDirectory), u4(record + end_record::kDirectorySize),
-                        u2(record + end_record::kCount));
+    std::sort(places.begin(), places.end());
+    return std::adjacent_find(places.begin(), places.end(), [](const auto& one, const auto& next) {
+               return one.second > next.first;
+           }) == places.end();
 }
 
 }  // namespace
 
-// Looks for the end record from the end of the file on, for a comment of any length may come after it.
-ZipDirectory read_zip_directory(const InputFile& file, const fs::path& path) {
-    constexpr std::uint64_t kLongestEnd = end_record::kSize + UINT16_MAX;
-    const auto file_size = static_cast<std::uint64_t>(file.size());
-    const std::uint64_t begin = file_size - std::min(file_size, kLongestEnd);
-    Bytes end(file_size - begin);
-    if (read_exactly(file, begin, end) && end.size() >= end_record::kSize) {
-        for (size_t at = end.size() - end_record::kSize + 1; at-- > 0;) {
-            if (u4(&end[at]) == end_record::kBegin &&
-                u2(&end[at] + end_record::kCommentSize) <= end.size() - at - end_record::kSize) {
-                if (auto directory = directory_of(file, begin + at, &end[at])) {
-                    return *std::move(directory);
-                }
-            }
-        }
+ZipDirectory read_zip_directory(const ArchiveBytes& archive, const std::string& path) {
+    auto directory = find_directory(archive);
+    if (!directory) {
+        throw command::Failure{"cannot read " + path + ": Not a zip archive (is it a whole jar?)"};
     }
-    throw command::Failure{"cannot read " + path.string() + ": it has no directory of its entries"};
+    if (!find_contents(archive, *directory)) {
+        throw command::Failure{"cannot read " + path + ": what it says of its entries is wrong"};
+    }
+    return *std::move(directory);
 }
 
 }  // namespace vantrel_rewrite

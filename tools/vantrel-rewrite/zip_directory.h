@@ -1,36 +1,41 @@
-// Where in an archive's file the times of its entries are. libzip does not tell.
+// An archive's entries, as its directory lists them.
 #ifndef VANTREL_REWRITE_ZIP_DIRECTORY_H
 #define VANTREL_REWRITE_ZIP_DIRECTORY_H
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <string>
 #include <vector>
 
-#include "file_io.h"
+#include "archive_bytes.h"
 
 namespace vantrel_rewrite {
 
-// The time of day and the date of an entry, as an archive holds them: twice, in the directory and in the header before
-// the entry's contents.
-constexpr size_t kZipTimeSize = 4;
-
-struct ZipDirectoryEntry {
-    std::string name;           // as libzip tells it, with a space for each zero byte
-    size_t time;                // where in the directory's bytes
-    std::uint64_t header_time;  // where in the file
+struct ZipEntry {
+    std::string name;  // as it stands in the archive, whatever its encoding
+    std::uint16_t flags;
+    std::uint16_t method;
+    std::uint32_t crc;
+    std::uint64_t packed_size;
+    std::uint64_t size;
+    std::uint64_t header;  // where in the archive's bytes
+    std::uint64_t data;    // the same, of its contents
+    size_t record;         // where in the directory's bytes
+    size_t record_size;
 };
 
-// An archive's directory, which is at the end of its file.
 struct ZipDirectory {
-    std::uint64_t position;  // where in the file
+    // What the positions that the archive tells lack. It is not 0 where something (a start script) was put before an
+    // archive which does not know of it.
+    std::uint64_t shift = 0;
+    std::uint64_t begin = 0;  // of the first entry; what comes before it is no part of the archive
     Bytes bytes;
-    std::vector<ZipDirectoryEntry> entries;
+    std::vector<ZipEntry> entries;  // they do not overlap
+    Bytes end;                      // the end record, and what comes after it: the archive's comment
 };
 
-// Throws a Failure that names `path`, the file's, if there is none.
-ZipDirectory read_zip_directory(const InputFile& file, const std::filesystem::path& path);
+// Throws a Failure, "cannot read PATH: " and why, for what is no archive, and for one that contradicts itself.
+ZipDirectory read_zip_directory(const ArchiveBytes& archive, const std::string& path);
 
 }  // namespace vantrel_rewrite
 

@@ -1,0 +1,3 @@
+/** Carried over as it is. */
+module today {
+}

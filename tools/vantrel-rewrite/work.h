@@ -1,0 +1,25 @@
+// What everything that makes results shares.
+#ifndef VANTREL_REWRITE_WORK_H
+#define VANTREL_REWRITE_WORK_H
+
+#include "arguments.h"
+#include "class_reports.h"
+#include "class_rewriter.h"
+#include "progress.h"
+
+namespace vantrel_rewrite {
+
+struct Work {
+    const Arguments& arguments;
+    Progress& progress;
+    ClassReports reports;
+};
+
+// What is told of a class whose new image has been taken.
+inline ClassReport report_on(RewrittenClass result) {
+    return {result.outcome, std::move(result.reason), std::move(result.map_lines)};
+}
+
+}  // namespace vantrel_rewrite
+
+#endif
