@@ -270,6 +270,7 @@ TEST(Jar, NamesTenOfWhatFails) {
     for (const auto& [count, last] : {std::pair(10, "in.jar: 9.class: not rewritten: it is empty"),
                                       std::pair(12, "... and 2 more failed; --verbose names all")}) {
         std::vector<Entry> entries;
+        entries.reserve(count);
         for (int number = 0; number < count; ++number) {
             entries.push_back({std::to_string(number) + ".class", ""});
         }
