@@ -10,7 +10,7 @@ public interface Ours {
     /** Whether a component is one of our windows or lies in one. May be called from any thread. */
     static boolean isOurs(Component component) {
         // A window's parent is its owner, so that this leads from our dialogs and popups to our frame.
-        for (Component at = component; at != null; at = at.getParent()) {
+        for (Component at = component; at != null; at = Facts.parent(at)) {
             if (at instanceof Ours) {
                 return true;
             }

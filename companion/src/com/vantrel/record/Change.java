@@ -20,7 +20,7 @@ public final class Change {
     /** A Throwable, never thrown, in which the VM has noted the stack; then the CallTree.Call that it is; or null. */
     private Object stack;
     private final History history;
-    /** How many changes in a row this one stands for; the history's, as are the next two. */
+    /** How many changes in a row this one stands for. Guarded by the history, as are the next two fields. */
     int times = 1;
     /** The one before, of the same property, among those that are kept. */
     Change before;
