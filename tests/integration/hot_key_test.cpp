@@ -313,7 +313,8 @@ TEST(HotKey, RunsNothingOnAThreadThatTheVmRefuses) {
 }
 
 TEST(HotKey, ADisplayThatGoesAwayEndsTheThreadOnly) {
-    std::optional<XServer> x(std::in_place);
+    // A number that no other server takes: the probe asks for its display again at its end.
+    std::optional<XServer> x(std::in_place, std::vector<std::string>{":" + std::to_string(getpid())});
     Probe probe(x->name());
     EXPECT_TRUE(probe.says(kAttached.substr(0, kAttached.size() - 1)));
     x.reset();
