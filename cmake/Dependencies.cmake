@@ -21,7 +21,7 @@ find_path(CLI11_INCLUDE_DIR CLI/CLI.hpp REQUIRED)
 add_library(Cli11::headers INTERFACE IMPORTED)
 target_include_directories(Cli11::headers SYSTEM INTERFACE ${CLI11_INCLUDE_DIR})
 
-if(VANTREL_TESTS AND NOT VANTREL_FUZZ)
+if(VANTREL_TESTS)
     find_package(GTest REQUIRED)
     pkg_check_modules(Zip REQUIRED IMPORTED_TARGET libzip)
     pkg_check_modules(XcbTest REQUIRED IMPORTED_TARGET xcb xcb-xtest)
