@@ -350,6 +350,17 @@ TEST(HotKey, IsNotThereWithoutADisplay) {
     }
 }
 
+TEST(HotKey, IsNotThereWithoutXcb) {
+    const XServer x;
+    const ScratchFolder folder;
+    std::ofstream(folder.path / "libxcb.so.1") << "no library";
+    setenv("LD_LIBRARY_PATH", folder.path.c_str(), 1);
+    Probe probe(x.name());
+    unsetenv("LD_LIBRARY_PATH");
+    EXPECT_TRUE(probe.complains("vantrel-agent: no hot key: libxcb.so.1 cannot be loaded."));
+    EXPECT_EQ(probe.end(), kAnnouncement + "bound in time\nmodifier not held\nunbound\n");
+}
+
 // A display whose server takes connections and never answers.
 TEST(HotKey, ADisplayThatHangsHoldsNothingUp) {
     const int server = socket(AF_UNIX, SOCK_STREAM, 0);
