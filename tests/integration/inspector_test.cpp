@@ -291,7 +291,7 @@ TEST_P(Inspector, ADisplayThatGoesAwayDoesNotEndAProgramWithoutWindows) {
 }
 
 // Some by themselves; some are ended while the hot key is pressed at any moment of their life. With --gtest_repeat this
-// goes on for as long as one likes.
+// goes on for as long as you like.
 TEST_P(Inspector, StartsAndEndsManyTimes) {
     constexpr int kCycles = 10;  // of each kind
     struct Way {
