@@ -1,0 +1,239 @@
+#include "fix_ups.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace macho {
+namespace {
+
+constexpr std::uint64_t kPointer = 8;  // bytes
+constexpr unsigned kPointerType = 1;   // the only one that x86-64 has
+
+// The upper half of an instruction's byte says what is to be done, the lower half is an operand. Further operands
+// follow it.
+constexpr unsigned kInstruction = 0xF0;
+constexpr unsigned kOperand = 0x0F;
+enum RebaseInstruction : unsigned {
+    kEnd = 0x00,
+    kType = 0x10,
+    kPlace = 0x20,
+    kSkip = 0x30,
+    kSkipPointers = 0x40,
+    kRebaseFew = 0x50,
+    kRebaseMany = 0x60,
+    kRebaseAndSkip = 0x70,
+    kRebaseManyApart = 0x80,
+};
+enum BindInstruction : unsigned {
+    kEndOfBind = 0x00,  // of all, but the lazy ones have one after each
+    kLibrary = 0x10,
+    kFarLibrary = 0x20,
+    kSymbol = 0x40,
+    kBindType = 0x50,
+    kAddend = 0x60,
+    kBindPlace = 0x70,
+    kBindSkip = 0x80,
+    kBind = 0x90,
+    kBindAndSkip = 0xA0,
+    kBindAndSkipPointers = 0xB0,
+    kBindManyApart = 0xC0,
+};
+
+struct Cursor {
+    Bytes bytes;
+    std::uint64_t at = 0;
+
+    [[nodiscard]] bool at_end() const { return at >= bytes.size(); }
+    std::uint8_t byte() { return number_at<std::uint8_t>(bytes, at++); }
+    // Seven bits a byte, the lowest first (DWARF's LEB128).
+    std::uint64_t unsigned_number() {
+        std::uint64_t number = 0;
+        for (unsigned shift = 0;; shift += 7) {
+            const std::uint8_t next = byte();
+            number |= shift < 64 ? std::uint64_t{next & 0x7FU} << shift : 0;
+            if ((next & 0x80U) == 0) {
+                return number;
+            }
+        }
+    }
+    std::int64_t signed_number() {
+        const std::uint64_t begin = at;
+        const std::uint64_t number = unsigned_number();
+        const unsigned bits = std::min<unsigned>(64, 7 * static_cast<unsigned>(at - begin));
+        const bool is_negative = (number >> (bits - 1) & 1U) != 0;
+        return static_cast<std::int64_t>(is_negative && bits < 64 ? number - (std::uint64_t{1} << bits) : number);
+    }
+    std::string text() {
+        std::string characters;
+        while (const std::uint8_t next = byte()) {
+            characters.push_back(static_cast<char>(next));
+        }
+        return characters;
+    }
+};
+
+[[noreturn]] void refuse(const std::string& what, unsigned code) {
+    throw Error(what + " " + std::to_string(code) + " is not known here");
+}
+
+void expect_pointer(unsigned type) {
+    if (type != kPointerType) {
+        refuse("fix-up of type", type);
+    }
+}
+
+std::uint64_t segment_address(const File& file, unsigned number) {
+    if (number >= file.segments.size()) {
+        refuse("segment", number);
+    }
+    return file.segments[number].address;
+}
+
+void run_binds(const File& file, Bytes program, std::vector<Bind>& found) {
+    Bind bind{};
+    const auto library = [&](std::uint64_t ordinal) {
+        if (ordinal == 0 || ordinal > file.libraries.size()) {
+            refuse("library", static_cast<unsigned>(ordinal));
+        }
+        bind.library = file.libraries[ordinal - 1];
+    };
+    for (Cursor cursor{program}; !cursor.at_end();) {
+        const std::uint8_t instruction = cursor.byte();
+        const unsigned operand = instruction & kOperand;
+        std::uint64_t times = 0;
+        std::uint64_t skip = 0;
+        switch (instruction & kInstruction) {
+            case kEndOfBind:
+                break;
+            case kLibrary:
+                library(operand);
+                break;
+            case kFarLibrary:
+                library(cursor.unsigned_number());
+                break;
+            case kSymbol:
+                bind.symbol = cursor.text();
+                break;
+            case kBindType:
+                expect_pointer(operand);
+                break;
+            case kAddend:
+                bind.addend = cursor.signed_number();
+                break;
+            case kBindPlace:
+                bind.address = segment_address(file, operand) + cursor.unsigned_number();
+                break;
+            case kBindSkip:
+                bind.address += cursor.unsigned_number();
+                break;
+            case kBind:
+                times = 1;
+                break;
+            case kBindAndSkip:
+                times = 1;
+                skip = cursor.unsigned_number();
+                break;
+            case kBindAndSkipPointers:
+                times = 1;
+                skip = operand * kPointer;
+                break;
+            case kBindManyApart:
+                times = cursor.unsigned_number();
+                skip = cursor.unsigned_number();
+                break;
+            default:
+                refuse("bind instruction", instruction);
+        }
+        for (; times > 0; --times) {
+            found.push_back(bind);
+            bind.address += kPointer + skip;
+        }
+    }
+}
+
+void walk(Bytes trie, std::uint64_t node, const std::string& name, std::map<std::string, std::uint64_t>& found) {
+    Cursor cursor{trie, node};
+    if (const std::uint64_t size = cursor.unsigned_number(); size > 0) {
+        const std::uint64_t begin = cursor.at;
+        if (const std::uint64_t flags = cursor.unsigned_number(); flags != 0) {
+            refuse("export " + name + " of kind", static_cast<unsigned>(flags));
+        }
+        found.emplace(name, cursor.unsigned_number());
+        cursor.at = begin + size;
+    }
+    for (unsigned children = cursor.byte(); children > 0; --children) {
+        const std::string longer = name + cursor.text();
+        const std::uint64_t child = cursor.unsigned_number();
+        if (child <= node) {
+            throw Error("the trie of its exports leads back");
+        }
+        walk(trie, child, longer, found);
+    }
+}
+
+}  // namespace
+
+std::vector<std::uint64_t> rebases(const File& file) {
+    std::vector<std::uint64_t> found;
+    std::uint64_t address = 0;
+    for (Cursor cursor{file.rebases}; !cursor.at_end();) {
+        const std::uint8_t instruction = cursor.byte();
+        const unsigned operand = instruction & kOperand;
+        std::uint64_t times = 0;
+        std::uint64_t skip = 0;
+        switch (instruction & kInstruction) {
+            case kEnd:
+                return found;
+            case kType:
+                expect_pointer(operand);
+                break;
+            case kPlace:
+                address = segment_address(file, operand) + cursor.unsigned_number();
+                break;
+            case kSkip:
+                address += cursor.unsigned_number();
+                break;
+            case kSkipPointers:
+                address += operand * kPointer;
+                break;
+            case kRebaseFew:
+                times = operand;
+                break;
+            case kRebaseMany:
+                times = cursor.unsigned_number();
+                break;
+            case kRebaseAndSkip:
+                times = 1;
+                skip = cursor.unsigned_number();
+                break;
+            case kRebaseManyApart:
+                times = cursor.unsigned_number();
+                skip = cursor.unsigned_number();
+                break;
+            default:
+                refuse("rebase instruction", instruction);
+        }
+        for (; times > 0; --times) {
+            found.push_back(address);
+            address += kPointer + skip;
+        }
+    }
+    return found;
+}
+
+std::vector<Bind> binds(const File& file) {
+    std::vector<Bind> found;
+    run_binds(file, file.binds, found);
+    run_binds(file, file.lazy_binds, found);
+    return found;
+}
+
+std::map<std::string, std::uint64_t> exports(const File& file) {
+    std::map<std::string, std::uint64_t> found;
+    if (!file.exports.empty()) {
+        walk(file.exports, 0, "", found);
+    }
+    return found;
+}
+
+}  // namespace macho
