@@ -105,8 +105,7 @@ void read_segment(File& file, Bytes command) {
 void read_symbols(File& file, Bytes command) {
     const auto symbols = number_at<std::uint32_t>(command, 8);
     const auto count = number_at<std::uint32_t>(command, 12);
-    const Bytes names =
-        part(file.bytes, number_at<std::uint32_t>(command, 16), number_at<std::uint32_t>(command, 20));
+    const Bytes names = part(file.bytes, number_at<std::uint32_t>(command, 16), number_at<std::uint32_t>(command, 20));
     for (std::uint64_t i = 0; i < count; ++i) {
         const auto symbol = number_at<Symbol>(file.bytes, symbols + i * sizeof(Symbol));
         if ((symbol.type & kDebugging) == 0 && (symbol.type & kSymbolType) == kInSection) {

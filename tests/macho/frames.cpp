@@ -148,8 +148,8 @@ struct Table {
     }
 };
 
-// The functions of the compact table, in order, and one after the last of them. Its pages give them by 24 bits after the
-// page's begin, with the number of an encoding that many share, or in full.
+// The functions of the compact table, in order, and one after the last of them. Its pages give them by 24 bits after
+// the page's begin, with the number of an encoding that many share, or in full.
 std::vector<Function> functions_of(Bytes table) {
     const auto number = [table](std::uint64_t at) { return number_at<std::uint32_t>(table, at); };
     const auto half = [table](std::uint64_t at) { return number_at<std::uint16_t>(table, at); };
@@ -171,9 +171,9 @@ std::vector<Function> functions_of(Bytes table) {
             }
             const std::uint32_t both = number(entries + entry * 4);
             const std::uint32_t which = both >> 24U;
-            functions.push_back({begin + bits(both, 0, 24), which < common_count
-                                                                ? number(common + which * 4)
-                                                                : number(page + half(page + 8) + (which - common_count) * 4)});
+            functions.push_back({begin + bits(both, 0, 24),
+                                 which < common_count ? number(common + which * 4)
+                                                      : number(page + half(page + 8) + (which - common_count) * 4)});
         }
     }
     functions.push_back({number(index + pages * kIndexEntry), 0});

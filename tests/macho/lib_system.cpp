@@ -26,18 +26,30 @@ namespace {
 
 // Functions that take and give the same on both systems; a FILE is only ever handed on.
 constexpr const char* kSame[] = {
-    "__cxa_atexit",  "_Unwind_DeleteException", "_Unwind_GetIP",    "_Unwind_GetLanguageSpecificData",
-    "_Unwind_SetGR", "_Unwind_GetRegionStart",  "_Unwind_SetIP",    "_Unwind_RaiseException",
-    "abort",         "_Unwind_Resume",          "access",           "aligned_alloc",
-    "calloc",        "exit",                    "fclose",           "fflush",
-    "fopen",         "fprintf",                 "fputc",            "free",
-    "fwrite",        "malloc",                  "memchr",           "memcmp",
-    "memcpy",        "memmove",                 "memset",           "printf",
-    "putchar",       "pthread_self",            "puts",             "realloc",
-    "remove",        "rename",                  "snprintf",         "sscanf",
-    "strcat",        "strchr",                  "strcmp",           "strcpy",
-    "strcspn",       "strdup",                  "strerror",         "strlen",
-    "strncmp",       "strspn",                  "vfprintf",         "wcslen",
+    "__cxa_atexit",  "_Unwind_DeleteException",
+    "_Unwind_GetIP", "_Unwind_GetLanguageSpecificData",
+    "_Unwind_SetGR", "_Unwind_GetRegionStart",
+    "_Unwind_SetIP", "_Unwind_RaiseException",
+    "abort",         "_Unwind_Resume",
+    "access",        "aligned_alloc",
+    "calloc",        "exit",
+    "fclose",        "fflush",
+    "fopen",         "fprintf",
+    "fputc",         "free",
+    "fwrite",        "malloc",
+    "memchr",        "memcmp",
+    "memcpy",        "memmove",
+    "memset",        "printf",
+    "putchar",       "pthread_self",
+    "puts",          "realloc",
+    "remove",        "rename",
+    "snprintf",      "sscanf",
+    "strcat",        "strchr",
+    "strcmp",        "strcpy",
+    "strcspn",       "strdup",
+    "strerror",      "strlen",
+    "strncmp",       "strspn",
+    "vfprintf",      "wcslen",
 };
 
 // Mutexes, conditions and the like begin with a signature that tells those that were never used: all the library's are
@@ -176,8 +188,9 @@ RuneLocale make_rune_locale() {
         int (*is)(int);
         std::uint32_t kind;
     } kinds[] = {
-        {isalpha, 0x100},   {iscntrl, 0x200}, {isdigit, 0x400},  {isgraph, 0x800},   {islower, 0x1000}, {ispunct, 0x2000},
-        {isspace, 0x4000}, {isupper, 0x8000}, {isxdigit, 0x10000}, {isblank, 0x20000}, {isprint, 0x40000},
+        {isalpha, 0x100},    {iscntrl, 0x200},   {isdigit, 0x400},   {isgraph, 0x800},
+        {islower, 0x1000},   {ispunct, 0x2000},  {isspace, 0x4000},  {isupper, 0x8000},
+        {isxdigit, 0x10000}, {isblank, 0x20000}, {isprint, 0x40000},
     };
     RuneLocale locale{};
     for (int character = 0; character < 256; ++character) {

@@ -67,8 +67,7 @@ const void* trap(const std::string& symbol) {
 }  // namespace
 
 const void* in_system(const std::string& library, const std::string& symbol) {
-    const void* found =
-        library == "/usr/lib/libSystem.B.dylib" ? in_lib_system(symbol) : in_framework(library, symbol);
+    const void* found = library == "/usr/lib/libSystem.B.dylib" ? in_lib_system(symbol) : in_framework(library, symbol);
     return found != nullptr ? found : trap(symbol);
 }
 
