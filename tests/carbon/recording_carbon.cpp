@@ -1,5 +1,6 @@
 #include "recording_carbon.h"
 
+#include <mutex>
 #include <sstream>
 
 RecordingCarbon carbon;
@@ -10,6 +11,8 @@ template <typename... Parts>
 void record(const Parts&... parts) {
     std::ostringstream call;
     ((call << parts << ' '), ...);
+    static std::mutex lock;
+    const std::lock_guard hold(lock);
     carbon.calls.push_back(call.str());
     if (carbon.on_call) {
         carbon.on_call(call.str());
