@@ -1,8 +1,5 @@
 #include "fix_ups.h"
 
-#include <algorithm>
-#include <utility>
-
 namespace macho {
 namespace {
 
@@ -30,7 +27,6 @@ enum BindInstruction : unsigned {
     kFarLibrary = 0x20,
     kSymbol = 0x40,
     kBindType = 0x50,
-    kAddend = 0x60,
     kBindPlace = 0x70,
     kBindSkip = 0x80,
     kBind = 0x90,
@@ -55,13 +51,6 @@ struct Cursor {
                 return number;
             }
         }
-    }
-    std::int64_t signed_number() {
-        const std::uint64_t begin = at;
-        const std::uint64_t number = unsigned_number();
-        const unsigned bits = std::min<unsigned>(64, 7 * static_cast<unsigned>(at - begin));
-        const bool is_negative = (number >> (bits - 1) & 1U) != 0;
-        return static_cast<std::int64_t>(is_negative && bits < 64 ? number - (std::uint64_t{1} << bits) : number);
     }
     std::string text() {
         std::string characters;
@@ -116,9 +105,6 @@ void run_binds(const File& file, Bytes program, std::vector<Bind>& found) {
                 break;
             case kBindType:
                 expect_pointer(operand);
-                break;
-            case kAddend:
-                bind.addend = cursor.signed_number();
                 break;
             case kBindPlace:
                 bind.address = segment_address(file, operand) + cursor.unsigned_number();

@@ -20,7 +20,6 @@ struct Bind {
     std::uint64_t address;
     std::string library;
     std::string symbol;
-    std::int64_t addend;
 };
 
 // Those that are bound when the library is loaded, and those that macOS binds at their first use.

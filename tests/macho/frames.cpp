@@ -18,7 +18,9 @@ constexpr std::uint8_t kRsp = 7;
 constexpr std::uint8_t kReturnAddress = 16;
 constexpr std::uint32_t kWord = 8;
 
-enum Mode : std::uint32_t { kRbpFrame = 1, kSmallFrame = 2, kLargeFrame = 3, kInDwarf = 4 };
+// Of the others, functions of mode 4 are in DWARF already, and the one of mode 3, whose frame is larger than the
+// encoding can say, is left out: an exception that comes there ends the process.
+enum Mode : std::uint32_t { kRbpFrame = 1, kRspFrame = 2 };
 
 // A function of the compact table.
 struct Function {
@@ -72,17 +74,11 @@ std::vector<std::uint8_t> sequence(std::uint32_t number, std::uint32_t length) {
     return chosen;
 }
 
-// The size of a large frame stands in the instruction that makes it.
-Frame rsp_frame(Function function, const std::uint8_t* base) {
-    std::uint32_t size = bits(function.encoding, 16, 8) * kWord;
-    if (bits(function.encoding, 24, 4) == kLargeFrame) {
-        size = number_at<std::uint32_t>({base + function.begin + bits(function.encoding, 16, 8), kWord}, 0) +
-               bits(function.encoding, 13, 3) * kWord;
-    }
-    Frame frame{kRsp, size, {}};
-    const std::uint32_t count = bits(function.encoding, 10, 3);
+Frame rsp_frame(std::uint32_t encoding) {
+    Frame frame{kRsp, bits(encoding, 16, 8) * kWord, {}};
+    const std::uint32_t count = bits(encoding, 10, 3);
     std::uint32_t words = count + 1;
-    for (const std::uint8_t kept : sequence(bits(function.encoding, 0, 10), count)) {
+    for (const std::uint8_t kept : sequence(bits(encoding, 0, 10), count)) {
         frame.kept.push_back({kept, words--});
     }
     return frame;
@@ -194,7 +190,7 @@ std::map<std::uint32_t, std::uint32_t> landings_of(Bytes table) {
 
 }  // namespace
 
-std::size_t register_frames(const File& file, const std::uint8_t* base) {
+void register_frames(const File& file, const std::uint8_t* base) {
     const auto bytes_of = [&](const char* name) {
         const Section& section = file.sections.at(name);
         return Bytes(base + section.address, section.size);
@@ -213,24 +209,21 @@ std::size_t register_frames(const File& file, const std::uint8_t* base) {
     }
     const std::vector<Function> functions = functions_of(compact);
     const std::map<std::uint32_t, std::uint32_t> landings = landings_of(compact);
-    std::size_t count = 0;
     for (std::size_t i = 0; i + 1 < functions.size(); ++i) {
         const Function function = functions[i];
         const std::uint32_t mode = bits(function.encoding, 24, 4);
-        count += mode != 0 ? 1 : 0;
-        if (mode == 0 || mode == kInDwarf) {
+        if (mode != kRbpFrame && mode != kRspFrame) {
             continue;
         }
         const auto landing = landings.find(function.begin);
         table.add_function(commons.at(bits(function.encoding, 28, 2)), base + function.begin,
                            functions[i + 1].begin - function.begin,
                            landing != landings.end() ? base + landing->second : nullptr,
-                           mode == kRbpFrame ? rbp_frame(function.encoding) : rsp_frame(function, base));
+                           mode == kRbpFrame ? rbp_frame(function.encoding) : rsp_frame(function.encoding));
     }
     table.add<std::uint32_t>(0);
     auto& tables = *new std::array<const std::uint8_t*, 3>{dwarf.data(), table.bytes.data(), nullptr};
     __register_frame_table(static_cast<void*>(tables.data()));
-    return count;
 }
 
 }  // namespace macho

@@ -3,7 +3,6 @@
 #ifndef VANTREL_MACHO_FRAMES_H
 #define VANTREL_MACHO_FRAMES_H
 
-#include <cstddef>
 #include <cstdint>
 
 #include "file.h"
@@ -11,8 +10,7 @@
 namespace macho {
 
 // Tells the unwinder of a library that is mapped at `base`, with its pointers fixed, for as long as the process lives.
-// Returns how many functions there are that exceptions can pass.
-std::size_t register_frames(const File& file, const std::uint8_t* base);
+void register_frames(const File& file, const std::uint8_t* base);
 
 }  // namespace macho
 

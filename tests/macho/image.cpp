@@ -62,7 +62,7 @@ void fix(const Image& image, const File& file) {
         memcpy(pointer, &target, sizeof target);
     }
     for (const Bind& bind : binds(file)) {
-        const auto* target = static_cast<const std::uint8_t*>(in_system(bind.library, bind.symbol)) + bind.addend;
+        const void* target = in_system(bind.library, bind.symbol);
         memcpy(pointer_in(image, file, bind.address), &target, sizeof target);
     }
 }

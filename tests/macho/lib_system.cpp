@@ -42,13 +42,12 @@ constexpr const char* kSame[] = {
     "putchar",       "pthread_self",
     "puts",          "realloc",
     "remove",        "rename",
-    "snprintf",      "sscanf",
-    "strcat",        "strchr",
-    "strcmp",        "strcpy",
-    "strcspn",       "strdup",
-    "strerror",      "strlen",
-    "strncmp",       "strspn",
-    "vfprintf",      "wcslen",
+    "snprintf",      "strcat",
+    "strchr",        "strcmp",
+    "strcpy",        "strcspn",
+    "strdup",        "strerror",
+    "strlen",        "strncmp",
+    "strspn",        "vfprintf",
 };
 
 // Mutexes, conditions and the like begin with a signature that tells those that were never used: all the library's are

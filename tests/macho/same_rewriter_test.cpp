@@ -5,12 +5,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
 #include <csignal>
 #include <cstdlib>
 #include <iostream>
 #include <random>
 #include <string>
 #include <string_view>
+#include <thread>
 #include <vector>
 
 #include "classes.h"
@@ -59,7 +61,7 @@ const Rewriter& for_linux() {
 }
 
 // All that callers get to see, as one text.
-std::string told;
+thread_local std::string told;
 void tell(std::initializer_list<std::string_view> words) {
     for (const std::string_view word : words) {
         told.append(word).append("\n");
@@ -203,6 +205,25 @@ TEST(SameRewriter, SaysTheSameOfDamagedClasses) {
     }
     report("damaged classes", count);
     EXPECT_GT(count.failures, 5000U);
+}
+
+// Each failure is an exception inside the library.
+TEST(SameRewriter, FailsOnManyThreadsAtOnce) {
+    constexpr int kThreads = 4;
+    constexpr int kTimes = 10'000;
+    const ClassFile file = {0xCA, 0xFE, 0xBA, 0xBE, 0, 0, 0, 52, 0, 3};
+    const std::string expected = by_second_door(for_linux(), file, 1);
+    std::atomic<int> different = 0;
+    std::vector<std::jthread> threads(kThreads);
+    for (std::jthread& thread : threads) {
+        thread = std::jthread([&] {
+            for (int i = 0; i < kTimes; ++i) {
+                different += by_second_door(for_macos(), file, 1) != expected ? 1 : 0;
+            }
+        });
+    }
+    threads.clear();
+    EXPECT_EQ(different, 0);
 }
 
 // What a caller without a handler sees before the process ends.

@@ -2,9 +2,9 @@
 //
 //     -agentpath:SHIM=MACHO-FILE
 //
-// The keyboard is a named pipe, "keys" in the working folder: a "c" holds Command down, an "r" releases it, and a "p"
-// is the hot key. Handlers are called on one thread that the VM knows as a daemon, which is what the main thread of a
-// program with windows is on a Mac. On stderr stands what Carbon was asked for, but for the state of the keys.
+// The keyboard is a named pipe, "keys" in the working folder: each byte is a press of the hot key. Its handler is
+// called on a thread that the VM knows as a daemon, which is what the main thread of a program with windows is on a
+// Mac. On stderr stands what Carbon was asked for, but for the state of the keys.
 #include <jvmti.h>
 
 #include <cstdio>
@@ -27,10 +27,8 @@ void serve_keys(JavaVM* vm) {
     }
     std::ifstream keys("keys");
     for (char key = 0; keys.get(key);) {
-        if (key == 'p' && carbon.press() != noErr) {
+        if (carbon.press() != noErr) {
             fputs("the handler failed\n", stderr);
-        } else if (key != 'p') {
-            carbon.flags = key == 'c' ? 0x08 : 0;
         }
     }
 }
