@@ -1,5 +1,7 @@
 #include "fix_ups.h"
 
+#include <utility>
+
 namespace macho {
 namespace {
 
@@ -137,26 +139,6 @@ void run_binds(const File& file, Bytes program, std::vector<Bind>& found) {
     }
 }
 
-void walk(Bytes trie, std::uint64_t node, const std::string& name, std::map<std::string, std::uint64_t>& found) {
-    Cursor cursor{trie, node};
-    if (const std::uint64_t size = cursor.unsigned_number(); size > 0) {
-        const std::uint64_t begin = cursor.at;
-        if (const std::uint64_t flags = cursor.unsigned_number(); flags != 0) {
-            refuse("export " + name + " of kind", static_cast<unsigned>(flags));
-        }
-        found.emplace(name, cursor.unsigned_number());
-        cursor.at = begin + size;
-    }
-    for (unsigned children = cursor.byte(); children > 0; --children) {
-        const std::string longer = name + cursor.text();
-        const std::uint64_t child = cursor.unsigned_number();
-        if (child <= node) {
-            throw Error("the trie of its exports leads back");
-        }
-        walk(trie, child, longer, found);
-    }
-}
-
 }  // namespace
 
 std::vector<std::uint64_t> rebases(const File& file) {
@@ -214,10 +196,29 @@ std::vector<Bind> binds(const File& file) {
     return found;
 }
 
+// A node of the trie has an address, if a name ends there, and children with what they add to the name.
 std::map<std::string, std::uint64_t> exports(const File& file) {
     std::map<std::string, std::uint64_t> found;
-    if (!file.exports.empty()) {
-        walk(file.exports, 0, "", found);
+    std::vector<std::pair<std::uint64_t, std::string>> nodes = {{0, ""}};
+    while (!nodes.empty()) {
+        const auto [node, name] = nodes.back();
+        nodes.pop_back();
+        Cursor cursor{file.exports, node};
+        if (const std::uint64_t size = cursor.unsigned_number(); size > 0) {
+            const std::uint64_t begin = cursor.at;
+            if (const std::uint64_t flags = cursor.unsigned_number(); flags != 0) {
+                refuse("export " + name + " of kind", static_cast<unsigned>(flags));
+            }
+            found.emplace(name, cursor.unsigned_number());
+            cursor.at = begin + size;
+        }
+        for (unsigned children = cursor.byte(); children > 0; --children) {
+            const std::string longer = name + cursor.text();
+            nodes.emplace_back(cursor.unsigned_number(), longer);
+            if (nodes.back().first <= node) {
+                throw Error("the trie of its exports leads back");
+            }
+        }
     }
     return found;
 }

@@ -37,9 +37,10 @@ std::uint8_t* pointer_in(const Image& image, const File& file, std::uint64_t add
 }
 
 std::uint8_t* map(const File& file, std::uint64_t size, std::uintptr_t address) {
-    void* place = mmap(reinterpret_cast<void*>(address), size, PROT_READ | PROT_WRITE,
+    auto* wanted = reinterpret_cast<void*>(address);  // NOLINT(performance-no-int-to-ptr): the linker knows it so
+    void* place = mmap(wanted, size, PROT_READ | PROT_WRITE,
                        MAP_PRIVATE | MAP_ANONYMOUS | (address != 0 ? MAP_FIXED_NOREPLACE : 0), -1, 0);
-    if (place == MAP_FAILED || (address != 0 && reinterpret_cast<std::uintptr_t>(place) != address)) {
+    if (place == MAP_FAILED || (address != 0 && place != wanted)) {
         throw Error("there is no room for it in memory");
     }
     auto* base = static_cast<std::uint8_t*>(place);
