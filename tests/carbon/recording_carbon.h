@@ -5,6 +5,7 @@
 
 #include <Carbon/Carbon.h>
 
+#include <atomic>
 #include <functional>
 #include <string>
 #include <vector>
@@ -14,8 +15,8 @@ struct RecordingCarbon {
     std::vector<std::string> calls;  // a name and arguments with a blank after each; whether handles are the right ones
     std::function<void(const std::string&)> on_call;  // is told of each; may be empty
 
-    OSStatus status = noErr;  // of every call
-    CGEventFlags flags = 0;   // what is held on the keyboard
+    OSStatus status = noErr;              // of every call
+    std::atomic<CGEventFlags> flags = 0;  // what is held on the keyboard
 
     // What InstallEventHandler was given last.
     EventHandlerUPP handler = nullptr;

@@ -2,9 +2,10 @@
 //
 //     -agentpath:SHIM=MACHO-FILE
 //
-// The keyboard is a named pipe, "keys" in the working folder: each byte is a press of the hot key. Its handler is
-// called on a thread that the VM knows as a daemon, which is what the main thread of a program with windows is on a
-// Mac. On stderr stands what Carbon was asked for, but for the state of the keys.
+// The keyboard is a named pipe, "keys" in the working folder: a "c" holds Command down, an "r" releases it, and a "p"
+// is a press of the hot key. Its handler is called on a thread that the VM knows as a daemon, which is what the main
+// thread of a program with windows is on a Mac. On stderr stands what Carbon was asked for, but for the state of the
+// keys.
 #include <jvmti.h>
 
 #include <cstdio>
@@ -27,7 +28,9 @@ void serve_keys(JavaVM* vm) {
     }
     std::ifstream keys("keys");
     for (char key = 0; keys.get(key);) {
-        if (carbon.press() != noErr) {
+        if (key != 'p') {
+            carbon.flags = key == 'c' ? 0x10 : 0;  // the right one
+        } else if (carbon.press() != noErr) {
             fputs("the handler failed\n", stderr);
         }
     }
