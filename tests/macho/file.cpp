@@ -1,5 +1,6 @@
 #include "file.h"
 
+#include <algorithm>
 #include <cstring>
 #include <fstream>
 #include <iterator>
@@ -41,16 +42,6 @@ struct SectionHeader {
 };
 constexpr std::uint32_t kSectionType = 0xFF;
 constexpr std::uint32_t kThreadLocal[] = {0x11, 0x12, 0x13, 0x14, 0x15};
-
-struct Symbol {
-    std::uint32_t name;
-    std::uint8_t type, section;
-    std::uint16_t description;
-    std::uint64_t value;
-};
-constexpr unsigned kDebugging = 0xE0;
-constexpr unsigned kSymbolType = 0x0E;
-constexpr unsigned kInSection = 0x0E;
 
 // Names in headers fill their fields, or end with a zero.
 std::string field(const char (&text)[16]) {
@@ -102,18 +93,6 @@ void read_segment(File& file, Bytes command) {
     }
 }
 
-void read_symbols(File& file, Bytes command) {
-    const auto symbols = number_at<std::uint32_t>(command, 8);
-    const auto count = number_at<std::uint32_t>(command, 12);
-    const Bytes names = part(file.bytes, number_at<std::uint32_t>(command, 16), number_at<std::uint32_t>(command, 20));
-    for (std::uint64_t i = 0; i < count; ++i) {
-        const auto symbol = number_at<Symbol>(file.bytes, symbols + i * sizeof(Symbol));
-        if ((symbol.type & kDebugging) == 0 && (symbol.type & kSymbolType) == kInSection) {
-            file.symbols.emplace(text_at(names, symbol.name), symbol.value);
-        }
-    }
-}
-
 void read_dyld_info(File& file, Bytes command) {
     const auto range = [&](std::uint64_t at) {
         return part(file.bytes, number_at<std::uint32_t>(command, at), number_at<std::uint32_t>(command, at + 4));
@@ -131,13 +110,12 @@ void read_command(File& file, Bytes command) {
     switch (const auto kind = number_at<std::uint32_t>(command, 0)) {
         case kSegment:
             return read_segment(file, command);
-        case kSymbols:
-            return read_symbols(file, command);
         case kDyldInfo:
             return read_dyld_info(file, command);
         case kLoadLibrary:
             file.libraries.push_back(text_at(command, number_at<std::uint32_t>(command, 8)));
             return;
+        case kSymbols:
         case kDynamicSymbols:
         case kOwnName:
         case kUuid:

@@ -1,5 +1,5 @@
-// The x86-64 part of a universal Mach-O library, as its load commands describe it (Apple's mach-o/loader.h, fat.h and
-// nlist.h). Nothing is mapped or changed here: image.h does that.
+// The x86-64 part of a universal Mach-O library, as its load commands describe it (Apple's mach-o/loader.h and fat.h).
+// Nothing is mapped or changed here: image.h does that.
 //
 // Addresses are those that the linker gave: the first segment begins at 0.
 #ifndef VANTREL_MACHO_FILE_H
@@ -48,8 +48,7 @@ struct File {
     std::vector<std::uint8_t> bytes;  // what the spans below are parts of
     std::vector<Segment> segments;    // in order of their addresses
     std::map<std::string, Section> sections;
-    std::vector<std::string> libraries;            // by the names they are loaded by; ordinal 1 is the first
-    std::map<std::string, std::uint64_t> symbols;  // all that are defined, also those that are not exported
+    std::vector<std::string> libraries;  // by the names they are loaded by; ordinal 1 is the first
     // Instructions for the loader: fix_ups.h.
     Bytes rebases, binds, lazy_binds;
     Bytes exports;

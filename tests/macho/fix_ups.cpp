@@ -9,7 +9,7 @@ constexpr std::uint64_t kPointer = 8;  // bytes
 constexpr unsigned kPointerType = 1;   // the only one that x86-64 has
 
 // The upper half of an instruction's byte says what is to be done, the lower half is an operand. Further operands
-// follow it.
+// follow it. Those that are not here the linker has not left in this library, and they are refused.
 constexpr unsigned kInstruction = 0xF0;
 constexpr unsigned kOperand = 0x0F;
 enum RebaseInstruction : unsigned {
@@ -26,15 +26,11 @@ enum RebaseInstruction : unsigned {
 enum BindInstruction : unsigned {
     kEndOfBind = 0x00,  // of all, but the lazy ones have one after each
     kLibrary = 0x10,
-    kFarLibrary = 0x20,
     kSymbol = 0x40,
     kBindType = 0x50,
     kBindPlace = 0x70,
     kBindSkip = 0x80,
     kBind = 0x90,
-    kBindAndSkip = 0xA0,
-    kBindAndSkipPointers = 0xB0,
-    kBindManyApart = 0xC0,
 };
 
 struct Cursor {
@@ -82,25 +78,17 @@ std::uint64_t segment_address(const File& file, unsigned number) {
 
 void run_binds(const File& file, Bytes program, std::vector<Bind>& found) {
     Bind bind{};
-    const auto library = [&](std::uint64_t ordinal) {
-        if (ordinal == 0 || ordinal > file.libraries.size()) {
-            refuse("library", static_cast<unsigned>(ordinal));
-        }
-        bind.library = file.libraries[ordinal - 1];
-    };
     for (Cursor cursor{program}; !cursor.at_end();) {
         const std::uint8_t instruction = cursor.byte();
         const unsigned operand = instruction & kOperand;
-        std::uint64_t times = 0;
-        std::uint64_t skip = 0;
         switch (instruction & kInstruction) {
             case kEndOfBind:
                 break;
             case kLibrary:
-                library(operand);
-                break;
-            case kFarLibrary:
-                library(cursor.unsigned_number());
+                if (operand == 0 || operand > file.libraries.size()) {
+                    refuse("library", operand);
+                }
+                bind.library = file.libraries[operand - 1];
                 break;
             case kSymbol:
                 bind.symbol = cursor.text();
@@ -115,26 +103,11 @@ void run_binds(const File& file, Bytes program, std::vector<Bind>& found) {
                 bind.address += cursor.unsigned_number();
                 break;
             case kBind:
-                times = 1;
-                break;
-            case kBindAndSkip:
-                times = 1;
-                skip = cursor.unsigned_number();
-                break;
-            case kBindAndSkipPointers:
-                times = 1;
-                skip = operand * kPointer;
-                break;
-            case kBindManyApart:
-                times = cursor.unsigned_number();
-                skip = cursor.unsigned_number();
+                found.push_back(bind);
+                bind.address += kPointer;
                 break;
             default:
                 refuse("bind instruction", instruction);
-        }
-        for (; times > 0; --times) {
-            found.push_back(bind);
-            bind.address += kPointer + skip;
         }
     }
 }

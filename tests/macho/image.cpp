@@ -2,8 +2,6 @@
 
 #include <sys/mman.h>
 
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <deque>
 #include <mutex>
@@ -92,8 +90,7 @@ void initialise(const Image& image, const File& file) {
 void* Image::address_of(const std::string& name) const {
     const auto found = exported.find("_" + name);
     if (found == exported.end()) {
-        fprintf(stderr, "%s exports no %s\n", path.c_str(), name.c_str());
-        abort();
+        give_up("the library has no ", name.c_str());
     }
     return base + found->second;
 }
@@ -114,8 +111,7 @@ const Image& load(const std::filesystem::path& path, std::uintptr_t address) {
         initialise(*image, file);
         return *image;
     } catch (const std::exception& error) {
-        fprintf(stderr, "%s: %s\n", path.c_str(), error.what());
-        abort();
+        give_up((path.string() + ": ").c_str(), error.what());
     }
 }
 
