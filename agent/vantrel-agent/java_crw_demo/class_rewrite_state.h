@@ -3,6 +3,7 @@
 #ifndef JAVA_CRW_DEMO_CLASS_REWRITE_STATE_H
 #define JAVA_CRW_DEMO_CLASS_REWRITE_STATE_H
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -23,6 +24,20 @@ struct Tracker {
     const char* name = nullptr;
     const char* signature = nullptr;
     uint16_t index = 0;
+};
+
+// The bytes of one tracker call. The longest pushes two 16-bit values, with 3 bytes each, and invokes. There is room for
+// a multiple of what a processor moves at once, so that a call can be written as a whole, whatever its length.
+struct InjectionTemplate {
+    std::array<uint8_t, 16> code{};
+    uint8_t len = 0;  // 0 where nothing is injected
+};
+
+// The calls of one method, by where they go.
+struct Injections {
+    InjectionTemplate entry;
+    InjectionTemplate at_return;
+    InjectionTemplate newarray;
 };
 
 // Which function was called. The contract of java_crw_demo is kept as it is; what has come to class files since, and
@@ -86,8 +101,9 @@ struct ClassRewriteState {
     std::vector<std::string_view> method_descriptors;
     const MethodRewriteState* current_method = nullptr;  // for the texts of failures
 
-    // The room for a method's map and sites (method_rewrite_state.h). It is kept from one method to the next, so that
-    // a class needs no more of it than its longest method does.
+    // What belongs to one method at a time (method_rewrite_state.h): its calls, and the room for its map and its sites.
+    // The room is kept from one method to the next, so that a class needs no more of it than its longest method does.
+    Injections injections;
     std::unique_ptr<int32_t[]> map;
     size_t map_size = 0;
     std::vector<Site> sites;

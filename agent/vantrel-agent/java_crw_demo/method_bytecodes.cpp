@@ -19,24 +19,18 @@ constexpr const char* kCodeTooLong = "mi->new_code_len <= 0xFFFF";
 // max_stack, max_locals and code_length: what stands before the code.
 constexpr uint32_t kHeaderSize = 8;
 
-void write_injection(ClassRewriteState& ci, const InjectionTemplate& injection) {
-    write_bytes(ci, injection.code.data(), injection.len);
-}
-
-// A span of the old code, and what comes after it where it ends at a site.
-void write_span(ClassRewriteState& ci, const uint8_t* code, size_t size, const InjectionTemplate* injection) {
-    constexpr size_t kLongestInjection = sizeof injection->code;
-    const size_t injection_len = injection != nullptr ? injection->len : 0;
-    if (ci.output_len - ci.output_position < size + kLongestInjection) [[unlikely]] {
+// A span of the old code, and the call that comes after it where it ends at a site of one. As much is written as a call
+// can have, and what a shorter one does not need is written over by what follows.
+void write_span(ClassRewriteState& ci, const uint8_t* code, size_t size, const InjectionTemplate& call) {
+    if (ci.output_len - ci.output_position < size + sizeof call.code) [[unlikely]] {
         write_bytes(ci, code, size);
-        return injection != nullptr ? write_injection(ci, *injection) : void();
+        write_bytes(ci, call.code.data(), call.len);
+        return;
     }
     uint8_t* out = ci.output + ci.output_position;
     memcpy(out, code, size);
-    if (injection != nullptr) {
-        memcpy(out + size, injection->code.data(), kLongestInjection);
-    }
-    ci.output_position += size + injection_len;
+    memcpy(out + size, call.code.data(), sizeof call.code);
+    ci.output_position += size + call.len;
 }
 
 void write_code(MethodRewriteState& mi) {
@@ -44,7 +38,7 @@ void write_code(MethodRewriteState& mi) {
     const uint8_t* code = ci.input + mi.start_of_input_bytecodes;
     const auto code_len = static_cast<uint32_t>(mi.code_len);
     if (code_len > 0) {
-        write_injection(ci, mi.entry_injection);
+        write_span(ci, code, 0, mi.injections.entry);
     }
     uint32_t copied = 0;
     for (const Site& site : mi.sites) {
@@ -56,11 +50,11 @@ void write_code(MethodRewriteState& mi) {
         copied = site.pc_next;
         ci.input_position = mi.start_of_input_bytecodes + copied;
         if (site.kind == Site::kReturn) {
-            write_span(ci, span, size, &mi.return_injection);
+            write_span(ci, span, size, mi.injections.at_return);
         } else if (site.kind == Site::kNewArray) {
-            write_span(ci, span, size, &mi.newarray_injection);
+            write_span(ci, span, size, mi.injections.newarray);
         } else {
-            write_span(ci, span, size, nullptr);
+            write_bytes(ci, span, size);
             write_instruction(mi, site, code);
         }
     }
@@ -116,7 +110,7 @@ void method_write_bytecodes(ClassRewriteState& ci, const Method& method) {
                           .max_stack = max_stack,
                           .new_max_stack = max_stack,
                           .object_init_method = is_object_init,
-                          .skip_call_return_sites = is_object_init,
+                          .injections = ci.injections,
                           .map = nullptr,
                           .sites = ci.sites};
     const CurrentMethod current(mi);

@@ -23,7 +23,6 @@
 #ifndef JAVA_CRW_DEMO_METHOD_REWRITE_STATE_H
 #define JAVA_CRW_DEMO_METHOD_REWRITE_STATE_H
 
-#include <array>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -46,12 +45,6 @@ struct Site {
     int8_t widening;  // by how much the instruction grows: 0, 2 or 5 for a branch, -3 to 3 for a switch's padding
 };
 
-// The bytes of one tracker call. The longest pushes two 16-bit values, with 3 bytes each, and invokes.
-struct InjectionTemplate {
-    std::array<uint8_t, 9> code{};
-    uint8_t len = 0;
-};
-
 struct MethodRewriteState {
     ClassRewriteState& ci;
     uint32_t number;        // in the order of the class file, from 0
@@ -64,12 +57,9 @@ struct MethodRewriteState {
     int32_t new_code_len = 0;
     int32_t max_stack;
     int32_t new_max_stack;
-    bool object_init_method;      // java.lang.Object's constructor
-    bool skip_call_return_sites;  // it has no call or return injections
+    bool object_init_method;  // java.lang.Object's constructor, which has no call or return injections
 
-    InjectionTemplate entry_injection{};
-    InjectionTemplate return_injection{};
-    InjectionTemplate newarray_injection{};
+    const Injections& injections;
 
     int32_t* map;              // a pc inside an instruction has an entry, too, and moves with it
     std::vector<Site>& sites;  // in the order of the code

@@ -16,10 +16,10 @@ namespace {
 // at all, or in this method an instruction that something is injected at.
 struct Steps {
     explicit Steps(const MethodRewriteState& mi) : length(kPlainLength) {
-        if (mi.return_injection.len > 0) {
+        if (mi.injections.at_return.len > 0) {
             std::fill(length.begin() + kIreturn, length.begin() + kReturnOpcode + 1, 0);
         }
-        if (mi.newarray_injection.len > 0) {
+        if (mi.injections.newarray.len > 0) {
             length[kNewarray] = length[kAnewarray] = length[kMultianewarray] = 0;
         }
     }
@@ -38,7 +38,7 @@ class Planner {
           code_(mi.ci.input + mi.start_of_input_bytecodes),
           code_len_(static_cast<uint32_t>(mi.code_len)),
           available_(std::min<size_t>(mi.ci.input_len - mi.start_of_input_bytecodes, UINT32_MAX)),
-          shift_(mi.entry_injection.len) {}
+          shift_(mi.injections.entry.len) {}
 
     void plan() {
         const Steps steps(mi_);
@@ -99,7 +99,7 @@ class Planner {
                 mi_.sites.push_back({pc, pc, Site::kReturn, 0});
                 need_stack(mi_, 2);
                 move_up_to(pc + 1);
-                shift_ += mi_.return_injection.len;
+                shift_ += mi_.injections.at_return.len;
                 return pc + 1;
             case kNewarray:
             case kAnewarray:
@@ -109,7 +109,7 @@ class Planner {
                 mi_.sites.push_back({pc_next, pc_next, Site::kNewArray, 0});
                 need_stack(mi_, 1);
                 move_up_to(pc_next);
-                shift_ += mi_.newarray_injection.len;
+                shift_ += mi_.injections.newarray.len;
                 return pc_next;
             }
             case kGotoW:
