@@ -35,6 +35,8 @@ using Sizes = std::array<uint8_t, 256>;
 constexpr Sizes kSizesOfToday = {0, 3, 0, 5, 5, 9, 9, 3, 3, 5, 5, 5, 5, 0, 0, 4, 3, 5, 5, 3, 3};
 constexpr Sizes kSizes = {0, 3, 0, 5, 5, 9, 9, 3, 3, 5, 5, 5, 5, 0, 0, 4, 3, 0, 5};
 
+constexpr size_t kUtf8Head = kSizes[kUtf8];  // tag and length
+
 // The pool may grow by so much. The sum of the class file's count and this is kept in 16 bits, and so a pool that is
 // already half full or more gets a capacity below its count, and fails.
 constexpr uint32_t kGrowth = 0x7FFF;
@@ -64,15 +66,14 @@ class Appender {
     explicit Appender(ClassRewriteState& ci) : ci_(ci), at_(ci.output + ci.output_position) {}
 
     uint16_t utf8(std::string_view text) {
-        constexpr size_t kHead = 3;
         if (text.size() > UINT16_MAX) {
             write(1);
             assertion_failed(ci_, kLengthRule);
         }
-        uint8_t* entry = write(kHead + text.size());
+        uint8_t* entry = write(kUtf8Head + text.size());
         entry[0] = kUtf8;
         put_u2(entry + 1, static_cast<uint32_t>(text.size()));
-        memcpy(entry + kHead, text.data(), text.size());
+        memcpy(entry + kUtf8Head, text.data(), text.size());
         return next_index();
     }
 
@@ -166,19 +167,26 @@ void cpool_index(ClassRewriteState& ci) {
     uint32_t* positions = ci.constant_positions.data();
     for (uint32_t index = 1; index < count_plus_one; ++index) {
         const auto left = static_cast<size_t>(end - at);
-        const size_t head = left > 0 ? sizes[*at] : 0;
-        if (head == 0) [[unlikely]] {
+        positions[index] = static_cast<uint32_t>(at - begin);
+        // The next entry's place waits for this one's size. A text's size is known sooner without the table.
+        if (left >= kUtf8Head && *at == kUtf8) {
+            const size_t size = kUtf8Head + u2_at(at + 1);
+            if (left < size) [[unlikely]] {
+                too_short(ci);
+            }
+            at += size;
+            continue;
+        }
+        const size_t size = left > 0 ? sizes[*at] : 0;
+        if (size == 0) [[unlikely]] {
             ci.input_position = static_cast<size_t>(at - begin);
             unknown_tag(ci, read_u1(ci));
         }
-        const uint8_t tag = *at;
-        const size_t size = head + (tag == kUtf8 && left >= head ? size_t{u2_at(at + 1)} : 0);
         if (left < size) [[unlikely]] {
             too_short(ci);
         }
-        positions[index] = static_cast<uint32_t>(at - begin);
+        index += *at == kLong || *at == kDouble ? 1 : 0;
         at += size;
-        index += tag == kLong || tag == kDouble ? 1 : 0;
     }
     ci.input_position = static_cast<size_t>(at - begin);
     // Once is enough for the few dozen entries that are appended: either the capacity has wrapped to less than the

@@ -14,17 +14,24 @@ namespace {
 
 // How far the plan steps over each opcode, and 0 for one that it has to look at: a branch, a switch, `wide`, no opcode
 // at all, or in this method an instruction that something is injected at.
-struct Steps {
-    explicit Steps(const MethodRewriteState& mi) : length(kPlainLength) {
-        if (mi.injections.at_return.len > 0) {
-            std::fill(length.begin() + kIreturn, length.begin() + kReturnOpcode + 1, 0);
-        }
-        if (mi.injections.newarray.len > 0) {
-            length[kNewarray] = length[kAnewarray] = length[kMultianewarray] = 0;
-        }
+using Steps = std::array<uint8_t, 256>;
+
+constexpr Steps make_steps(bool into_returns, bool into_arrays) {
+    Steps steps = kPlainLength;
+    if (into_returns) {
+        std::fill(steps.begin() + kIreturn, steps.begin() + kReturnOpcode + 1, uint8_t{0});
     }
-    std::array<uint8_t, 256> length;
-};
+    if (into_arrays) {
+        steps[kNewarray] = steps[kAnewarray] = steps[kMultianewarray] = 0;
+    }
+    return steps;
+}
+
+const Steps& steps_of(const Injections& calls) {
+    static constexpr Steps kSteps[2][2] = {{make_steps(false, false), make_steps(false, true)},
+                                           {make_steps(true, false), make_steps(true, true)}};
+    return kSteps[calls.at_return.len > 0 ? 1 : 0][calls.newarray.len > 0 ? 1 : 0];
+}
 
 [[noreturn]] void fail_at(MethodRewriteState& mi, size_t pc, const char* condition) {
     mi.ci.input_position = mi.start_of_input_bytecodes + pc;
@@ -41,12 +48,12 @@ class Planner {
           shift_(mi.injections.entry.len) {}
 
     void plan() {
-        const Steps steps(mi_);
+        const uint8_t* steps = steps_of(mi_.injections).data();
         const size_t readable = std::min<size_t>(code_len_, available_);
         make_room(readable);
         size_t pc = 0;
         while (pc < readable) {
-            const uint8_t step = steps.length[code_[pc]];
+            const uint8_t step = steps[code_[pc]];
             pc = step != 0 ? pc + step : note(static_cast<uint32_t>(pc));
         }
         end_of_instruction(std::max<size_t>(pc, code_len_));
