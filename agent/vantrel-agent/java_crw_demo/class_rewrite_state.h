@@ -40,6 +40,24 @@ struct Injections {
     InjectionTemplate newarray;
 };
 
+// The attributes that the rewriter knows by name.
+enum class AttributeName : uint8_t {
+    kOther,
+    kCode,
+    kLineNumberTable,
+    kLocalVariableTable,
+    kLocalVariableTypeTable,
+    kStackMapTable,
+    kStackMap,
+    kTypeAnnotations,  // visible or not
+};
+
+// What is at an index of the constant pool, if it has been looked up as an attribute's name.
+struct KnownAttributeName {
+    uint32_t index = UINT32_MAX;
+    AttributeName name = AttributeName::kOther;
+};
+
 // Which function was called. The contract of java_crw_demo is kept as it is; what has come to class files since, and
 // what makes every stack map hold, is only for those who call the other one.
 enum class Door : uint8_t { kJavaCrwDemo, kVantrelRewriter };
@@ -69,6 +87,10 @@ struct ClassRewriteState {
     size_t end_of_pool = 0;
     size_t pool_count_position = 0;
     std::unordered_map<std::string, uint16_t> class_constants;  // by name; filled when a stack map asks for it
+
+    // The names of attributes that have been met, each in the place that the lowest bits of its index choose: those of
+    // a class are few, and come again and again.
+    std::array<KnownAttributeName, 16> known_attribute_names;
 
     bool is_module_info = false;
     bool is_system_class = false;

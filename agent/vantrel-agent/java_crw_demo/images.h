@@ -120,11 +120,12 @@ inline uint32_t copy_u4(ClassRewriteState& ci) {
     return value;
 }
 
-// The length of an attribute. The class file must have as many bytes left.
-inline uint32_t copy_attribute_length(ClassRewriteState& ci) {
-    const uint32_t attr_len = copy_u4(ci);
+// An attribute's name_index and attribute_length.
+constexpr size_t kAttributeHeadSize = 6;
+
+// The class file must have as many bytes left as an attribute is long, after its head.
+inline void require_attribute(const ClassRewriteState& ci, uint32_t attr_len) {
     require(ci, ci.input_len - ci.input_position >= attr_len, kInsideImages);
-    return attr_len;
 }
 
 }  // namespace crw

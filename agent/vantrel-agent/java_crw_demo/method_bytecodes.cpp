@@ -4,7 +4,7 @@
 #include <climits>
 
 #include "code_attribute.h"
-#include "images.h"
+#include "cursors.h"
 #include "injection.h"
 #include "method_rewrite_state.h"
 #include "plan.h"
@@ -82,12 +82,17 @@ class CurrentMethod {
 
 }  // namespace
 
-void method_write_bytecodes(ClassRewriteState& ci, const Method& method) {
-    const uint32_t attr_len = copy_attribute_length(ci);
+void method_write_bytecodes(ClassRewriteState& ci, const Method& method, uint32_t attr_len) {
+    require_attribute(ci, attr_len);
     const size_t body = ci.output_position;
-    const uint16_t max_stack = copy_u2(ci);
-    const uint16_t max_locals = copy_u2(ci);
-    const uint32_t code_len = copy_u4(ci);
+    uint16_t max_stack = 0;
+    uint16_t max_locals = 0;
+    uint32_t code_len = 0;
+    in_one_check(ci, kHeaderSize, [&](auto& at) {
+        max_stack = at.copy_u2();
+        max_locals = at.copy_u2();
+        code_len = at.copy_u4();
+    });
 
     const bool is_object_init =
         ci.is_object_class && c_string(method.name) == "<init>" && c_string(method.descriptor) == "()V";
