@@ -19,21 +19,28 @@ constexpr const char* kCodeTooLong = "mi->new_code_len <= 0xFFFF";
 // max_stack, max_locals and code_length: what stands before the code.
 constexpr uint32_t kHeaderSize = 8;
 
-// A span of the old code, and the call that comes after it where it ends at a site of one. As much is written as a call
-// can have, and what a shorter one does not need is written over by what follows.
-void write_span(ClassRewriteState& ci, const uint8_t* code, size_t size, const InjectionTemplate& call) {
-    if (ci.output_len - ci.output_position < size + sizeof call.code) [[unlikely]] {
-        write_bytes(ci, code, size);
+// A span of the old code, and the call that comes after it. Most spans are short, and so that many bytes are written
+// without a look at the length, and as many as the longest call has. What was too much is written over by what follows.
+void write_span(ClassRewriteState& ci, const uint8_t* span, size_t size, const InjectionTemplate& call) {
+    constexpr size_t kUsualSpan = 32;
+    const auto readable = static_cast<size_t>(ci.input + ci.input_len - span);
+    const size_t room = ci.output_len - ci.output_position;
+    if (readable < kUsualSpan || room < size + kUsualSpan + sizeof call.code) [[unlikely]] {
+        write_bytes(ci, span, size);
         write_bytes(ci, call.code.data(), call.len);
         return;
     }
     uint8_t* out = ci.output + ci.output_position;
-    memcpy(out, code, size);
+    memcpy(out, span, kUsualSpan);
+    if (size > kUsualSpan) {
+        memcpy(out + kUsualSpan, span + kUsualSpan, size - kUsualSpan);
+    }
     memcpy(out + size, call.code.data(), sizeof call.code);
     ci.output_position += size + call.len;
 }
 
 void write_code(MethodRewriteState& mi) {
+    static constexpr InjectionTemplate kNoCall;
     ClassRewriteState& ci = mi.ci;
     const uint8_t* code = ci.input + mi.start_of_input_bytecodes;
     const auto code_len = static_cast<uint32_t>(mi.code_len);
@@ -54,11 +61,11 @@ void write_code(MethodRewriteState& mi) {
         } else if (site.kind == Site::kNewArray) {
             write_span(ci, span, size, mi.injections.newarray);
         } else {
-            write_bytes(ci, span, size);
+            write_span(ci, span, size, kNoCall);
             write_instruction(mi, site, code);
         }
     }
-    write_bytes(ci, code + copied, code_len - copied);
+    write_span(ci, code + copied, code_len - copied, kNoCall);
     ci.input_position = mi.start_of_input_bytecodes + code_len;
 }
 

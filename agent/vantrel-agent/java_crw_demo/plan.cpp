@@ -54,20 +54,23 @@ class Planner {
         size_t pc = 0;
         while (pc < readable) {
             const uint8_t step = steps[code_[pc]];
+            move(pc);
             pc = step != 0 ? pc + step : note(static_cast<uint32_t>(pc));
         }
         end_of_instruction(std::max<size_t>(pc, code_len_));
-        move_up_to(code_len_ + 1);
+        move(code_len_);
     }
 
   private:
+    static constexpr size_t kEntriesAtOnce = 8;
+
     // For the map, whose values are all written before they are read, and for the sites.
     void make_room(size_t code_size) {
         constexpr size_t kUsualSites = 256;
         constexpr size_t kUsualCode = 2048;
         ClassRewriteState& ci = mi_.ci;
-        if (ci.map_size <= code_size) {
-            ci.map_size = std::max(2 * code_size + 1, kUsualCode);
+        if (ci.map_size < code_size + kEntriesAtOnce) {
+            ci.map_size = std::max(2 * code_size, kUsualCode) + kEntriesAtOnce;
             ci.map.reset(new int32_t[ci.map_size]);
         }
         mi_.map = ci.map.get();
@@ -86,10 +89,20 @@ class Planner {
         return static_cast<uint32_t>(pc_next);
     }
 
-    // Old pcs below `pc` move by the shift so far.
-    void move_up_to(uint32_t pc) {
-        std::iota(mi_.map + moved_, mi_.map + pc, static_cast<int32_t>(moved_) + shift_);
-        moved_ = pc;
+    // Enters an instruction of the usual lengths into the map. What is too much is written over by what follows.
+    void move(size_t pc) {
+        int32_t* entries = mi_.map + pc;
+        const int32_t new_pc = static_cast<int32_t>(pc) + shift_;
+        for (int32_t i = 0; i < static_cast<int32_t>(kEntriesAtOnce); ++i) {
+            entries[i] = new_pc + i;
+        }
+    }
+
+    // One of any length.
+    void move(size_t pc, size_t pc_next) {
+        for (; pc < pc_next; pc += kEntriesAtOnce) {
+            move(pc);
+        }
     }
 
     // Looks at one instruction, and lists it if it is a site. Returns the pc of the next one.
@@ -105,7 +118,6 @@ class Planner {
                 // The injection goes before the instruction, and the instruction's pc leads to the injection.
                 mi_.sites.push_back({pc, pc, Site::kReturn, 0});
                 need_stack(mi_, 2);
-                move_up_to(pc + 1);
                 shift_ += mi_.injections.at_return.len;
                 return pc + 1;
             case kNewarray:
@@ -115,7 +127,6 @@ class Planner {
                 const uint32_t pc_next = end_of_instruction(pc + length_of_array_creation(opcode));
                 mi_.sites.push_back({pc_next, pc_next, Site::kNewArray, 0});
                 need_stack(mi_, 1);
-                move_up_to(pc_next);
                 shift_ += mi_.injections.newarray.len;
                 return pc_next;
             }
@@ -151,7 +162,9 @@ class Planner {
             fail_at(mi_, operands + 12, kInsideImages);
         }
         const auto count = static_cast<size_t>(int64_t{high} - low + 1);
-        return note(pc, operands + 12 + 4 * count, Site::kTableSwitch);
+        const uint32_t end = note(pc, operands + 12 + 4 * count, Site::kTableSwitch);
+        move(pc, end);
+        return end;
     }
 
     uint32_t note_lookup_switch(uint32_t pc) {
@@ -161,7 +174,9 @@ class Planner {
         if (pair_count < 0) {
             fail_at(mi_, operands + 8, kInsideImages);
         }
-        return note(pc, operands + 8 + 8 * static_cast<size_t>(pair_count), Site::kLookupSwitch);
+        const uint32_t end = note(pc, operands + 8 + 8 * static_cast<size_t>(pair_count), Site::kLookupSwitch);
+        move(pc, end);
+        return end;
     }
 
     [[nodiscard]] uint32_t length_of_wide(uint32_t pc) const {
@@ -183,7 +198,6 @@ class Planner {
     uint32_t code_len_;
     size_t available_;
     int32_t shift_;
-    uint32_t moved_ = 0;  // the map is filled up to here
 };
 
 }  // namespace
