@@ -37,8 +37,9 @@ using Sizes = std::array<uint8_t, 256>;
 constexpr Sizes kSizesOfToday = {0, 3, 0, 5, 5, 9, 9, 3, 3, 5, 5, 5, 5, 0, 0, 4, 3, 5, 5, 3, 3};
 constexpr Sizes kSizes = {0, 3, 0, 5, 5, 9, 9, 3, 3, 5, 5, 5, 5, 0, 0, 4, 3, 0, 5};
 
-constexpr size_t kUtf8Head = kSizes[kUtf8];     // tag and length
-constexpr size_t kLargestHead = kSizes[kLong];  // and the whole of all that are no text
+constexpr size_t kUtf8Head = kSizes[kUtf8];      // tag and length
+constexpr size_t kPairSize = kSizes[kFieldref];  // of two indexes
+constexpr size_t kLargestHead = kSizes[kLong];   // and the whole of all that are no text
 
 // The pool may grow by so much. The sum of the class file's count and this is kept in 16 bits, and so a pool that is
 // already half full or more gets a capacity below its count, and fails.
@@ -193,9 +194,14 @@ void cpool_index(ClassRewriteState& ci) {
         }
         positions[index] = static_cast<uint32_t>(at);
         const uint8_t tag = input[at];
-        // The next entry's place waits for this one's size. A text's is known sooner without the table.
+        // The next entry's place waits for this one's size. A processor that guesses the kind need not wait for the
+        // table; most entries are texts, or refer to two others.
         if (tag == kUtf8) {
             at += kUtf8Head + u2_at(input + at + 1);
+            continue;
+        }
+        if (tag >= kFieldref && tag <= kNameAndType) {
+            at += kPairSize;
             continue;
         }
         if (sizes[tag] == 0) [[unlikely]] {
@@ -330,9 +336,8 @@ AttributeName cpool_new_attribute_name(ClassRewriteState& ci, uint32_t index) {
         {"RuntimeInvisibleTypeAnnotations", AttributeName::kTypeAnnotations},
     };
     const std::string_view text = cpool_text(ci, index);
-    const auto* found = std::find_if(std::begin(kNames), std::end(kNames), [text](const auto& name) {
-        return name.first == text;
-    });
+    const auto* found =
+        std::find_if(std::begin(kNames), std::end(kNames), [text](const auto& name) { return name.first == text; });
     const AttributeName name = found != std::end(kNames) ? found->second : AttributeName::kOther;
     ci.known_attribute_names[index % ci.known_attribute_names.size()] = {index, name};
     return name;
