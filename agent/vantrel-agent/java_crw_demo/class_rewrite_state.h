@@ -6,17 +6,19 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
+#include "room.h"
+#include "site.h"
+
 namespace crw {
 
 struct MethodRewriteState;
-struct Site;
 
 // A method of the tracker class: its name and descriptor as the caller gave them, and the index of its Methodref in
 // the new constant pool. The index is 0 where the tracker is not wanted.
@@ -26,8 +28,8 @@ struct Tracker {
     uint16_t index = 0;
 };
 
-// The bytes of one tracker call. The longest pushes two 16-bit values, with 3 bytes each, and invokes. There is room for
-// a multiple of what a processor moves at once, so that a call can be written as a whole, whatever its length.
+// The bytes of one tracker call. The longest pushes two 16-bit values, with 3 bytes each, and invokes. There is room
+// for a multiple of what a processor moves at once, so that a call can be written as a whole, whatever its length.
 struct InjectionTemplate {
     std::array<uint8_t, 16> code{};
     uint8_t len = 0;  // 0 where nothing is injected
@@ -62,6 +64,9 @@ struct KnownAttributeName {
 // what makes every stack map hold, is only for those who call the other one.
 enum class Door : uint8_t { kJavaCrwDemo, kVantrelRewriter };
 
+// Few methods are longer, in bytes.
+constexpr size_t kUsualCode = 512;
+
 struct ClassRewriteState {
     uint32_t number = 0;
     std::optional<std::string_view> name;  // lies in the class file, or is the caller's
@@ -78,7 +83,8 @@ struct ClassRewriteState {
 
     // The constant pool. For each index of the class file, the position of its tag in the input; 0 for an index that
     // has no entry. The rewriter's own entries have the indexes that follow.
-    std::vector<uint32_t> constant_positions;
+    std::span<uint32_t> constant_positions;
+    Room<uint32_t, 512> constants_room;
     uint16_t cpool_max_elements = 0;
     uint16_t cpool_count_plus_one = 0;
     // Entries that are found to be needed after the pool has been written. They are put where they belong at the end.
@@ -126,9 +132,8 @@ struct ClassRewriteState {
     // What belongs to one method at a time (method_rewrite_state.h): its calls, and the room for its map and its sites.
     // The room is kept from one method to the next, so that a class needs no more of it than its longest method does.
     Injections injections;
-    std::unique_ptr<int32_t[]> map;
-    size_t map_size = 0;
-    std::vector<Site> sites;
+    Room<int32_t, kUsualCode> map_room;
+    Room<Site, kUsualCode> sites_room;
 };
 
 }  // namespace crw

@@ -180,13 +180,14 @@ void cpool_index(ClassRewriteState& ci) {
     }
     ci.cpool_count_plus_one = count_plus_one;
     require(ci, ci.input_len <= UINT32_MAX, kInsideImages);
-    ci.constant_positions.assign(count_plus_one, 0);
+    uint32_t* positions = ci.constants_room.for_elements(count_plus_one + 1U);
+    ci.constant_positions = {positions, count_plus_one};
+    positions[0] = 0;
     const Sizes& sizes = ci.door == Door::kJavaCrwDemo ? kSizes : kSizesOfToday;
     // Up to here an entry is in the class file, but for the text of a Utf8 entry. That one that goes beyond the end is
     // seen when the next entry would begin there.
     const size_t safe = ci.input_len - std::min(ci.input_len, kLargestHead);
     const uint8_t* const input = ci.input;
-    uint32_t* positions = ci.constant_positions.data();
     size_t at = ci.input_position;
     for (uint32_t index = 1; index < count_plus_one; ++index) {
         if (at >= safe) [[unlikely]] {
@@ -208,7 +209,9 @@ void cpool_index(ClassRewriteState& ci) {
             unknown_tag(ci, at);
         }
         at += sizes[tag];
-        index += tag == kLong || tag == kDouble ? 1 : 0;
+        if (tag == kLong || tag == kDouble) {
+            positions[++index] = 0;
+        }
     }
     if (at > ci.input_len) {
         too_short(ci);

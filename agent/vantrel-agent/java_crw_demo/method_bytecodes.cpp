@@ -122,9 +122,7 @@ void method_write_bytecodes(ClassRewriteState& ci, const Method& method, uint32_
                           .max_stack = max_stack,
                           .new_max_stack = max_stack,
                           .object_init_method = is_object_init,
-                          .injections = ci.injections,
-                          .map = nullptr,
-                          .sites = ci.sites};
+                          .injections = ci.injections};
     const CurrentMethod current(mi);
     require(ci, std::min<size_t>(code_len, ci.input_len - ci.input_position) <= kLongestCode, kCodeTooLong);
     prepare_injections(mi);

@@ -24,26 +24,17 @@
 #define JAVA_CRW_DEMO_METHOD_REWRITE_STATE_H
 
 #include <cstdint>
+#include <span>
 #include <string_view>
-#include <vector>
 
 #include "class_rewrite_state.h"
 #include "failure.h"
+#include "site.h"
 
 namespace crw {
 
 // No VM loads longer code (JVM specification, section 4.9.1), and the map's arithmetic is not made for it.
 constexpr uint32_t kLongestCode = 0xFFFF;
-
-// A place in the old code where the new code is something else than a copy: an injection, or an instruction that is
-// written anew.
-struct Site {
-    enum Kind : uint8_t { kReturn, kNewArray, kBranch, kWideBranch, kTableSwitch, kLookupSwitch };
-    uint32_t pc;       // of the instruction, or of the one that an injection goes before
-    uint32_t pc_next;  // where the old instruction ends; for an injection the same as pc
-    Kind kind;
-    int8_t widening;  // by how much the instruction grows: 0, 2 or 5 for a branch, -3 to 3 for a switch's padding
-};
 
 struct MethodRewriteState {
     ClassRewriteState& ci;
@@ -61,8 +52,8 @@ struct MethodRewriteState {
 
     const Injections& injections;
 
-    int32_t* map;              // a pc inside an instruction has an entry, too, and moves with it
-    std::vector<Site>& sites;  // in the order of the code
+    int32_t* map = nullptr;   // a pc inside an instruction has an entry, too, and moves with it
+    std::span<Site> sites{};  // in the order of the code
 
     // The new pc of an old one. Fails for a pc that is not in the code.
     [[nodiscard]] int32_t new_pc(uint32_t pc) const {

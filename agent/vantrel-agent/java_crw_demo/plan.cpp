@@ -59,23 +59,17 @@ class Planner {
         }
         end_of_instruction(std::max<size_t>(pc, code_len_));
         move(code_len_);
+        mi_.sites = {sites_, site_};
     }
 
   private:
     static constexpr size_t kEntriesAtOnce = 8;
 
-    // For the map, whose values are all written before they are read, and for the sites.
+    // For the map, whose values are all written before they are read, and for a site at each byte.
     void make_room(size_t code_size) {
-        constexpr size_t kUsualSites = 256;
-        constexpr size_t kUsualCode = 2048;
-        ClassRewriteState& ci = mi_.ci;
-        if (ci.map_size < code_size + kEntriesAtOnce) {
-            ci.map_size = std::max(2 * code_size, kUsualCode) + kEntriesAtOnce;
-            ci.map.reset(new int32_t[ci.map_size]);
-        }
-        mi_.map = ci.map.get();
-        mi_.sites.clear();
-        mi_.sites.reserve(kUsualSites);
+        mi_.map = mi_.ci.map_room.for_elements(code_size + kEntriesAtOnce);
+        sites_ = mi_.ci.sites_room.for_elements(code_size);
+        site_ = sites_;
     }
 
     // Where an instruction ends. That must be inside the code, and inside the class file.
@@ -116,7 +110,7 @@ class Planner {
             case kAreturn:
             case kReturnOpcode:
                 // The injection goes before the instruction, and the instruction's pc leads to the injection.
-                mi_.sites.push_back({pc, pc, Site::kReturn, 0});
+                add({pc, pc, Site::kReturn, 0});
                 need_stack(mi_, 2);
                 shift_ += mi_.injections.at_return.len;
                 return pc + 1;
@@ -125,7 +119,7 @@ class Planner {
             case kMultianewarray: {
                 // The injection goes before the next instruction, whose pc leads past the injection.
                 const uint32_t pc_next = end_of_instruction(pc + length_of_array_creation(opcode));
-                mi_.sites.push_back({pc_next, pc_next, Site::kNewArray, 0});
+                add({pc_next, pc_next, Site::kNewArray, 0});
                 need_stack(mi_, 1);
                 shift_ += mi_.injections.newarray.len;
                 return pc_next;
@@ -147,9 +141,11 @@ class Planner {
         }
     }
 
+    void add(Site site) { *site_++ = site; }
+
     uint32_t note(uint32_t pc, size_t pc_next, Site::Kind kind) {
         const uint32_t end = end_of_instruction(pc_next);
-        mi_.sites.push_back({pc, end, kind, 0});
+        add({pc, end, kind, 0});
         return end;
     }
 
@@ -198,6 +194,8 @@ class Planner {
     uint32_t code_len_;
     size_t available_;
     int32_t shift_;
+    Site* sites_ = nullptr;
+    Site* site_ = nullptr;  // the next one
 };
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <bit>
 #include <climits>
 #include <numeric>
+#include <span>
 #include <vector>
 
 #include "branches.h"
@@ -192,7 +193,7 @@ class Settler {
 
     void find_candidates() {
         // By site, by how much all before it can grow.
-        const std::vector<Site>& sites = mi_.sites;
+        const std::span<const Site> sites = mi_.sites;
         std::vector<int32_t> growth_before(sites.size() + 1, 0);
         for (size_t i = 0; i < sites.size(); ++i) {
             growth_before[i + 1] = growth_before[i] + largest_growth(sites[i]);
