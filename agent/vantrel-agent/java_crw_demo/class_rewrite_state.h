@@ -20,11 +20,11 @@ namespace crw {
 
 struct MethodRewriteState;
 
-// A method of the tracker class: its name and descriptor as the caller gave them, and the index of its Methodref in
-// the new constant pool. The index is 0 where the tracker is not wanted.
+// A method of the tracker class: its name as the caller gave it, its descriptor, and the index of its Methodref in the
+// new constant pool. The index is 0 where the tracker is not wanted, and has no name.
 struct Tracker {
     const char* name = nullptr;
-    const char* signature = nullptr;
+    std::string_view signature;
     uint16_t index = 0;
 };
 
@@ -59,6 +59,11 @@ struct KnownAttributeName {
     uint32_t index = UINT32_MAX;
     AttributeName name = AttributeName::kOther;
 };
+
+// The descriptors of trackers: of those that take the class's and the method's number, and of those that take an
+// object.
+constexpr std::string_view kNumbers = "(II)V";
+constexpr std::string_view kObject = "(Ljava/lang/Object;)V";
 
 // Which function was called. The contract of java_crw_demo is kept as it is; what has come to class files since, and
 // what makes every stack map hold, is only for those who call the other one.

@@ -1,7 +1,5 @@
 #include "code_attribute.h"
 
-#include <algorithm>
-
 #include "constant_pool.h"
 #include "cursors.h"
 #include "stack_maps.h"
@@ -25,21 +23,14 @@ int32_t new_start(const MethodRewriteState& mi, Cursor& at, uint16_t start_pc) {
     return start_pc == 0 ? 0 : moved;
 }
 
-// Writes the entries of a table, each by `write_entry`, which keeps their size: those quickly for which there is enough
-// left of both images, so that it need not be asked again, and then the others.
+// Writes the entries of a table, each by `write_entry`, which keeps their size.
 template <typename WriteEntry>
 void write_table(MethodRewriteState& mi, size_t count, size_t entry_size, const WriteEntry& write_entry) {
-    ClassRewriteState& ci = mi.ci;
-    const size_t room = left_in_both(ci) / entry_size;
-    Quick quick{ci};
-    for (size_t left = std::min(count, room); left > 0; --left) {
-        write_entry(quick);
-    }
-    quick.stand();
-    Careful careful{ci};
-    for (size_t left = count - std::min(count, room); left > 0; --left) {
-        write_entry(careful);
-    }
+    in_one_check(mi.ci, count * entry_size, [&](auto& at) {
+        for (size_t left = count; left > 0; --left) {
+            write_entry(at);
+        }
+    });
 }
 
 // Returns the number of entries of a table. All of them must be inside the attribute.
@@ -82,11 +73,7 @@ int32_t new_start(const MethodRewriteState& mi, uint16_t start_pc) {
 
 void write_exception_table(MethodRewriteState& mi) {
     constexpr size_t kEntrySize = 8;
-    const uint16_t length = copy_u2(mi.ci);
-    if (length == 0) {
-        return;
-    }
-    write_table(mi, length, kEntrySize, [&mi](auto& at) {
+    write_table(mi, copy_u2(mi.ci), kEntrySize, [&mi](auto& at) {
         for (int pc = 0; pc < 3; ++pc) {  // start_pc, end_pc, handler_pc
             at.write_u2(static_cast<uint32_t>(new_pc(mi, at, at.read_u2())));
         }
