@@ -105,8 +105,7 @@ void register_all(const std::vector<Image>& classes, const std::vector<Adversary
         for (const auto& [name, work] : works) {
             benchmark::RegisterBenchmark(name, on_classes, work, classes);
             benchmark::RegisterBenchmark((std::string(name) + " on threads").c_str(), on_classes, work, classes)
-                ->ThreadRange(1, 2)
-                ->UseRealTime();
+                ->ThreadRange(1, 2);
         }
     }
     for (const auto& [name, work] : works) {
