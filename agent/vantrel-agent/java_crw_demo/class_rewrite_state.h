@@ -69,7 +69,8 @@ constexpr std::string_view kObject = "(Ljava/lang/Object;)V";
 // what makes every stack map hold, is only for those who call the other one.
 enum class Door : uint8_t { kJavaCrwDemo, kVantrelRewriter };
 
-// Few methods are longer, in bytes.
+// Few pools have more entries, and few methods are longer, in bytes.
+constexpr size_t kUsualConstants = 512;
 constexpr size_t kUsualCode = 512;
 
 struct ClassRewriteState {
@@ -89,7 +90,7 @@ struct ClassRewriteState {
     // The constant pool. For each index of the class file, the position of its tag in the input; 0 for an index that
     // has no entry. The rewriter's own entries have the indexes that follow.
     std::span<uint32_t> constant_positions;
-    Room<uint32_t, 512> constants_room;
+    Room<uint32_t, kUsualConstants> constants_room;
     uint16_t cpool_max_elements = 0;
     uint16_t cpool_count_plus_one = 0;
     // Entries that are found to be needed after the pool has been written. They are put where they belong at the end.
@@ -103,17 +104,18 @@ struct ClassRewriteState {
     // a class are few, and come again and again.
     std::array<KnownAttributeName, 16> known_attribute_names;
 
+    Door door = Door::kJavaCrwDemo;
     bool is_module_info = false;
     bool is_system_class = false;
     bool is_object_class = false;
     bool is_thread_class = false;
     const char* tracker_class_name = nullptr;
     uint16_t tracker_class_index = 0;
+    uint16_t class_number_index = 0;  // of an Integer with the class number; 0 where that fits in 15 bits
     Tracker object_init_tracker;
     Tracker newarray_tracker;
     Tracker call_tracker;
     Tracker return_tracker;
-    uint16_t class_number_index = 0;  // of an Integer with the class number; 0 where that fits in 15 bits
 
     // The constants of java.lang.Object's new members.
     uint32_t track_name_index = 0;
@@ -124,7 +126,6 @@ struct ClassRewriteState {
     uint32_t get_track_id_method_name_and_type_index = 0;
     uint32_t get_track_id_method_ref_index = 0;
 
-    Door door = Door::kJavaCrwDemo;
     // Told the names and descriptors of the class's methods. May be null.
     void (*mnum_callback)(void* context, unsigned class_number, const char** names, const char** descriptors,
                           int method_count) = nullptr;

@@ -84,7 +84,7 @@ class Planner {
     }
 
     // Enters an instruction of the usual lengths into the map. What is too much is written over by what follows.
-    void move(size_t pc) {
+    void move(size_t pc) const {
         int32_t* entries = mi_.map + pc;
         const int32_t new_pc = static_cast<int32_t>(pc) + shift_;
         for (int32_t i = 0; i < static_cast<int32_t>(kEntriesAtOnce); ++i) {
@@ -93,7 +93,7 @@ class Planner {
     }
 
     // One of any length.
-    void move(size_t pc, size_t pc_next) {
+    void move(size_t pc, size_t pc_next) const {
         for (; pc < pc_next; pc += kEntriesAtOnce) {
             move(pc);
         }
