@@ -33,25 +33,38 @@ struct Walker {
         }
     }
 
-    void attributes() {
+    // `look_into` is given the place of each attribute.
+    template <typename LookInto>
+    void attributes(const LookInto& look_into) {
         std::uint32_t left = u2_at(at);
         for (at += 2; left > 0; --left, ++steps) {
-            const std::uint8_t* end = at + 6 + u4_at(at + 2);
-            if (u2_at(at) == code_name) {
-                instructions(at + 14, u4_at(at + 10));
-                at += 14 + u4_at(at + 10);
-                at += 2 + 8 * u2_at(at);
-                attributes();
-            }
-            at = end;
+            const std::uint8_t* attribute = at;
+            look_into(attribute);
+            at = attribute + 6 + u4_at(attribute + 2);
         }
+    }
+
+    void plain_attributes() {
+        attributes([](const std::uint8_t*) {});
+    }
+
+    void member_attributes() {
+        attributes([this](const std::uint8_t* attribute) {
+            if (u2_at(attribute) == code_name) {
+                const std::uint32_t code_length = u4_at(attribute + 10);
+                instructions(attribute + 14, code_length);
+                at = attribute + 14 + code_length;
+                at += 2 + 8 * u2_at(at);  // the exception table
+                plain_attributes();
+            }
+        });
     }
 
     void members() {
         std::uint32_t left = u2_at(at);
         for (at += 2; left > 0; --left, ++steps) {
             at += 6;
-            attributes();
+            member_attributes();
         }
     }
 
@@ -89,6 +102,6 @@ std::size_t walk(const Image& image) {
     walker.at += 2 + 2 * u2_at(walker.at);  // interfaces
     walker.members();                       // fields
     walker.members();                       // methods
-    walker.attributes();
+    walker.plain_attributes();
     return walker.steps;
 }
