@@ -15,6 +15,7 @@
 #include "classes.h"
 #include "java_crw_demo.h"
 #include "vantrel_rewriter.h"
+#include "walk.h"
 
 namespace {
 
@@ -65,6 +66,10 @@ void add_up(const Image& image) {
     benchmark::DoNotOptimize(sum);
 }
 
+void walk_through(const Image& image) {
+    benchmark::DoNotOptimize(walk(image));
+}
+
 using Work = void (*)(const Image&);
 
 void on_classes(benchmark::State& state, Work work, const std::vector<Image>& classes) {
@@ -102,11 +107,11 @@ void register_all(const std::vector<Image>& classes, const std::vector<Adversary
     if (!classes.empty()) {
         benchmark::RegisterBenchmark("copy", on_classes, copy, classes);
         benchmark::RegisterBenchmark("look at every byte", on_classes, add_up, classes);
+        benchmark::RegisterBenchmark("walk", on_classes, walk_through, classes);
         for (const auto& [name, work] : works) {
             benchmark::RegisterBenchmark(name, on_classes, work, classes);
             benchmark::RegisterBenchmark((std::string(name) + " on threads").c_str(), on_classes, work, classes)
-                ->ThreadRange(1, 2)
-                ->UseRealTime();
+                ->ThreadRange(1, 2);
         }
     }
     for (const auto& [name, work] : works) {

@@ -106,8 +106,6 @@ void tell_method_names(void* options, unsigned class_number, const char** names,
 }
 
 void prepare(ClassRewriteState& ci, const unsigned char* class_file, size_t length, VantrelRewriterOptions& options) {
-    constexpr const char* kNumbers = "(II)V";
-    constexpr const char* kObject = "(Ljava/lang/Object;)V";
     ci.door = Door::kVantrelRewriter;
     ci.number = options.class_number;
     ci.input = class_file;
