@@ -127,10 +127,8 @@ TEST_P(AtLoad, JavacCompiles) {
     Arguments arguments{
         "-m",     "jdk.compiler/com.sun.tools.javac.Main", "-version", "-Xlint:all", "--release", "8", "-g", "-d",
         "classes"};
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(kSources / "companion/src")) {
-        if (entry.path().extension() == ".java") {
-            arguments.push_back(entry.path());
-        }
+    for (const fs::directory_entry& entry : fs::directory_iterator(kSources / "tests/rewriter_real/java/programs")) {
+        arguments.push_back(entry.path());
     }
     expect_same_work(GetParam(), arguments, 500, {.is_modern = true});
 }
