@@ -238,7 +238,7 @@ std::size_t TypedCode::new_label() {
     return pending.size() - 1;
 }
 
-void TypedCode::reach(Label& label) {
+void TypedCode::reach(Label& label) const {
     label.state = label.state ? *merged(*label.state, state) : state;
 }
 
@@ -251,9 +251,9 @@ void TypedCode::branch(unsigned opcode, std::size_t pops, std::size_t label) {
 }
 
 void TypedCode::switch_to(bool wants_table, const std::vector<std::size_t>& labels,
-                          const std::vector<std::size_t>& to) {
+                          const std::vector<std::size_t>& back_to) {
     const std::size_t pc = bytes.size();
-    const std::size_t count = labels.size() + to.size() - 1;  // the first one is where it goes otherwise
+    const std::size_t count = labels.size() + back_to.size() - 1;  // the first one is where it goes otherwise
     std::vector<std::int64_t> offsets(count);
     std::vector<Pair> pairs;
     for (std::size_t i = 0; i < count; ++i) {
@@ -270,7 +270,7 @@ void TypedCode::switch_to(bool wants_table, const std::vector<std::size_t>& labe
         pending[label].entries.emplace_back(pc, position(n++));
         reach(pending[label]);
     }
-    for (const std::size_t target : to) {
+    for (const std::size_t target : back_to) {
         overwrite(bytes, position(n++), u4(static_cast<std::int64_t>(target) - static_cast<std::int64_t>(pc)));
     }
     growth += 3;

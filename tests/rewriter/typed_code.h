@@ -86,7 +86,7 @@ class TypedCode {
     TypedCode(State arguments, std::size_t max_locals);
 
     // One instruction: takes so many values off the stack, and pushes others.
-    void emit(const class_builder::Bytes& bytes, std::size_t pops = 0, const std::vector<Type>& pushes = {});
+    void emit(const class_builder::Bytes& instruction, std::size_t pops = 0, const std::vector<Type>& pushes = {});
     // Stores what is on top of the stack, by the instruction that its type has.
     void store(std::size_t index);
     void load(std::size_t index);
@@ -98,11 +98,11 @@ class TypedCode {
     [[nodiscard]] bool can_reach(const Label& label, std::size_t pops) const;
     std::size_t new_label();
     void branch(unsigned opcode, std::size_t pops, std::size_t label);  // two bytes of offset
-    void switch_to(bool wants_table, const std::vector<std::size_t>& labels, const std::vector<std::size_t>& targets);
+    void switch_to(bool wants_table, const std::vector<std::size_t>& labels, const std::vector<std::size_t>& back_to);
     // Ends what runs straight on: a goto, a return, an athrow.
     void stop() { is_reachable = false; }
     // Puts a label here. What runs straight on into it must be able to reach it.
-    void place(std::size_t label);
+    void place(std::size_t number);
     // Puts a frame here, of what holds.
     void place_frame();
     // A branch to an earlier frame; false where what holds does not allow it, or it is too far.
@@ -132,7 +132,7 @@ class TypedCode {
     std::size_t growth = 0;  // at most what injections and widening add
 
   private:
-    void reach(Label& label);
+    void reach(Label& label) const;
     void separate_frames();
     void note_locals();
 

@@ -14,7 +14,7 @@
 namespace verifiable_classes {
 
 // The class's superclass is java.lang.Object. It is not made to be run.
-class_builder::ClassFile from_choices(std::span<const std::uint8_t> choices, const std::string& name);
+class_builder::ClassFile from_choices(std::span<const std::uint8_t> choice_bytes, const std::string& name);
 
 // Some hundred choices.
 std::vector<std::uint8_t> random_choices(std::uint64_t seed);

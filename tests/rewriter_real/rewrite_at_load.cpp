@@ -121,13 +121,13 @@ int live_calls() {
 // A module reads the tracker's only when it is told to, and the class path is no module.
 void let_all_modules_read(JNIEnv* env, jclass tracker) {
     jclass type = env->FindClass("java/lang/Class");
-    jobject module = env->CallObjectMethod(tracker, env->GetMethodID(type, "getModule", "()Ljava/lang/Module;"));
+    jobject its_module = env->CallObjectMethod(tracker, env->GetMethodID(type, "getModule", "()Ljava/lang/Module;"));
     jint count = 0;
     jobject* modules = nullptr;
     check(state->jvmti->GetAllModules(&count, &modules), "GetAllModules");
-    for (jobject each : std::span(modules, static_cast<size_t>(count))) {
-        check(state->jvmti->AddModuleReads(each, module), "AddModuleReads");
-        env->DeleteLocalRef(each);
+    for (jobject reader : std::span(modules, static_cast<size_t>(count))) {
+        check(state->jvmti->AddModuleReads(reader, its_module), "AddModuleReads");
+        env->DeleteLocalRef(reader);
     }
     state->jvmti->Deallocate(reinterpret_cast<unsigned char*>(modules));
 }
