@@ -170,8 +170,9 @@ struct Maker {
     void step() {
         switch (choices.below(20)) {
             case 0:
-            case 1:
                 return fill();
+            case 1:
+                return instructions.calculate();
             case 2:
             case 3:
             case 4:
@@ -292,7 +293,7 @@ ClassFile from_choices(std::span<const std::uint8_t> choice_bytes, const std::st
 
 std::vector<std::uint8_t> random_choices(std::uint64_t seed) {
     std::mt19937_64 engine(seed);
-    std::vector<std::uint8_t> choices(200 + engine() % 1500);
+    std::vector<std::uint8_t> choices(300 + engine() % 2500);
     std::ranges::generate(choices, [&] { return static_cast<std::uint8_t>(engine()); });
     return choices;
 }
