@@ -345,7 +345,7 @@ void RandomInstructions::access_array() {
     const std::size_t n = choices.below(arrays.size());
     const std::string array = arrays.at(n);
     const char letter = n < 5 ? "IJFDA"[n] : 'I';
-    if (choices.one_in(8)) {
+    if (choices.one_in(3)) {
         code.emit({op::aconst_null}, 0, {{Type::null}});
     } else {
         push('A');
