@@ -52,7 +52,9 @@ Vm start_vm() {
     if (create == nullptr) {
         stop("there is no Java VM; JAVA_HOME says where one is");
     }
-    std::array options = {JavaVMOption{const_cast<char*>("-Xmx256m"), nullptr},
+    // What ends or interrupts the process is libFuzzer's to handle (-Xrs).
+    std::array options = {JavaVMOption{const_cast<char*>("-Xrs"), nullptr},
+                          JavaVMOption{const_cast<char*>("-Xmx256m"), nullptr},
                           JavaVMOption{const_cast<char*>("-XX:+UseSerialGC"), nullptr}};
     JavaVMInitArgs arguments{};
     arguments.version = JNI_VERSION_1_8;
