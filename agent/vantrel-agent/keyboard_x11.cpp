@@ -289,7 +289,9 @@ void bindMacHotKey(void (*callback)()) {
     const bool settled = started && binding->settled.try_acquire_for(kPatience);
 
     announceHotKey();
-    fprintf(stderr, "vantrel-agent: on this platform the hot key is %s.\n", binding->hot_key.name.c_str());
+    if (has_display) {
+        fprintf(stderr, "vantrel-agent: on this platform the hot key is %s.\n", binding->hot_key.name.c_str());
+    }
     if (!settled) {
         binding->said = !has_display ? "DISPLAY is not set"
                         : !started   ? kNoThread
