@@ -121,12 +121,12 @@ int live_calls() {
 // A module reads the tracker's only when it is told to, and the class path is no module.
 void let_all_modules_read(JNIEnv* env, jclass tracker) {
     jclass type = env->FindClass("java/lang/Class");
-    jobject its_module = env->CallObjectMethod(tracker, env->GetMethodID(type, "getModule", "()Ljava/lang/Module;"));
+    jobject unnamed = env->CallObjectMethod(tracker, env->GetMethodID(type, "getModule", "()Ljava/lang/Module;"));
     jint count = 0;
     jobject* modules = nullptr;
     check(state->jvmti->GetAllModules(&count, &modules), "GetAllModules");
     for (jobject reader : std::span(modules, static_cast<size_t>(count))) {
-        check(state->jvmti->AddModuleReads(reader, its_module), "AddModuleReads");
+        check(state->jvmti->AddModuleReads(reader, unnamed), "AddModuleReads");
         env->DeleteLocalRef(reader);
     }
     state->jvmti->Deallocate(reinterpret_cast<unsigned char*>(modules));
