@@ -103,6 +103,27 @@ void set_methods(TrackerCalls& tracker) {
     }
 }
 
+void refuse_options_of_trackers(const CLI::App& app) {
+    for (const char* option : {"--tracker", "--call", "--return", "--object-init", "--new-array", "--system-class",
+                               "--tracker-path", "--map"}) {
+        if (app.count(option) > 0) {
+            throw command::Failure{std::string(option) +
+                                   " goes with a tracker of yours; --count and --unused bring their own"};
+        }
+    }
+}
+
+// The methods of our own tracker (count/Calls.java).
+void set_counting_calls(TrackerCalls& tracker, const CountedThings& counted) {
+    if (counted.calls) {
+        tracker.call = "entered";
+        tracker.return_ = "left";
+        tracker.numbered_new_array = "made";
+    } else {
+        tracker.call = "ran";
+    }
+}
+
 unsigned usual_workers() {
     return std::clamp(std::thread::hardware_concurrency(), 1U, kMostWorkers);
 }
@@ -118,9 +139,24 @@ std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
     app.footer(kFooter);
     app.set_help_flag("-h,--help", "Print this text and exit");
     app.set_version_flag("--version", "vantrel-rewrite " VANTREL_VERSION);
-    app.add_option("--tracker", tracker_class, "The tracker class, with dots or slashes")
-        ->required()
-        ->type_name("CLASS");
+    CLI::Option* tracker_option =
+        app.add_option("--tracker", tracker_class,
+                       "The tracker class, with dots or slashes; neither with --count nor with --unused")
+            ->required()
+            ->type_name("CLASS");
+    const auto add_counting_flag = [&](const char* name, bool& is_wanted, const char* description) {
+        app.add_flag_callback(
+            name,
+            [&is_wanted, tracker_option] {
+                is_wanted = true;
+                tracker_option->required(false);
+            },
+            description);
+    };
+    add_counting_flag("--count", arguments.counted.calls,
+                      "In the place of --tracker: the result counts calls, returns and arrays by method");
+    add_counting_flag("--unused", arguments.counted.unused,
+                      "In the place of --tracker: the result lists the methods that never ran");
     app.add_option("--call", tracker.call, "Its method to call at the entry of each method")->type_name("NAME");
     app.add_option("--return", tracker.return_, "Its method to call before each return")->type_name("NAME");
     app.add_option("--object-init", tracker.object_init, "Its method to call in java.lang.Object's constructor")
@@ -150,8 +186,13 @@ std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
     if (auto text = command::parse_command_line(app, argc, argv)) {
         return *std::move(text);
     }
-    set_tracker_class(tracker, tracker_class);
-    set_methods(tracker);
+    if (arguments.counted.any()) {
+        refuse_options_of_trackers(app);
+        set_counting_calls(tracker, arguments.counted);
+    } else {
+        set_tracker_class(tracker, tracker_class);
+        set_methods(tracker);
+    }
     for (std::string& pattern : arguments.keep) {
         pattern = encoded("--keep", with_slashes(pattern));
     }

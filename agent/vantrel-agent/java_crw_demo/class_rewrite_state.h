@@ -63,6 +63,7 @@ struct ClassRewriteState {
     uint16_t tracker_class_index = 0;
     Tracker object_init_tracker;
     Tracker newarray_tracker;
+    bool newarray_takes_numbers = false;  // as the call tracker does, and not the array
     Tracker call_tracker;
     Tracker return_tracker;
     uint16_t class_number_index = 0;  // of an Integer with the class number; 0 where that fits in 15 bits

@@ -76,14 +76,15 @@ void prepare_injections(MethodRewriteState& mi) {
     if (mi.object_init_method) {
         mi.entry_injection = reference_template(ci.object_init_tracker, kAload0);
     }
+    InjectionTemplate pushes;
+    emit_push_class_number(pushes, ci);
+    emit_push(pushes, mi.number);
     if (!mi.skip_call_return_sites) {
-        InjectionTemplate pushes;
-        emit_push_class_number(pushes, ci);
-        emit_push(pushes, mi.number);
         mi.entry_injection = numbers_template(pushes, ci.call_tracker);
         mi.return_injection = numbers_template(pushes, ci.return_tracker);
     }
-    mi.newarray_injection = reference_template(ci.newarray_tracker, kDup);
+    mi.newarray_injection = ci.newarray_takes_numbers ? numbers_template(pushes, ci.newarray_tracker)
+                                                      : reference_template(ci.newarray_tracker, kDup);
     if (mi.entry_injection.len > 0) {
         need_stack(mi, mi.object_init_method ? 1 : 2);
     }
