@@ -5,6 +5,9 @@ final class Row implements Comparable<Row> {
     /** Class, name, descriptor and the jar or folder, with tabs between them. */
     final String name;
     final long[] counts = new long[Calls.COUNTS];
+    /** Whether the table has it, by what the jar was rewritten for. */
+    boolean isListedIfCalled;
+    boolean isListedIfUnused;
 
     Row(String name) {
         this.name = name;
@@ -12,6 +15,10 @@ final class Row implements Comparable<Row> {
 
     boolean ran() {
         return counts[Calls.CALLS] > 0;
+    }
+
+    boolean isListed() {
+        return ran() ? isListedIfCalled : isListedIfUnused;
     }
 
     @Override
@@ -24,6 +31,6 @@ final class Row implements Comparable<Row> {
     public String toString() {
         long calls = counts[Calls.CALLS];
         long returns = counts[Calls.RETURNS];
-        return calls + "\t" + returns + '\t' + (calls - returns) + '\t' + counts[Calls.ARRAYS] + '\t' + name;
+        return calls + "\t" + returns + '\t' + Math.max(calls - returns, 0) + '\t' + counts[Calls.ARRAYS] + '\t' + name;
     }
 }

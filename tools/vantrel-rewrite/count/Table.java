@@ -15,8 +15,6 @@ import java.util.Map;
  */
 final class Table {
     private final Map<String, Row> rows = new HashMap<>();
-    private boolean listsCalled;
-    private boolean listsUnused;
 
     void add(Map<String, Object> record) {
         byte[] methods;
@@ -24,8 +22,6 @@ final class Table {
             methods = (byte[]) record.get(Counters.METHODS);
         }
         MethodNames names = new MethodNames(methods);
-        listsCalled |= names.listsCalled;
-        listsUnused |= names.listsUnused;
         long[][] totals = Totals.of(record);
         while (names.next()) {
             String name = names.name + '\t' + names.place;
@@ -34,6 +30,8 @@ final class Table {
                 row = new Row(name);
                 rows.put(name, row);
             }
+            row.isListedIfCalled |= names.listsCalled;
+            row.isListedIfUnused |= names.listsUnused;
             Totals.addMethod(totals, names.type, names.method, row.counts);
         }
     }
@@ -50,7 +48,7 @@ final class Table {
     void write(OutputStream output) throws IOException {
         List<Row> listed = new ArrayList<>();
         for (Row row : rows.values()) {
-            if (row.ran() ? listsCalled : listsUnused) {
+            if (row.isListed()) {
                 listed.add(row);
             }
         }

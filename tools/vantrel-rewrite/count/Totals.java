@@ -52,7 +52,8 @@ final class Totals {
         long[][] grown = type < totals.length ? totals : Arrays.copyOf(totals, 2 * type + 1);
         long[] row = grown[type] == null ? new long[0] : grown[type];
         row = Arrays.copyOf(row, Math.max(row.length, from + counts.length));
-        for (int at = 0; at < counts.length; ++at) {
+        // A thread may be counting meanwhile: calls come last, so that there are not less of them than of returns.
+        for (int at = counts.length - 1; at >= 0; --at) {
             row[from + at] += counts[at];
         }
         grown[type] = row;
@@ -61,7 +62,7 @@ final class Totals {
 
     private static long[] values(AtomicLongArray block) {
         long[] values = new long[block.length()];
-        for (int at = 0; at < values.length; ++at) {
+        for (int at = values.length - 1; at >= 0; --at) {
             values[at] = block.get(at);
         }
         return values;
