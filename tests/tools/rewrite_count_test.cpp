@@ -173,7 +173,7 @@ TEST_P(Count, GoesWhereClassesAreLoadedFrom) {
     for (const std::string input : {"app", "app.jar"}) {
         const Finished done = run_in(folder, {kRewrite, "--count", "-o", "out", input});
         EXPECT_EQ(done.out, "4 classes: 3 rewritten, 0 too new, 0 failed, 1 kept\n");
-        EXPECT_THAT(done.err, HasSubstr("templates/Busy.class: not rewritten: no class loader finds it there"));
+        EXPECT_THAT(done.err, HasSubstr("templates/Busy.class: not rewritten: its file is not named like the class"));
         if (input == "app.jar") {
             fs::rename(folder / "out", folder / "out.jar");
             fs::create_directory(folder / "out");
@@ -185,6 +185,9 @@ TEST_P(Count, GoesWhereClassesAreLoadedFrom) {
         Table all = table();
         EXPECT_EQ(all[busy("step\t()V", input + "/BOOT-INF/lib/busy.jar")], "7\t7\t0\t0");
         EXPECT_EQ(all[other("main\t([Ljava/lang/String;)V", input + "/BOOT-INF/classes")], "1\t1\t0\t0");
+        // A class loader of the program's may define the classes, and leave all others to its parent.
+        fs::remove_all(folder / "out/BOOT-INF/classes/com");
+        EXPECT_EQ(java({"-cp", "out/BOOT-INF/classes:out/BOOT-INF/lib/busy.jar:out", "other.Other", "exit"}).status, 3);
         fs::remove_all(folder / "out");
     }
 }

@@ -108,7 +108,7 @@ RewrittenClass rewrite_image(const Arguments& arguments, const ClassSource& sour
     if (source.counting != nullptr) {
         place = place_of(source.file, file.name);
         if (!place) {
-            return not_rewritten(Outcome::Kept, "no class loader finds it there: its name is " + file.name);
+            return not_rewritten(Outcome::Kept, "its file is not named like the class, which is " + file.name);
         }
         tracker = source.counting->tracker_of(*place);
     }

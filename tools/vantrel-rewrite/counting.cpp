@@ -119,15 +119,22 @@ std::vector<AddedFile> Counting::files() const {
     std::vector<AddedFile> files;
     for (const auto& [place, lines] : methods_) {
         const std::string package = package_of(place);
+        const auto add = [&, &place = place](std::string name, const Bytes& contents) {
+            name.insert(0, package);
+            if (!place.empty()) {
+                files.push_back({place + name, contents});
+            }
+            files.push_back({std::move(name), contents});
+        };
         for (AddedFile& file : compiled_classes()) {
             replace_package(file.contents, package);
-            files.push_back({place + package + file.name.substr(kCompiledPackage.size()), std::move(file.contents)});
+            add(file.name.substr(kCompiledPackage.size()), file.contents);
         }
         const std::string where = place.empty() ? label_ : label_ + '/' + place.substr(0, place.size() - 1);
         const std::string text = std::string(arguments_.counted.calls ? "called" : "") +
                                  (arguments_.counted.unused ? " unused\n" : "\n") + escaped(where) + '\n' + lines;
         const BytesView bytes = bytes_of(text);
-        files.push_back({place + package + "/methods", {bytes.begin(), bytes.end()}});
+        add("/methods", {bytes.begin(), bytes.end()});
     }
     return files;
 }
