@@ -104,13 +104,13 @@ RewrittenClass module_info(const ClassSource& source, const std::string& place, 
 RewrittenClass rewrite_image(const Arguments& arguments, const ClassSource& source, unsigned number, BytesView image) {
     const ClassFile file = read_class_file(image);
     std::optional<std::string> place = "";
-    TrackerCalls tracker = arguments.tracker;
+    std::optional<TrackerCalls> own_tracker;
     if (source.counting != nullptr) {
         place = place_of(source.file, file.name);
         if (!place) {
             return not_rewritten(Outcome::Kept, "its file is not named like the class, which is " + file.name);
         }
-        tracker = source.counting->tracker_of(*place);
+        own_tracker = source.counting->tracker_of(*place);
     }
     if (auto reason = reason_to_keep(arguments, file.name)) {
         return not_rewritten(Outcome::Kept, *std::move(reason));
@@ -121,7 +121,8 @@ RewrittenClass rewrite_image(const Arguments& arguments, const ClassSource& sour
     }
     MapLines map{file, source.counting != nullptr, {}};
     RewriterResult rewritten;
-    const VantrelRewriterOptions options = options_for(tracker, number, file.name, map);
+    const VantrelRewriterOptions options =
+        options_for(own_tracker ? *own_tracker : arguments.tracker, number, file.name, map);
     switch (vantrel_rewriter_rewrite(image.data(), image.size(), &options, &rewritten.told)) {
         case VANTREL_REWRITER_REWRITTEN:
             break;

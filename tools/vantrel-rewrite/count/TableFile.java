@@ -11,6 +11,8 @@ final class TableFile {
     private static final String PROPERTY = "vantrel.count.file";
     private static final String USUAL = "vantrel-count-%p.txt";
 
+    private static final String PROCESS = processNumber();
+
     private TableFile() {
     }
 
@@ -20,7 +22,7 @@ final class TableFile {
      */
     static File fromProperties() {
         String name = System.getProperty(PROPERTY, USUAL);
-        return new File(name.replace("%p", processNumber())).getAbsoluteFile();
+        return new File(name.replace("%p", PROCESS)).getAbsoluteFile();
     }
 
     private static String processNumber() {
@@ -39,7 +41,7 @@ final class TableFile {
      */
     static boolean write(File file, Table table) {
         boolean isFile = file.isFile() || !file.exists(); // not a pipe or a device
-        File part = isFile ? new File(file + ".part") : file;
+        File part = isFile ? new File(file + "." + PROCESS + ".part") : file;
         try {
             try (OutputStream output = new BufferedOutputStream(new FileOutputStream(part))) {
                 table.write(output);
