@@ -110,6 +110,17 @@ TEST_P(Count, MissesNoneOnAnyThread) {
     EXPECT_EQ(table()[busy("step\t()V")], steps + '\t' + steps + "\t0\t0");
 }
 
+// The thread that counts most is found in another way than others, also when its counters have grown.
+TEST_P(Count, MissesNoneWhileItGrows) {
+    ASSERT_NO_FATAL_FAILURE(make_program("growing", "Early"));
+    ASSERT_NO_FATAL_FAILURE(
+        rewrite({"--count", "-o", "out", "growing"}));  // whose classes are in the order of their names
+    EXPECT_EQ(java({"-cp", "out", "growing.Early"}).status, 0);
+    Table all = table();
+    EXPECT_EQ(all["growing/Early\tfirst\t()V\tgrowing"], "20000\t20000\t0\t0");
+    EXPECT_EQ(all["growing/Early\tlast\t()V\tgrowing"], "1\t1\t0\t0");
+}
+
 // The first table says that main has not returned. The daemon counts on meanwhile and at the end.
 TEST_P(Count, IsToldWhenAFileAsks) {
     ASSERT_NO_FATAL_FAILURE(make_busy());

@@ -8,8 +8,8 @@ package com.vantrel.count.x0000000000000000;
  * from the program's class loaders and security managers. So nothing here calls back into the program, and whatever
  * might is in {@link Counters}, which a thread reaches once for each class or so.
  *
- * <p>A thread counts in a table of its own, which costs no more than finding it. Virtual threads may be a million, and
- * share one.
+ * <p>A thread counts in a table of its own. What costs most is to find it; so the thread that counts most is known, and
+ * finds it at once. Virtual threads may be a million, and share one table.
  */
 public final class Calls {
     /** What is counted of a method: a number for each of these in a row. */
@@ -19,12 +19,15 @@ public final class Calls {
     static final int COUNTS = 3;
 
     /**
-     * By class, a row with the counts of its methods. Nothing but the JDK's classes, so that a thread that lives on
-     * does not hold the class loader of this one.
+     * A thread's table. In row 0 is how often it was looked for, then follows a row for each class with the counts of
+     * its methods. Nothing but the JDK's classes, so that a thread that lives on does not hold the class loader of this
+     * one.
      */
     static final ThreadLocal<long[][]> OWN = new ThreadLocal<>();
+    static final int FIRST_CLASS = 1;
     /** By class and method, whether it has run. It is replaced as it grows; what is seen late is marked once more. */
     static boolean[][] ran = new boolean[0][];
+    private static Recent recent = new Recent(null, null);
     /** The class of virtual threads; null where the VM has none, and then it costs nothing to ask. */
     private static final Class<?> VIRTUAL = classOfVirtualThreads();
 
@@ -63,12 +66,46 @@ public final class Calls {
             Counters.countShared(type, at);
             return;
         }
-        long[][] own = OWN.get();
+        Recent known = recent;
+        long[][] own = known.thread == Thread.currentThread() ? known.table : find();
+        int index = FIRST_CLASS + type;
         long[] row;
-        if (own == null || type >= own.length || (row = own[type]) == null || at >= row.length) {
-            row = Counters.row(type, at);
+        if (own == null || index >= own.length || (row = own[index]) == null || at >= row.length) {
+            row = Counters.row(index, at);
         }
         ++row[at];
+    }
+
+    /**
+     * The current thread's table, and null if it has none. Whoever looks for it often becomes the one that is known.
+     * Threads write nothing that others read but then: it would cost them more than to look.
+     */
+    private static long[][] find() {
+        final int often = 4096;
+        long[][] own = OWN.get();
+        if (own != null && ++own[0][0] % often == 0) {
+            recent = new Recent(Thread.currentThread(), own);
+        }
+        return own;
+    }
+
+    /**
+     * Gives the current thread a new table. From now on it must not find the old one, whose rows are no longer grown.
+     */
+    static void setOwn(long[][] table) {
+        OWN.set(table);
+        recent = new Recent(Thread.currentThread(), table);
+    }
+
+    /** A thread and its table, which do not change, so that others see either both or neither. */
+    private static final class Recent {
+        private final Thread thread;
+        private final long[][] table;
+
+        Recent(Thread thread, long[][] table) {
+            this.thread = thread;
+            this.table = table;
+        }
     }
 
     private static Class<?> classOfVirtualThreads() {

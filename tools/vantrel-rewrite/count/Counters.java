@@ -39,52 +39,57 @@ final class Counters {
     private Counters() {
     }
 
-    /** The current thread's row for a class, made long enough. */
-    static long[] row(int type, int at) {
+    /** A row of the current thread's table, made long enough. */
+    static long[] row(int index, int at) {
         begin();
         synchronized (record) {
-            long[][] table = Calls.OWN.get();
-            if (table == null || type >= table.length) {
-                table = tableOfThread(type);
-                Calls.OWN.set(table);
-            }
-            long[] row = table[type];
+            long[][] table = tableOfThread(index);
+            long[] row = table[index];
             if (row == null || at >= row.length) {
                 row = row == null ? new long[longer(at, 0)] : Arrays.copyOf(row, longer(at, row.length));
-                table[type] = row;
+                table[index] = row;
             }
             return row;
         }
+    }
+
+    private static long[][] tableOfThread(int index) {
+        long[][] table = Calls.OWN.get();
+        if (table != null && index < table.length) {
+            return table;
+        }
+        Object[] owned = ownedByThread();
+        table = (long[][]) owned[TABLE];
+        if (index >= table.length) {
+            table = Arrays.copyOf(table, longer(index, table.length));
+            owned[TABLE] = table;
+        }
+        Calls.setOwn(table);
+        return table;
     }
 
     /**
      * A table that a thread has left when it ended goes to the next one, with what has been counted in it: there are no
      * more of them than there are threads at a time.
      */
-    private static long[][] tableOfThread(int type) {
+    private static Object[] ownedByThread() {
         Thread current = Thread.currentThread();
         Object[] found = null;
         for (Object[] each : threads) {
             Thread owner = (Thread) ((WeakReference<?>) each[THREAD]).get();
             if (owner == current) {
-                found = each;
-                break;
+                return each;
             }
             if (found == null && (owner == null || !owner.isAlive())) {
                 found = each;
             }
         }
         if (found == null) {
-            found = new Object[] {null, new long[0][]};
+            found = new Object[] {null, new long[][] {new long[1]}};
             threads.add(found);
         }
         found[THREAD] = new WeakReference<>(current);
-        long[][] table = (long[][]) found[TABLE];
-        if (type >= table.length) {
-            table = Arrays.copyOf(table, longer(type, table.length));
-            found[TABLE] = table;
-        }
-        return table;
+        return found;
     }
 
     static void countShared(int type, int at) {

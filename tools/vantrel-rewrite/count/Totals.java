@@ -15,9 +15,9 @@ final class Totals {
             long[][] totals = new long[0][];
             for (Object thread : (List<?>) record.get(Counters.THREADS)) {
                 long[][] table = (long[][]) ((Object[]) thread)[Counters.TABLE];
-                for (int type = 0; type < table.length; ++type) {
-                    if (table[type] != null) {
-                        totals = add(totals, type, 0, table[type]);
+                for (int index = Calls.FIRST_CLASS; index < table.length; ++index) {
+                    if (table[index] != null) {
+                        totals = add(totals, index - Calls.FIRST_CLASS, 0, table[index]);
                     }
                 }
             }
