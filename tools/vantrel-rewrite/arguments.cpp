@@ -16,14 +16,19 @@ namespace {
 constexpr unsigned kMostWorkers = 256;
 
 constexpr const char* kDescription =
-    "Injects calls of a tracker class into Java class files, up to version 69 (Java 25).\n"
+    "Has Java programs count their calls, or call a tracker class of yours: injects calls into class files, up to\n"
+    "version 69 (Java 25).\n"
     "\n"
     "IN is a class file, a jar or a folder with such files in it. As with cp, OUT is the result itself; or, where it\n"
     "is an existing folder, ends in a slash, or there are several inputs, the folder that the results go into under\n"
     "the names of the inputs.\n";
 
 constexpr const char* kFooter =
-    R"(The tracker's methods are static: "(II)V" for --call and --return, "(Ljava/lang/Object;)V" for --object-init
+    R"(With --count or --unused each result brings a tracker of its own, which writes a table when the program ends:
+vantrel-count-PROCESS.txt, or the file that java -Dvantrel.count.file=FILE names. Make a file of that name with .now at
+its end to have the table at once.
+
+The methods of a tracker of yours are static: "(II)V" for --call and --return, "(Ljava/lang/Object;)V" for --object-init
 and --new-array. Classes are numbered from 0 in the order of the inputs, of a jar's entries, and of the sorted names
 in a folder; all classes count, whether they are rewritten or not. Methods are numbered from 0 in each class file.
 
@@ -36,6 +41,10 @@ Exit status: 0 if all is well, 1 if the rewrite of a class failed or the summary
 result.
 
 Examples:
+  vantrel-rewrite --count -o counted.jar program.jar && java -jar counted.jar
+      counts calls, returns and arrays by method
+  vantrel-rewrite --unused -o tried/ program.jar lib.jar && java -cp 'tried/*' com.x.Program
+      lists the methods that never ran
   vantrel-rewrite --tracker com.x.Tracker --call entered -o tracked.jar program.jar
       calls com.x.Tracker.entered(class, method) at the entry of each method
   vantrel-rewrite --tracker com.x.Tracker --call entered --return left --map map.txt -o tracked classes
