@@ -155,6 +155,7 @@ TEST_P(Count, TellsJarsFromEachOther) {
     EXPECT_EQ(all[other("idle\t()V")], "0\t0\t0\t0");
     EXPECT_EQ(all.count(other("main\t([Ljava/lang/String;)V")), 0);
 
+    fs::remove(scratch.path / "table");
     // Now only what has been loaded by class loaders that are closed at the end.
     EXPECT_EQ(java({"-cp", "other.jar", "other.Other", "out/busy.jar"}).status, 0);
     EXPECT_EQ(table()[busy("step\t()V")], steps + '\t' + steps + "\t0\t0");
