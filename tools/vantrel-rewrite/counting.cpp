@@ -133,8 +133,7 @@ std::vector<AddedFile> Counting::files() const {
         const std::string where = place.empty() ? label_ : label_ + '/' + place.substr(0, place.size() - 1);
         const std::string text = std::string(arguments_.counted.calls ? "called" : "") +
                                  (arguments_.counted.unused ? " unused\n" : "\n") + escaped(where) + '\n' + lines;
-        const BytesView bytes = bytes_of(text);
-        add("/methods", {bytes.begin(), bytes.end()});
+        add("/methods.gz", gzip(bytes_of(text)));
     }
     return files;
 }

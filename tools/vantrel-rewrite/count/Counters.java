@@ -16,7 +16,7 @@ import java.util.concurrent.atomic.AtomicLongArray;
  * rows, and marks are read, without.
  */
 final class Counters {
-    /** In the record: bytes, the methods' names as vantrel-rewrite has written them. */
+    /** In the record: bytes, the packed names of the methods. */
     static final String METHODS = "methods";
     /** List of Object[], by thread: weak reference to it, and its table (long[][]). */
     static final String THREADS = "threads";
@@ -161,13 +161,13 @@ final class Counters {
                 record.put(METHODS, methods);
             }
             Watcher.register(record);
-        } catch (VirtualMachineError momentary) {
+        } catch (StackOverflowError deepInTheProgram) {
             synchronized (record) {
                 begun = false;
             }
-            throw momentary;
-        } catch (Exception | LinkageError failure) {
-            Message.print("nothing is counted here: " + failure);
+            throw deepInTheProgram;
+        } catch (Exception | Error failure) {
+            Message.print("there will be no table of one jar: " + failure);
         }
     }
 }

@@ -5,7 +5,7 @@ import java.io.FileOutputStream;
 import java.io.IOException;
 import java.nio.charset.StandardCharsets;
 
-/** Lines for the user, and texts of which each character stands for one byte. */
+/** Lines for the user. */
 final class Message {
     private Message() {
     }
@@ -19,13 +19,5 @@ final class Message {
         } catch (IOException closed) {
             return; // there is nobody to tell
         }
-    }
-
-    static String textOf(byte[] bytes) {
-        return new String(bytes, StandardCharsets.ISO_8859_1);
-    }
-
-    static byte[] bytesOf(String text) {
-        return text.getBytes(StandardCharsets.ISO_8859_1);
     }
 }

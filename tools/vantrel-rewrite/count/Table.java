@@ -3,11 +3,13 @@ package com.vantrel.count.x0000000000000000;
 import java.io.ByteArrayOutputStream;
 import java.io.IOException;
 import java.io.OutputStream;
+import java.nio.charset.StandardCharsets;
 import java.util.ArrayList;
 import java.util.Collections;
 import java.util.HashMap;
 import java.util.List;
 import java.util.Map;
+import java.util.zip.GZIPOutputStream;
 
 /**
  * The counts of all methods with their names. What several class loaders have loaded from one jar, and the versions of
@@ -16,7 +18,7 @@ import java.util.Map;
 final class Table {
     private final Map<String, Row> rows = new HashMap<>();
 
-    void add(Map<String, Object> record) {
+    void add(Map<String, Object> record) throws IOException {
         byte[] methods;
         synchronized (record) {
             methods = (byte[]) record.get(Counters.METHODS);
@@ -61,13 +63,17 @@ final class Table {
     }
 
     private static void write(OutputStream output, String line) throws IOException {
-        output.write(Message.bytesOf(line + '\n'));
+        output.write((line + '\n').getBytes(StandardCharsets.ISO_8859_1));
     }
 
     /** Loads all classes that a table takes, for at the end of the program their class loader may be closed. */
     static void rehearse() throws IOException {
+        ByteArrayOutputStream methods = new ByteArrayOutputStream();
+        try (OutputStream packer = new GZIPOutputStream(methods)) {
+            write(packer, "called unused\n\n0\t0\tclass\tmethod\t()V");
+        }
         Map<String, Object> record = new HashMap<>();
-        record.put(Counters.METHODS, Message.bytesOf("called,unused\n\n0\t0\tclass\tmethod\t()V\n"));
+        record.put(Counters.METHODS, methods.toByteArray());
         record.put(Counters.THREADS, new ArrayList<>());
         Table table = new Table();
         table.add(record);

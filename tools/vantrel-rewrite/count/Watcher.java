@@ -84,7 +84,7 @@ final class Watcher extends Thread implements Consumer<Map<String, Object>> {
         }
     }
 
-    private void answerRequest() {
+    private void answerRequest() throws IOException {
         long asked = request.lastModified(); // 0 where there is none
         if (asked == 0 || asked == answered) {
             return;
@@ -97,7 +97,7 @@ final class Watcher extends Thread implements Consumer<Map<String, Object>> {
     }
 
     /** Returns the table that was written; null where that was not possible, which has been said then. */
-    synchronized Table write() {
+    synchronized Table write() throws IOException {
         Table table = new Table();
         for (Map<String, Object> record : records) {
             table.add(record);
