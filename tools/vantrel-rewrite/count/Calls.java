@@ -99,8 +99,8 @@ public final class Calls {
 
     /** A thread and its table, which do not change, so that others see either both or neither. */
     private static final class Recent {
-        private final Thread thread;
-        private final long[][] table;
+        final Thread thread;
+        final long[][] table;
 
         Recent(Thread thread, long[][] table) {
             this.thread = thread;
