@@ -1,12 +1,12 @@
 # What the build needs besides the compiler and the JDK; scripts/setup installs it on Debian.
 #
-# Gives: PkgConfig::Xcb (not on macOS); where more than the library is built: PkgConfig::Deflate, PkgConfig::Zlib,
+# Gives: Xcb_INCLUDE_DIRS (not on macOS); where more than the library is built: PkgConfig::Deflate, PkgConfig::Zlib,
 # Threads::Threads, Cli11::headers; and where the tests are built: GTest::gmock, GTest::gtest_main, PkgConfig::Zip,
 # PkgConfig::XcbTest, and the files JUNIT4_JAR, HAMCREST_JAR, MIGLAYOUT_SWING_JAR and MIGLAYOUT_CORE_JAR.
 
 if(NOT APPLE)
     find_package(PkgConfig REQUIRED)
-    pkg_check_modules(Xcb REQUIRED IMPORTED_TARGET xcb)
+    pkg_check_modules(Xcb REQUIRED xcb)
 endif()
 if(VANTREL_LIBRARY_ONLY)
     return()
@@ -21,7 +21,7 @@ find_path(CLI11_INCLUDE_DIR CLI/CLI.hpp REQUIRED)
 add_library(Cli11::headers INTERFACE IMPORTED)
 target_include_directories(Cli11::headers SYSTEM INTERFACE ${CLI11_INCLUDE_DIR})
 
-if(VANTREL_TESTS AND NOT VANTREL_FUZZ)
+if(VANTREL_TESTS)
     find_package(GTest REQUIRED)
     pkg_check_modules(Zip REQUIRED IMPORTED_TARGET libzip)
     pkg_check_modules(XcbTest REQUIRED IMPORTED_TARGET xcb xcb-xtest)

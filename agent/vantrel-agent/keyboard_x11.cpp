@@ -25,6 +25,7 @@
 #include "x11/grabs.h"
 #include "x11/hot_key.h"
 #include "x11/key_repeat.h"
+#include "x11/xcb.h"
 
 namespace {
 
@@ -164,7 +165,7 @@ void report(HotKeyOnDisplay& key) {
 // Counts presses until the connection ends.
 void serve(HotKeyOnDisplay& key, Binding& binding) {
     x11::KeyRepeat repeat;
-    while (const Owned<xcb_generic_event_t> event{xcb_wait_for_event(key.grabs.connection)}) {
+    while (const Owned<xcb_generic_event_t> event{xcb::wait_for_event(key.grabs.connection)}) {
         if (x11::is_passed_on(key.agents, *event)) {
             binding.presses.release();
             continue;
@@ -204,7 +205,7 @@ void serve(HotKeyOnDisplay& key, Binding& binding) {
 bool register_socket(Binding& binding, xcb_connection_t* connection) {
     const std::lock_guard guard(binding.socket_lock);
     if (!binding.unbound) {
-        binding.socket = xcb_get_file_descriptor(connection);
+        binding.socket = xcb::get_file_descriptor(connection);
     }
     return !binding.unbound;
 }
@@ -252,7 +253,8 @@ void run_connection(const BindingPtr& binding) {
     }
     binding->settled.release();
     binding->announced.acquire();
-    report_no_hot_key(server_of(*binding) + " cannot be reached, or refuses");
+    report_no_hot_key(xcb::load() ? server_of(*binding) + " cannot be reached, or refuses"
+                                  : "libxcb.so.1 cannot be loaded");
 }
 
 // The binding that bindMacHotKey has made last, for unbindMacHotKey. Never destroyed, because threads may still use it
@@ -287,7 +289,9 @@ void bindMacHotKey(void (*callback)()) {
     const bool settled = started && binding->settled.try_acquire_for(kPatience);
 
     announceHotKey();
-    fprintf(stderr, "vantrel-agent: on this platform the hot key is %s.\n", binding->hot_key.name.c_str());
+    if (has_display) {
+        fprintf(stderr, "vantrel-agent: on this platform the hot key is %s.\n", binding->hot_key.name.c_str());
+    }
     if (!settled) {
         binding->said = !has_display ? "DISPLAY is not set"
                         : !started   ? kNoThread
@@ -324,13 +328,13 @@ bool isHotKeyModifierHeld() {
         return false;
     }
     // Both requests leave together and are answered together: one round trip, and no table that may be out of date.
-    const auto keys_request = xcb_query_keymap(connection);
-    const auto modifiers_request = xcb_get_modifier_mapping(connection);
-    const Owned<xcb_query_keymap_reply_t> down(xcb_query_keymap_reply(connection, keys_request, NULL));
+    const auto keys_request = xcb::query_keymap(connection);
+    const auto modifiers_request = xcb::get_modifier_mapping(connection);
+    const Owned<xcb_query_keymap_reply_t> down(xcb::query_keymap_reply(connection, keys_request, NULL));
     const Owned<xcb_get_modifier_mapping_reply_t> modifiers(
-        xcb_get_modifier_mapping_reply(connection, modifiers_request, NULL));
+        xcb::get_modifier_mapping_reply(connection, modifiers_request, NULL));
     // Changed key tables are announced to every client, whether it asked or not.
-    while (Owned<xcb_generic_event_t>(xcb_poll_for_queued_event(connection))) {
+    while (Owned<xcb_generic_event_t>(xcb::poll_for_queued_event(connection))) {
     }
     if (!down || !modifiers) {
         return false;

@@ -12,6 +12,7 @@
 
 #include "agent_in_vm.h"
 #include "process.h"
+#include "x_picture.h"
 #include "x_server.h"
 
 namespace fs = std::filesystem;
@@ -53,7 +54,7 @@ TEST_P(Agent, ReplacesBothClasses) {
     const Finished program = run(java(kReplacedProgram), kNoDisplay);
     expect_replaced(program);
     EXPECT_THAT(program.out, StartsWith(kAgentOut));
-    EXPECT_EQ(program.err, kAgentErr + "vantrel-agent: no hot key: DISPLAY is not set.\n");
+    EXPECT_EQ(program.err, "vantrel-agent: no hot key: DISPLAY is not set.\n");
 }
 
 TEST_P(Agent, StandsUpToTheVmsOwnChecks) {
@@ -118,8 +119,7 @@ TEST_P(Agent, ShowsASwingProgram) {
     const XServer x;
     Process sample(java({"-jar", kSampleJar}), {.folder = {}, .environment = {x.display()}});
     EXPECT_TRUE(sample.reaches([&] { return x.shows("Vantrel sample"); })) << sample.out() << sample.err();
-    const ScratchFolder folder;
-    EXPECT_TRUE(sample.reaches([&] { return x.take_picture(folder.path / "screen.png") > 16; })) << "nothing painted";
+    EXPECT_TRUE(sample.reaches([&] { return Picture(x.name()).colours() > 16; })) << "nothing painted";
     sample.signal(SIGTERM);
     EXPECT_EQ(sample.wait(), 128 + SIGTERM);
     EXPECT_EQ(sample.out(), kAgentOut);
@@ -137,7 +137,7 @@ TEST_P(Agent, ShowsAProgramThatNobodyHereWrote) {
         java({"-Duser.home=" + folder.path.string(), "-jar", jedit, "-noserver", "-settings=" + folder.path.string()}),
         {.folder = folder.path, .environment = {x.display()}});
     EXPECT_TRUE(program.reaches([&] { return x.shows("jEdit - Untitled-1"); })) << program.out() << program.err();
-    EXPECT_TRUE(program.reaches([&] { return x.take_picture(folder.path / "screen.png") > 64; })) << "nothing painted";
+    EXPECT_TRUE(program.reaches([&] { return Picture(x.name()).colours() > 64; })) << "nothing painted";
     program.signal(SIGTERM);
     EXPECT_EQ(program.wait(), 128 + SIGTERM);
     EXPECT_THAT(program.out(), HasSubstr("Starting Vantrel.\n"));

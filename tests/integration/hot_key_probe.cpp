@@ -6,20 +6,20 @@
 //     hot-key-probe block      a press is never done with
 //     hot-key-probe twice      binds once more when it was to end
 //     hot-key-probe hasty      unbinds without asking for the modifier before
-#include <dlfcn.h>
 #include <malloc.h>
 #include <pthread.h>
 #include <sys/socket.h>
 #include <unistd.h>
-#include <xcb/xcb.h>
 
 #include <atomic>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <string>
+#include <utility>
 
 #include "keyboard.h"
+#include "x11/xcb.h"
 
 namespace {
 
@@ -76,21 +76,19 @@ void unbind() {
     }
 }
 
-}  // namespace
+decltype(xcb::get_keyboard_mapping_reply) real_mapping_reply = nullptr;
 
-// In the place of XCB's own, which it calls.
-extern "C" xcb_get_keyboard_mapping_reply_t* xcb_get_keyboard_mapping_reply(xcb_connection_t* connection,
-                                                                            xcb_get_keyboard_mapping_cookie_t cookie,
-                                                                            xcb_generic_error_t** error) {
-    static const auto real =
-        reinterpret_cast<decltype(&xcb_get_keyboard_mapping_reply)>(dlsym(RTLD_NEXT, "xcb_get_keyboard_mapping_reply"));
-    xcb_get_keyboard_mapping_reply_t* reply = real(connection, cookie, error);
+xcb_get_keyboard_mapping_reply_t* mapping_reply(xcb_connection_t* connection, xcb_get_keyboard_mapping_cookie_t cookie,
+                                                xcb_generic_error_t** error) {
+    xcb_get_keyboard_mapping_reply_t* reply = real_mapping_reply(connection, cookie, error);
     if (deaf) {
         free(reply);
         return nullptr;
     }
     return reply;
 }
+
+}  // namespace
 
 int main(int argument_count, char** arguments) {
     mode = argument_count > 1 ? arguments[1] : "";
@@ -101,6 +99,9 @@ int main(int argument_count, char** arguments) {
     pthread_sigmask(SIG_BLOCK, &awaited, nullptr);
     signal(SIGUSR2, [](int) { signal_taken = 1; });
 
+    if (xcb::load()) {
+        real_mapping_reply = std::exchange(xcb::get_keyboard_mapping_reply, mapping_reply);
+    }
     setHotKeyVmAttachment({attach, detach});
     const auto start = std::chrono::steady_clock::now();
     bindMacHotKey(on_press);

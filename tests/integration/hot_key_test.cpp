@@ -313,7 +313,8 @@ TEST(HotKey, RunsNothingOnAThreadThatTheVmRefuses) {
 }
 
 TEST(HotKey, ADisplayThatGoesAwayEndsTheThreadOnly) {
-    std::optional<XServer> x(std::in_place);
+    // A number that no other server takes: the probe asks for its display again at its end.
+    std::optional<XServer> x(std::in_place, std::vector<std::string>{":" + std::to_string(getpid())});
     Probe probe(x->name());
     EXPECT_TRUE(probe.says(kAttached.substr(0, kAttached.size() - 1)));
     x.reset();
@@ -345,8 +346,19 @@ TEST(HotKey, IsNotThereWithoutADisplay) {
         EXPECT_TRUE(probe.complains(c.reason + "."));
         EXPECT_EQ(probe.end(), kAnnouncement + "bound in time\nmodifier not held\nunbound\n");
         // XCB itself may say a word on a refusal.
-        EXPECT_THAT(probe.err(), HasSubstr(kWhichKey + "vantrel-agent: no hot key: " + c.reason + ".\n"));
+        EXPECT_THAT(probe.err(), HasSubstr((c.display.empty() ? "" : kWhichKey) + "vantrel-agent: no hot key: " + c.reason + ".\n"));
     }
+}
+
+TEST(HotKey, IsNotThereWithoutXcb) {
+    const XServer x;
+    const ScratchFolder folder;
+    std::ofstream(folder.path / "libxcb.so.1") << "no library";
+    setenv("LD_LIBRARY_PATH", folder.path.c_str(), 1);
+    Probe probe(x.name());
+    unsetenv("LD_LIBRARY_PATH");
+    EXPECT_TRUE(probe.complains("vantrel-agent: no hot key: libxcb.so.1 cannot be loaded."));
+    EXPECT_EQ(probe.end(), kAnnouncement + "bound in time\nmodifier not held\nunbound\n");
 }
 
 // A display whose server takes connections and never answers.

@@ -17,6 +17,7 @@
 #include "agent_in_vm.h"
 #include "process.h"
 #include "x_keys.h"
+#include "x_picture.h"
 #include "x_server.h"
 #include "x_windows.h"
 
@@ -204,15 +205,11 @@ TEST_P(Inspector, TheNativesDoTheirWork) {
                                 "event thread of main, new threads: 0\n"
                                 "event thread of other posted by vantrel-context-thread\n"));
 
-    const fs::path picture = folder.path / "screen.png";
-    const auto colour_at = [&](const std::string& place) {
-        EXPECT_GT(x.take_picture(picture), 0);
-        return run({"convert", picture, "-crop", "1x1+" + place, "-depth", "8", "-format", "%[hex:u]", "info:"}).out;
-    };
+    const auto colour_at = [&](int across, int down) { return Picture(x.name()).at(across, down); };
     // Outside the tint and inside it; blending on the screen's surface rounds otherwise than on an image of its own.
-    EXPECT_TRUE(program->reaches([&] { return colour_at("399+249") == "FC7E00"; })) << colour_at("399+249");
-    EXPECT_THAT(colour_at("350+225"), AnyOf("FED5AB", "FDD4AB"));
-    EXPECT_THAT(colour_at("300+200"), AnyOf("FC7E00", "FB7D00"));
+    EXPECT_TRUE(program->reaches([&] { return colour_at(399, 249) == "FC7E00"; })) << colour_at(399, 249);
+    EXPECT_THAT(colour_at(350, 225), AnyOf("FED5AB", "FDD4AB"));
+    EXPECT_THAT(colour_at(300, 200), AnyOf("FC7E00", "FB7D00"));
 
     for (const xcb_keysym_t control : {XK_Control_L, XK_Control_R}) {
         for (const xcb_keysym_t other : {XK_Shift_L, XK_Alt_L, XK_Super_L, XK_F12}) {

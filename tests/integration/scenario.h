@@ -20,15 +20,8 @@
 #include "agent_in_vm.h"
 #include "process.h"
 #include "x_keys.h"
+#include "x_picture.h"
 #include "x_server.h"
-
-// A rectangle on the screen, in pixels.
-struct Place {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-};
 
 class Scenario : public OnEachJdk {
   protected:
@@ -66,6 +59,12 @@ class Scenario : public OnEachJdk {
 
     // The number of the line with a text in a source file of the program, found there, so that it may move.
     static int line_of(const std::string& file, const std::string& text);
+
+    // What a place of the screen shows now.
+    Picture picture(const Place& place) const { return {x.name(), place}; }
+
+    // The same once it is other than it was, and has stayed so for a moment.
+    Picture settled_picture(const Place& place, const Picture& before = {}) const;
 
     // Writes a picture of the screen beside the other products of the tests, for people to look at.
     void take_picture(const std::string& name);

@@ -24,8 +24,8 @@ class XServer {
     // Sends the server's process a signal: SIGSTOP makes it a display that hangs, until SIGCONT.
     void signal(int number) const { server_.signal(number); }
 
-    // Writes a picture of the screen. Returns how many colours it has.
-    [[nodiscard]] int take_picture(const std::filesystem::path& file) const;
+    // Writes a picture of the screen, for people.
+    void take_picture(const std::filesystem::path& file) const;
 
   private:
     Process server_;

@@ -61,7 +61,12 @@ std::string quoted(const std::string& option) {
 }  // namespace
 
 std::string agent_option() {
-    const fs::path library = own_file().parent_path().parent_path() / "lib" / VANTREL_LIBRARY_NAME;
+    // In the folder that it is installed in, seen from the command's own; or in the one that it is built in.
+    const fs::path own_folder = own_file().parent_path();
+    fs::path library = (own_folder / VANTREL_LIBRARY_FOLDER / VANTREL_LIBRARY_NAME).lexically_normal();
+    if (!fs::exists(library)) {
+        library = own_folder.parent_path() / "lib" / VANTREL_LIBRARY_NAME;
+    }
     for (const fs::path& file : {library, library.parent_path() / kJarName}) {
         if (!fs::is_regular_file(file)) {
             throw command::Failure{"there is no " + file.string() +

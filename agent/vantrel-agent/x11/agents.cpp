@@ -41,28 +41,28 @@ struct Agent {
 // waits for the server once and not once for each window.
 
 xcb_intern_atom_cookie_t ask_for_atom(xcb_connection_t* connection, std::string_view name) {
-    return xcb_intern_atom(connection, 0, static_cast<uint16_t>(name.size()), name.data());
+    return xcb::intern_atom(connection, 0, static_cast<uint16_t>(name.size()), name.data());
 }
 
 xcb_atom_t atom_of(xcb_connection_t* connection, xcb_intern_atom_cookie_t request) {
-    const Owned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection, request, NULL));
+    const Owned<xcb_intern_atom_reply_t> reply(xcb::intern_atom_reply(connection, request, NULL));
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
 // `length` in units of four bytes.
 xcb_get_property_cookie_t ask_for_property(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t property,
                                            xcb_atom_t type, uint32_t length) {
-    return xcb_get_property(connection, 0, window, property, type, 0, length);
+    return xcb::get_property(connection, 0, window, property, type, 0, length);
 }
 
 // The value as bytes; empty where there is none, or no such window.
 std::string value_of(xcb_connection_t* connection, xcb_get_property_cookie_t request) {
-    const Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection, request, NULL));
+    const Owned<xcb_get_property_reply_t> reply(xcb::get_property_reply(connection, request, NULL));
     if (!reply) {
         return "";
     }
-    return {static_cast<const char*>(xcb_get_property_value(reply.get())),
-            static_cast<size_t>(xcb_get_property_value_length(reply.get()))};
+    return {static_cast<const char*>(xcb::get_property_value(reply.get())),
+            static_cast<size_t>(xcb::get_property_value_length(reply.get()))};
 }
 
 // A CARDINAL; 0 where there is none.
@@ -109,10 +109,10 @@ void read_agents(const Agents& agents, std::vector<Agent>& windows) {
 // All agents with our hot key, this one among them.
 std::vector<Agent> all_agents(const Agents& agents) {
     xcb_connection_t* x = agents.connection;
-    const Owned<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(x, xcb_query_tree(x, agents.root), NULL));
+    const Owned<xcb_query_tree_reply_t> tree(xcb::query_tree_reply(x, xcb::query_tree(x, agents.root), NULL));
     std::vector<Agent> windows;
     if (tree) {
-        const xcb_window_t* children = xcb_query_tree_children(tree.get());
+        const xcb_window_t* children = xcb::query_tree_children(tree.get());
         for (size_t i = 0; i < tree->children_len; ++i) {
             windows.push_back({children[i], 0, "", 0, Standing::has_not});
         }
@@ -139,7 +139,7 @@ void add_details(const Agents& agents, std::vector<Agent>& found) {
 
 // The window that has the focus. Where the focus follows the pointer, that is the innermost window under the pointer.
 xcb_window_t focused_window(xcb_connection_t* x) {
-    const Owned<xcb_get_input_focus_reply_t> focus(xcb_get_input_focus_reply(x, xcb_get_input_focus(x), NULL));
+    const Owned<xcb_get_input_focus_reply_t> focus(xcb::get_input_focus_reply(x, xcb::get_input_focus(x), NULL));
     if (!focus || focus->focus == XCB_INPUT_FOCUS_NONE) {
         return XCB_NONE;
     }
@@ -149,7 +149,8 @@ xcb_window_t focused_window(xcb_connection_t* x) {
     for (const xcb_window_t root : root_windows(x)) {
         xcb_window_t at = root;
         while (true) {
-            const Owned<xcb_query_pointer_reply_t> pointer(xcb_query_pointer_reply(x, xcb_query_pointer(x, at), NULL));
+            const Owned<xcb_query_pointer_reply_t> pointer(
+                xcb::query_pointer_reply(x, xcb::query_pointer(x, at), NULL));
             if (!pointer || pointer->same_screen == 0) {
                 break;
             }
@@ -175,10 +176,10 @@ Owner owner_of(const Agents& agents, xcb_window_t window) {
         const auto pid_request = ask_for_property(x, window, agents.atoms.pid, XCB_ATOM_CARDINAL, 1);
         const auto machine_request =
             ask_for_property(x, window, XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING, kMachineLength);
-        const auto tree_request = xcb_query_tree(x, window);
+        const auto tree_request = xcb::query_tree(x, window);
         const uint32_t pid = number_of(value_of(x, pid_request));
         const std::string machine = value_of(x, machine_request);
-        const Owned<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(x, tree_request, NULL));
+        const Owned<xcb_query_tree_reply_t> tree(xcb::query_tree_reply(x, tree_request, NULL));
         if (pid != 0) {
             return {pid, machine};
         }
@@ -190,9 +191,9 @@ Owner owner_of(const Agents& agents, xcb_window_t window) {
 void announce(const Agents& agents) {
     const AgentProperty property{kVersion, static_cast<uint32_t>(getpid()), agents.hot_key.keysym,
                                  agents.hot_key.modifiers, agents.standing};
-    xcb_change_property(agents.connection, XCB_PROP_MODE_REPLACE, agents.own, agents.atoms.agent, XCB_ATOM_CARDINAL, 32,
-                        kAgentPropertyLength, &property);
-    xcb_flush(agents.connection);
+    xcb::change_property(agents.connection, XCB_PROP_MODE_REPLACE, agents.own, agents.atoms.agent, XCB_ATOM_CARDINAL,
+                         32, kAgentPropertyLength, &property);
+    xcb::flush(agents.connection);
 }
 
 void pass_on(const Agents& agents, xcb_window_t window) {
@@ -202,7 +203,7 @@ void pass_on(const Agents& agents, xcb_window_t window) {
     message.window = window;
     message.type = agents.atoms.show;
     // With an empty mask an event goes to the client that has made the window, and to nobody else.
-    xcb_send_event(agents.connection, 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&message));
+    xcb::send_event(agents.connection, 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&message));
 }
 
 }  // namespace
@@ -218,13 +219,13 @@ Agents join_agents(xcb_connection_t* connection, const HotKey& hot_key) {
         own_machine(),
         {atom_of(connection, agent), atom_of(connection, asked), atom_of(connection, show), atom_of(connection, pid)},
         root_windows(connection).front(),
-        xcb_generate_id(connection),
+        xcb::generate_id(connection),
         Standing::trying};
     const uint32_t no_window_manager = 1;
-    xcb_create_window(connection, XCB_COPY_FROM_PARENT, agents.own, agents.root, -1, -1, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT, &no_window_manager);
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, agents.own, XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING, 8,
-                        static_cast<uint32_t>(agents.machine.size()), agents.machine.data());
+    xcb::create_window(connection, XCB_COPY_FROM_PARENT, agents.own, agents.root, -1, -1, 1, 1, 0,
+                       XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT, &no_window_manager);
+    xcb::change_property(connection, XCB_PROP_MODE_REPLACE, agents.own, XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING, 8,
+                         static_cast<uint32_t>(agents.machine.size()), agents.machine.data());
     announce(agents);
     return agents;
 }
@@ -241,7 +242,7 @@ Standing look_at_others(const Agents& agents) {
     std::erase_if(others, [&](const Agent& agent) { return agent.window == agents.own; });
     for (const Agent& agent : others) {
         const uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
-        xcb_change_window_attributes(agents.connection, agent.window, XCB_CW_EVENT_MASK, &events);
+        xcb::change_window_attributes(agents.connection, agent.window, XCB_CW_EVENT_MASK, &events);
     }
     // Read again: what has changed before the server took the request above, it has sent no event about.
     read_agents(agents, others);
@@ -273,12 +274,12 @@ bool take_or_pass_on(const Agents& agents) {
         last_asked = std::max(last_asked, agent.asked);
     }
     const uint32_t asked = last_asked + 1;
-    xcb_change_property(agents.connection, XCB_PROP_MODE_REPLACE, best->window, agents.atoms.asked, XCB_ATOM_CARDINAL,
-                        32, 1, &asked);
+    xcb::change_property(agents.connection, XCB_PROP_MODE_REPLACE, best->window, agents.atoms.asked, XCB_ATOM_CARDINAL,
+                         32, 1, &asked);
     if (best->window != agents.own) {
         pass_on(agents, best->window);
     }
-    xcb_flush(agents.connection);
+    xcb::flush(agents.connection);
     return best->window == agents.own;
 }
 

@@ -4,12 +4,12 @@
 #ifndef VANTREL_X11_CONNECTION_H
 #define VANTREL_X11_CONNECTION_H
 
-#include <xcb/xcb.h>
-
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
 #include <vector>
+
+#include "xcb.h"
 
 namespace x11 {
 
@@ -21,7 +21,7 @@ template <typename T>
 using Owned = std::unique_ptr<T, Free>;
 
 struct Disconnect {
-    void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+    void operator()(xcb_connection_t* connection) const { xcb::disconnect(connection); }
 };
 using Connection = std::unique_ptr<xcb_connection_t, Disconnect>;
 
@@ -32,10 +32,13 @@ inline uint8_t kind_of(const xcb_generic_event_t& event) {
 }
 
 // Connects to a display, or to the one that DISPLAY names if `display` is NULL. The result is null if there is no such
-// display, or if it refuses.
+// display, if it refuses, or if there is no libxcb.
 inline Connection connect(const char* display) {
-    Connection connection(xcb_connect(display, NULL));
-    if (xcb_connection_has_error(connection.get()) != 0) {
+    if (!xcb::load()) {
+        return nullptr;
+    }
+    Connection connection(xcb::connect(display, NULL));
+    if (xcb::connection_has_error(connection.get()) != 0) {
         connection.reset();
     }
     return connection;
@@ -44,7 +47,8 @@ inline Connection connect(const char* display) {
 // The root window of each screen, the first one first.
 inline std::vector<xcb_window_t> root_windows(xcb_connection_t* connection) {
     std::vector<xcb_window_t> roots;
-    for (auto screen = xcb_setup_roots_iterator(xcb_get_setup(connection)); screen.rem > 0; xcb_screen_next(&screen)) {
+    for (auto screen = xcb::setup_roots_iterator(xcb::get_setup(connection)); screen.rem > 0;
+         xcb::screen_next(&screen)) {
         roots.push_back(screen.data->root);
     }
     return roots;
@@ -53,7 +57,7 @@ inline std::vector<xcb_window_t> root_windows(xcb_connection_t* connection) {
 // The keys that the server's modifier map gives to a modifier (XCB_MAP_INDEX_SHIFT and so on).
 inline std::vector<xcb_keycode_t> keys_of_modifier(const xcb_get_modifier_mapping_reply_t& map, unsigned modifier) {
     const size_t width = map.keycodes_per_modifier;
-    const xcb_keycode_t* row = xcb_get_modifier_mapping_keycodes(&map) + modifier * width;
+    const xcb_keycode_t* row = xcb::get_modifier_mapping_keycodes(&map) + modifier * width;
     std::vector<xcb_keycode_t> keys(row, row + width);
     std::erase(keys, 0);  // a row with fewer keys than the longest one is filled up with zeros
     return keys;

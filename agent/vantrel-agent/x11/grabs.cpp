@@ -22,13 +22,14 @@ struct Keyboard {
 };
 
 std::optional<Keyboard> ask_for_keyboard(xcb_connection_t* connection) {
-    const xcb_keycode_t first = xcb_get_setup(connection)->min_keycode;
-    const xcb_keycode_t last = xcb_get_setup(connection)->max_keycode;
-    const auto keysyms = xcb_get_keyboard_mapping(connection, first, static_cast<uint8_t>(last - first + 1));
-    const auto modifiers = xcb_get_modifier_mapping(connection);
+    const xcb_keycode_t first = xcb::get_setup(connection)->min_keycode;
+    const xcb_keycode_t last = xcb::get_setup(connection)->max_keycode;
+    const auto keysyms = xcb::get_keyboard_mapping(connection, first, static_cast<uint8_t>(last - first + 1));
+    const auto modifiers = xcb::get_modifier_mapping(connection);
     Keyboard keyboard{
-        first, last, Owned<xcb_get_keyboard_mapping_reply_t>(xcb_get_keyboard_mapping_reply(connection, keysyms, NULL)),
-        Owned<xcb_get_modifier_mapping_reply_t>(xcb_get_modifier_mapping_reply(connection, modifiers, NULL))};
+        first, last,
+        Owned<xcb_get_keyboard_mapping_reply_t>(xcb::get_keyboard_mapping_reply(connection, keysyms, NULL)),
+        Owned<xcb_get_modifier_mapping_reply_t>(xcb::get_modifier_mapping_reply(connection, modifiers, NULL))};
     if (!keyboard.keysyms || !keyboard.modifiers || keyboard.keysyms->keysyms_per_keycode == 0) {
         return std::nullopt;
     }
@@ -38,7 +39,7 @@ std::optional<Keyboard> ask_for_keyboard(xcb_connection_t* connection) {
 // The keysyms that a key makes: the first one when it is pressed alone, the others with modifiers.
 std::span<const xcb_keysym_t> keysyms_of(const Keyboard& keyboard, xcb_keycode_t key) {
     const size_t width = keyboard.keysyms->keysyms_per_keycode;
-    return {xcb_get_keyboard_mapping_keysyms(keyboard.keysyms.get()) + (key - keyboard.first) * width, width};
+    return {xcb::get_keyboard_mapping_keysyms(keyboard.keysyms.get()) + (key - keyboard.first) * width, width};
 }
 
 // The bits of those of the modifiers Mod1 to Mod5 that have a key which makes one of two keysyms.
@@ -113,7 +114,7 @@ std::vector<Combination> combinations_of(const Keyboard& keyboard, const HotKey&
 void release_first(const Grabs& grabs, xcb_window_t root, size_t count) {
     while (count-- > 0) {
         const Combination& combination = grabs.combinations[count];
-        xcb_ungrab_key(grabs.connection, combination.key, root, combination.modifiers);
+        xcb::ungrab_key(grabs.connection, combination.key, root, combination.modifiers);
     }
 }
 
@@ -122,16 +123,16 @@ void release(Grabs& grabs) {
         release_first(grabs, *root, grabs.combinations.size());
     }
     grabs.combinations.clear();
-    xcb_flush(grabs.connection);
+    xcb::flush(grabs.connection);
 }
 
 xcb_void_cookie_t request(const Grabs& grabs, xcb_window_t root, const Combination& combination) {
-    return xcb_grab_key_checked(grabs.connection, 0, root, combination.modifiers, combination.key, XCB_GRAB_MODE_ASYNC,
-                                XCB_GRAB_MODE_ASYNC);
+    return xcb::grab_key_checked(grabs.connection, 0, root, combination.modifiers, combination.key, XCB_GRAB_MODE_ASYNC,
+                                 XCB_GRAB_MODE_ASYNC);
 }
 
 bool is_granted(const Grabs& grabs, xcb_void_cookie_t request) {
-    return Owned<xcb_generic_error_t>(xcb_request_check(grabs.connection, request)) == nullptr;
+    return Owned<xcb_generic_error_t>(xcb::request_check(grabs.connection, request)) == nullptr;
 }
 
 // Returns true if all are granted. If one of them is refused, gives the others back and returns false.

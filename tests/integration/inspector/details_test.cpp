@@ -68,25 +68,6 @@ class InspectorDetails : public Scenario {
         keys.type(text);
         keys.press({XK_Return});
     }
-
-    // The pixels of a place, in one word.
-    std::string pixels(const Place& place) {
-        const auto file = folder.path / "pixels.png";
-        EXPECT_GT(x.take_picture(file), 1);
-        const std::string crop = std::to_string(place.width) + "x" + std::to_string(place.height) + "+" +
-                                 std::to_string(place.x) + "+" + std::to_string(place.y);
-        return run({"convert", file, "-crop", crop, "-depth", "8", "-format", "%#", "info:"}).out;
-    }
-    // The same once they stay as they are, other than they were.
-    std::string settled_pixels(const Place& place, const std::string& before) {
-        std::string now = before;
-        EXPECT_TRUE(eventually([&] {
-            const std::string last = now;
-            now = pixels(place);
-            return now != before && now == last;
-        }));
-        return now;
-    }
 };
 INSTANTIATE_TEST_SUITE_P(OnJdk, InspectorDetails, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
 
@@ -133,22 +114,22 @@ TEST_P(InspectorDetails, EditsAreSeenInTheProgramAndCanBeUndone) {
         SCOPED_TRACE(it.property + " of " + it.component);
         select(it.component);
         find_property(it.property);
-        const std::string before =
-            settled_pixels(form, "");  // the pointer has left the tree, and the highlight is gone
+        // The pointer has left the tree by then, and the highlight is gone.
+        const Picture before = settled_picture(form);
         if (it.value.empty()) {
             keys.press({XK_space});
         } else {
             edit(it.value);
         }
-        const std::string after = settled_pixels(form, before);
+        const Picture after = settled_picture(form, before);
         expect_focus("vantrel.properties");
         keys.press({XK_Control_L, XK_z});
-        EXPECT_TRUE(eventually([&] { return pixels(form) == before; }));
+        EXPECT_TRUE(eventually([&] { return picture(form) == before; }));
         keys.press({XK_Control_L, XK_y});
-        EXPECT_TRUE(eventually([&] { return pixels(form) == after; }));
+        EXPECT_TRUE(eventually([&] { return picture(form) == after; }));
         take_picture("details-" + it.property);
         keys.press({XK_Control_L, XK_z});
-        EXPECT_TRUE(eventually([&] { return pixels(form) == before; }));
+        EXPECT_TRUE(eventually([&] { return picture(form) == before; }));
     }
 }
 
@@ -286,11 +267,11 @@ TEST_P(InspectorDetails, LookAsBeforeWhenTheProgramHasTriedAnotherLookAndFeel) {
     EXPECT_TRUE(shows("enabled"));
     const Place table = where("vantrel.properties");
     const Place shown_part{table.x, table.y, 300, 150};
-    const std::string before = settled_pixels(shown_part, "");
+    const Picture before = settled_picture(shown_part);
     ask("restyle javax.swing.plaf.metal.MetalLookAndFeel");
-    EXPECT_TRUE(eventually([&] { return pixels(shown_part) != before; }));
+    EXPECT_TRUE(eventually([&] { return picture(shown_part) != before; }));
     ask("restyle " + nimbus);
-    EXPECT_TRUE(eventually([&] { return pixels(shown_part) == before; }));
+    EXPECT_TRUE(eventually([&] { return picture(shown_part) == before; }));
 }
 
 }  // namespace

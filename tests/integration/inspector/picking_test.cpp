@@ -40,13 +40,7 @@ class Picking : public Scenario {
     Place cell(const std::string& arguments) { return place("cell " + arguments); }
     // The colours at places of the screen, all at one time.
     std::vector<std::string> colours_at(const std::vector<std::pair<int, int>>& places) {
-        const auto picture = folder.path / "colours.png";
-        EXPECT_GT(x.take_picture(picture), 0);
-        std::string format;
-        for (const auto& [across, down] : places) {
-            format += "%[hex:p{" + std::to_string(across) + "," + std::to_string(down) + "}]\\n";
-        }
-        return lines_of(run({"convert", picture, "-depth", "8", "-format", format, "info:"}).out);
+        return Picture(x.name()).at(places);
     }
     std::string colour_at(int across, int down) { return colours_at({{across, down}}).at(0); }
 
@@ -83,12 +77,11 @@ TEST_P(Picking, OfEveryKindAndTheProgramSeesNothing) {
     start_picking();
     ask("follow ok");
     ask("follow tools.shy");
-    const std::filesystem::path before = folder.path / "before.png";
-    const std::filesystem::path after = folder.path / "after.png";
     keys.point_at(1700, 1080);
     EXPECT_TRUE(eventually([&] { return ask("log").find("MOUSE_EXITED") != std::string::npos; }));
-    EXPECT_TRUE(eventually([&] { return x.take_picture(before) > 16; }));
-    const Place inspector = where("vantrel");
+    const Place beside_inspector = {0, 0, where("vantrel").x, 1000};
+    const Picture before = settled_picture(beside_inspector);
+    EXPECT_GT(before.colours(), 16);
     for (const char* name : {"ok", "cancel", "amount", "tools.shy", "amount.label", "level", "notes", "group.field",
                              "awt.button", "awt.field", "room", "file"}) {
         SCOPED_TRACE(name);
@@ -101,11 +94,8 @@ TEST_P(Picking, OfEveryKindAndTheProgramSeesNothing) {
     std::this_thread::sleep_for(milliseconds(500));
     EXPECT_EQ(ask("log"), "");
     take_picture("picking-after");
-    EXPECT_TRUE(eventually([&] {
-        EXPECT_GT(x.take_picture(after), 0);
-        const std::string area = std::to_string(inspector.x) + "x1000+0+0";
-        return run({"compare", "-metric", "AE", "-extract", area, before, after, "null:"}).err == "0";
-    })) << "the program's window is not what it was";
+    EXPECT_TRUE(eventually([&] { return picture(beside_inspector) == before; }))
+        << "the program's window is not what it was";
 }
 
 TEST_P(Picking, DrawsABoxAndWalksByWheelAndArrows) {

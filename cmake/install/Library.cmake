@@ -1,0 +1,37 @@
+# What cmake --install puts into place for a VM that loads the agent, and for other projects: the library and the jar that
+# it looks for beside itself, the rewriter as a library of its own, public headers, and how CMake and pkg-config find
+# all that. The folders are GNUInstallDirs'; everything finds everything else from where it lies, so that the whole may
+# be moved.
+include(CMakePackageConfigHelpers)
+
+set(header_folder ${CMAKE_INSTALL_INCLUDEDIR}/vantrel)
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/vantrel-agent)
+set(pkgconfig_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+install(TARGETS vantrel-agent java-crw-demo EXPORT vantrel-agent
+    INCLUDES DESTINATION ${header_folder})
+install(FILES $<TARGET_PROPERTY:vantrel-companion,JAR_FILE> DESTINATION ${CMAKE_INSTALL_LIBDIR})
+set(sources ${PROJECT_SOURCE_DIR}/agent/vantrel-agent)
+install(FILES
+    ${sources}/CodeGenerater/CodeGenerater.h
+    ${sources}/agent_util.h
+    ${sources}/java_crw_demo/java_crw_demo.h
+    ${sources}/java_crw_demo/vantrel_rewriter.h
+    DESTINATION ${header_folder})
+
+install(EXPORT vantrel-agent
+    NAMESPACE vantrel-agent::
+    FILE vantrel-agent-config.cmake
+    DESTINATION ${package_folder})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/vantrel-agent-config-version.cmake
+    COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/vantrel-agent-config-version.cmake DESTINATION ${package_folder})
+
+# The prefix, seen from a .pc file's folder.
+file(RELATIVE_PATH prefix_from_pc ${CMAKE_INSTALL_PREFIX}/${pkgconfig_folder} ${CMAKE_INSTALL_PREFIX})
+cmake_path(SET prefix_from_pc NORMALIZE ${prefix_from_pc}/.)
+string(REGEX REPLACE "/$" "" prefix_from_pc ${prefix_from_pc})
+foreach(module vantrel-agent vantrel-rewriter)
+    configure_file(${CMAKE_CURRENT_LIST_DIR}/${module}.pc.in ${PROJECT_BINARY_DIR}/${module}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${module}.pc DESTINATION ${pkgconfig_folder})
+endforeach()

@@ -1,0 +1,30 @@
+# The packages that cpack makes: a .deb, and a .tar.gz that runs from any folder. scripts/release makes and checks both.
+# Who owns the project, and under which licence it is given away, is for its owner to fill in: here, and in copyright.
+set(CPACK_PACKAGE_NAME vantrel)
+set(CPACK_PACKAGE_CONTACT "The owner of Vantrel <owner@vantrel.invalid>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "user-interface inspector for Swing programs")
+set(CPACK_PACKAGE_DESCRIPTION
+"Which component is this, why does it look as it does, and which line of the
+ program put it there? A native agent for the Java VM brings an inspector into
+ a Swing program, which need not be changed for that: \"vantrel run\" starts it so,
+ and Control+F12 shows the inspector.
+ .
+ Besides: vantrel-rewrite injects calls of a tracker class into class files and
+ jars, vantrel-generate writes C++ proxies of Java classes, and the same can be
+ had as libraries for C and C++.")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_GENERATOR DEB TGZ)
+set(CPACK_PACKAGE_FILE_NAME vantrel-${PROJECT_VERSION}-linux-x86_64)
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION java)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "default-jre, libxcb1")
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+
+set(doc_folder ${CMAKE_INSTALL_DATADIR}/doc/vantrel)
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/copyright DESTINATION ${doc_folder})
+install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${doc_folder})
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${doc_folder})
+include(CPack)
