@@ -14,7 +14,8 @@ give_up() {
 }
 
 # step WHAT COMMAND...: runs a command that takes a while and says only how long it took. When it fails, the end of its
-# output is shown and the script ends.
+# output is shown and the script ends. Where `goes_on_without` is set, its output is only named, in the line that the
+# caller goes on with.
 step() {
     local what=$1 started=$SECONDS log pid status=0
     shift
@@ -33,6 +34,10 @@ step() {
         printf '%s …' "$what" >&2
     fi
     wait "$pid" || status=$?
+    if [ "$status" -ne 0 ] && [ -n "${goes_on_without:-}" ]; then
+        printf '%s failed (%s); ' "$([ -t 2 ] && printf '%s …' "$what")" "$log" >&2
+        exit 1
+    fi
     if [ "$status" -ne 0 ]; then
         # The lines about tests that passed, and about warnings that clang-tidy does not show, would hide the others.
         printf '%s failed. The end of %s:\n' "$([ -t 2 ] && printf '%s …' "$what")" "$log" >&2

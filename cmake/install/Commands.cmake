@@ -11,12 +11,13 @@ set(maker ${CMAKE_CURRENT_LIST_DIR}/manual-page.cmake)
 foreach(command vantrel vantrel-generate vantrel-rewrite)
     set(manual ${PROJECT_SOURCE_DIR}/docs/${command}.md)
     set(page ${PROJECT_BINARY_DIR}/man/${command}.1)
-    add_custom_command(OUTPUT ${page}
+    add_custom_command(OUTPUT ${page}.gz
         COMMAND ${CMAKE_COMMAND} -D MANUAL=${manual} -D PAGE=${page} -D VERSION=${PROJECT_VERSION}
             -D LOWDOWN=${LOWDOWN} -P ${maker}
+        COMMAND gzip -9nf ${page}
         DEPENDS ${manual} ${maker}
         VERBATIM)
-    list(APPEND pages ${page})
+    list(APPEND pages ${page}.gz)
 endforeach()
 add_custom_target(manual-pages ALL DEPENDS ${pages})
 install(FILES ${pages} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

@@ -18,6 +18,13 @@ install(FILES
     ${sources}/java_crw_demo/java_crw_demo.h
     ${sources}/java_crw_demo/vantrel_rewriter.h
     DESTINATION ${header_folder})
+# What proxies include, vantrel-generate's and others.
+install(FILES
+    ${sources}/JCBase.h
+    ${sources}/JavaInc.h
+    ${sources}/assertion.h
+    ${sources}/common.h
+    DESTINATION ${header_folder})
 
 install(EXPORT vantrel-agent
     NAMESPACE vantrel-agent::

@@ -1,13 +1,12 @@
-// What the macOS keyboard asks of Carbon and Quartz, by recording stand-ins for them.
-#include <Carbon/Carbon.h>
+// What the macOS keyboard asks of Carbon and Quartz.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "keyboard.h"
+#include "recording_carbon.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -16,60 +15,14 @@ OSStatus myHotKeyHandler(EventHandlerCallRef next, EventRef event, void* userDat
 
 namespace {
 
-std::vector<std::string> calls;
-OSStatus status = noErr;  // of every call
-CGEventFlags flags = 0;
-void* user_data = nullptr;
 int presses = 0;
 
 void on_press() {
     ++presses;
 }
 
-template <typename... Parts>
-void record(const Parts&... parts) {
-    std::ostringstream call;
-    ((call << parts << ' '), ...);
-    calls.push_back(call.str());
-}
-
-// Handles that can be told from each other.
-const auto kTarget = reinterpret_cast<EventTargetRef>(0x7A);
-const auto kHotKey = reinterpret_cast<EventHotKeyRef>(0x40);
-
-}  // namespace
-
-EventTargetRef GetApplicationEventTarget() {
-    return kTarget;
-}
-OSStatus InstallEventHandler(EventTargetRef target, EventHandlerUPP handler, ItemCount typeCount,
-                             const EventTypeSpec* types, void* userData, EventHandlerRef* handlerRef) {
-    record("install", target == kTarget, handler == &myHotKeyHandler, typeCount, types[0].eventClass,
-           types[0].eventKind, handlerRef == nullptr);
-    user_data = userData;
-    return status;
-}
-OSStatus RegisterEventHotKey(UInt32 keyCode, UInt32 modifiers, EventHotKeyID id, EventTargetRef target,
-                             OptionBits options, EventHotKeyRef* hotKeyRef) {
-    record("register", keyCode, modifiers, id.signature, id.id, target == kTarget, options);
-    if (status == noErr) {
-        *hotKeyRef = kHotKey;
-    }
-    return status;
-}
-OSStatus UnregisterEventHotKey(EventHotKeyRef hotKeyRef) {
-    record("unregister", hotKeyRef == kHotKey);
-    return status;
-}
-CGEventFlags CGEventSourceFlagsState(CGEventSourceStateID state) {
-    record("flags", state);
-    return flags;
-}
-
-namespace {
-
 std::string bind() {
-    calls.clear();
+    carbon.calls.clear();
     testing::internal::CaptureStdout();
     bindMacHotKey(on_press);
     return testing::internal::GetCapturedStdout();
@@ -78,29 +31,30 @@ std::string bind() {
 // One test, for the file keeps what it has registered.
 TEST(Carbon, RegistersAndUnregistersTheHotKey) {
     unbindMacHotKey();
-    EXPECT_THAT(calls, IsEmpty()) << "nothing is registered yet";
+    EXPECT_THAT(carbon.calls, IsEmpty()) << "nothing is registered yet";
 
     const std::string announcement = "Pressing \u2318+F12 to toggle the Vantrel window visible.\n";
     // 'keyb' 5; F12 with Command, 'mhk1' 1.
-    const std::string install = "install 1 1 1 1801812322 5 1 ";
+    const std::string install = "install 1 1 1801812322 5 1 ";
     const std::string registration = "register 111 256 1835559729 1 1 0 ";
-    status = -9878;  // the key is taken
+    carbon.status = -9878;  // the key is taken
     EXPECT_EQ(bind(), announcement);
-    EXPECT_THAT(calls, ElementsAre(install, registration));
+    EXPECT_THAT(carbon.calls, ElementsAre(install, registration));
     unbindMacHotKey();
-    EXPECT_EQ(calls.size(), 2u) << "the registration failed";
+    EXPECT_EQ(carbon.calls.size(), 2u) << "the registration failed";
 
-    status = noErr;
+    carbon.status = noErr;
     EXPECT_EQ(bind(), announcement);
-    EXPECT_THAT(calls, ElementsAre(install, registration));
+    EXPECT_THAT(carbon.calls, ElementsAre(install, registration));
     EXPECT_EQ(presses, 0);
-    EXPECT_EQ(myHotKeyHandler(nullptr, nullptr, user_data), noErr);
-    EXPECT_EQ(myHotKeyHandler(nullptr, nullptr, user_data), noErr);
+    EXPECT_EQ(carbon.handler, &myHotKeyHandler);
+    EXPECT_EQ(carbon.press(), noErr);
+    EXPECT_EQ(carbon.press(), noErr);
     EXPECT_EQ(presses, 2);
 
-    calls.clear();
+    carbon.calls.clear();
     unbindMacHotKey();
-    EXPECT_THAT(calls, ElementsAre("unregister 1 "));
+    EXPECT_THAT(carbon.calls, ElementsAre("unregister 1 "));
 }
 
 TEST(Carbon, EitherCommandKeyCounts) {
@@ -120,10 +74,10 @@ TEST(Carbon, EitherCommandKeyCounts) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.flags);
-        calls.clear();
-        flags = c.flags;
+        carbon.calls.clear();
+        carbon.flags = c.flags;
         EXPECT_EQ(isHotKeyModifierHeld(), c.held);
-        EXPECT_EQ(calls, std::vector<std::string>(c.queries, "flags 0 "));
+        EXPECT_EQ(carbon.calls, std::vector<std::string>(c.queries, "flags 0 "));
     }
 }
 

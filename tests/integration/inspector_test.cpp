@@ -291,9 +291,9 @@ TEST_P(Inspector, ADisplayThatGoesAwayDoesNotEndAProgramWithoutWindows) {
 }
 
 // Some by themselves; some are ended while the hot key is pressed at any moment of their life. With --gtest_repeat this
-// goes on for as long as one likes.
+// goes on for as long as you like.
 TEST_P(Inspector, StartsAndEndsManyTimes) {
-    constexpr int kCycles = 25;  // of each kind
+    constexpr int kCycles = 10;  // of each kind
     struct Way {
         const char* name;
         int status;
@@ -323,7 +323,7 @@ TEST_P(Inspector, StartsAndEndsManyTimes) {
 }
 
 TEST_P(Inspector, EndsWhileItsNativesRun) {
-    for (int end = 0; end < 25; ++end) {
+    for (int end = 0; end < 10; ++end) {
         const Finished ended = run(java_under_agent(GetParam(), {"-cp", kPrograms, "EndingInside"}),
                                    {.folder = folder.path, .environment = {x.display()}});
         EXPECT_EQ(ended.status, 3) << ended.out << ended.err;

@@ -9,7 +9,7 @@
 
 class XServer {
   public:
-    // options   of Xvfb, behind those that every test needs
+    // options   of Xvfb, after those that every test needs
     explicit XServer(const std::vector<std::string>& options = {});
 
     // The server's name, as programs take it in an option.

@@ -1,4 +1,4 @@
-// Windows on a real X server: of whom they are, and which one has the focus.
+// Windows on a real X server: whose process they belong to, and which one has the focus.
 #ifndef VANTREL_X_WINDOWS_H
 #define VANTREL_X_WINDOWS_H
 

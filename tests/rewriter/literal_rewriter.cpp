@@ -527,7 +527,7 @@ bool is_two_byte_branch(std::uint32_t opcode) {
     return (opcode >= op::ifeq && opcode <= op::jsr) || opcode == op::ifnull || opcode == op::ifnonnull;
 }
 
-// Where the operands of a switch at `pc` start, behind the padding.
+// Where the operands of a switch at `pc` start, after the padding.
 std::int32_t switch_operands(std::int32_t pc) {
     return (pc + 4) & ~3;
 }
@@ -616,7 +616,7 @@ void plan_instruction(MethodState& mi) {
     }
 }
 
-// False when the instruction needed another size, and everything behind it has moved.
+// False when the instruction needed another size, and everything after it has moved.
 bool adjust_instruction(MethodState& mi) {
     ClassState& ci = mi.ci;
     const std::int32_t pc = input_code_offset(mi);
@@ -996,7 +996,7 @@ void method_write_bytecodes(ClassState& ci, std::uint32_t number) {
         check_allocation(0);
     }
     check_allocation(std::int64_t{code_len} + 1);
-    // Code that is longer than what is left of the image fails in the first pass, before anything that lies behind the
+    // Code that is longer than what is left of the image fails in the first pass, before anything that lies after the
     // image's end is looked up: the arrays need be no longer.
     const auto entries =
         static_cast<std::size_t>(std::min<std::int64_t>(code_len, ci.input_len - ci.input_position)) + 1;

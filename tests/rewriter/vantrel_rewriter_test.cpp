@@ -201,7 +201,7 @@ TEST(SecondDoor, GrowsAsMuchAsIsNeeded) {
     EXPECT_EQ(Call(assemble(full)).run(), VANTREL_REWRITER_TOO_LARGE);
 }
 
-// One annotation of each kind that code has: how it is targeted, with a nested value behind.
+// One annotation of each kind that code has: how it is targeted, with a nested value after it.
 Attribute annotations(const std::vector<Bytes>& targets) {
     const Bytes value =
         cat({u2(1), u2(2), u1('['), u2(2), u1('e'), u2(1), u2(1), u1('@'), u2(1), u2(1), u2(1), u1('I'), u2(1)});

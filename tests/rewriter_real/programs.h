@@ -40,7 +40,7 @@ Tracked run_both_ways(int release, const Arguments& arguments, const std::filesy
 // its call was under way, or the call was under way when the VM ended.
 void expect_same_and_balanced(const Tracked& tracked);
 
-// The number behind a word at the start of a line of a program's output.
+// The number after a word at the start of a line of a program's output.
 long number_behind(const std::string& word, const std::string& output);
 
 #endif

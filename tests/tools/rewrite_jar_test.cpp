@@ -57,7 +57,7 @@ TEST(Jar, KeepsAllButTheContentsOfItsClasses) {
     EXPECT_EQ(comment_of(scratch.path / "out.jar"), "the jar's own words");
 }
 
-// The jar tool writes sizes behind the entries and marks a jar as one; zip adds times and owners of its own.
+// The jar tool writes sizes after the entries and marks a jar as one; zip adds times and owners of its own.
 TEST(Jar, OfOtherToolsKeepsTheRecordsOfItsEntries) {
     const ScratchFolder scratch;
     write(scratch.path / "files/Program.class", program_class());

@@ -59,7 +59,7 @@ TEST_P(Run, BecomesJava) {
     EXPECT_EQ(program.err(), kNoDisplay) << "the VM has picked nothing up";
 }
 
-// An agent in Java that is started behind ours would miss classes.
+// An agent in Java that is started after ours would miss classes.
 TEST_P(Run, ComesBehindAgentsInJava) {
     const std::string agent = "-javaagent:" + kStartedJar.string();
     const struct {

@@ -1,5 +1,5 @@
 // The part of macOS's Carbon and Quartz interfaces that keyboard_carbon.cpp uses, as Apple documents it, in
-// declarations only: what compiles against this compiles on a Mac. carbon_test.cpp has the functions.
+// declarations only: what compiles against this compiles on a Mac. recording_carbon.cpp has the functions.
 #ifndef VANTREL_TEST_CARBON_H
 #define VANTREL_TEST_CARBON_H
 

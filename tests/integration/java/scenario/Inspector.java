@@ -72,8 +72,10 @@ final class Inspector {
     }
 
     /**
-     * The rows of a list or table, selected ones behind "* ", others behind "- ", cells separated by " | "; the text of
-     * anything that has one, be it only for those who do not see; all texts below a panel.
+     * What a person would read of a component: of a list or table its rows, with "* " before those that are selected
+     * and
+     * "- " before the others, and " | " between cells; of anything else its text, be it only one that is read aloud to
+     * those who do not see; of a panel all texts below it.
      */
     static String describe(String name) {
         return String.join("\n", lines(find(name)));

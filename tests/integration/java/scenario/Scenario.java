@@ -14,8 +14,9 @@ import javax.swing.SwingUtilities;
  * told, and tells what it saw.
  *
  * <p>Commands are lines that are appended to a file "commands" in the program's folder. The answer to the Nth one is
- * written to the standard output: each of its lines behind "N| ", and then a line "N." alone. {@link Commands} lists
- * them. The system property "theme" names one of {@link Themes}. The program ends by itself when its windows are gone.
+ * written to the standard output: each of its lines with "N| " before it, and then a line "N." alone. {@link Commands}
+ * lists them. The system property "theme" names one of {@link Themes}. The program ends by itself when its windows are
+ * gone.
  */
 public final class Scenario {
     private static final Path COMMANDS = Path.of("commands");

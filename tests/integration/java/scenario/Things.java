@@ -38,7 +38,7 @@ final class Things {
         return type.cast(get(name));
     }
 
-    /** A component's name here, or its nearest ancestor's behind a "<"; its class where there is none. */
+    /** A component's name here; or "<" and the name of its nearest ancestor that has one; or else its class. */
     String nameOf(Component component) {
         for (Component at = component; at != null; at = at.getParent()) {
             String name = names.get(at);

@@ -57,7 +57,7 @@ public final class Facts {
         return toolkits(component, "getParent") ? component.getParent() : (Container) Fields.PARENT.of(component, null);
     }
 
-    /** The components in a container, in its order, and behind them the windows that it owns. */
+    /** The components in a container, in its order, and after them the windows that it owns. */
     public static Component[] children(Component component) {
         Component[] inside = component instanceof Container ? inside((Container) component) : NONE;
         if (!(component instanceof Window) || !toolkits(component, "getOwnedWindows")) {

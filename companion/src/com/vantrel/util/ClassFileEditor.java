@@ -32,7 +32,7 @@ final class ClassFileEditor {
     private static final int POOL_COUNT_AT = 8;
 
     private final ByteBuffer image;
-    /** Where each constant lies in the image, by its index; 0 for what is none. */
+    /** Where each constant lies in the image, by its index; 0 for an index that no constant has. */
     private final int[] constantAt;
     private final int poolEnd;
     private final int fieldsAt;
@@ -210,7 +210,7 @@ final class ClassFileEditor {
         return image.getShort(at) & 0xFFFF;
     }
 
-    /** Fills constantAt and returns the position behind the constant pool (4.4). */
+    /** Fills constantAt and returns the position after the constant pool (4.4). */
     private int indexConstants(int poolAt) {
         int at = poolAt;
         for (int index = 1; index < poolCount; index++) {

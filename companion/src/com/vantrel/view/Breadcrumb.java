@@ -172,7 +172,7 @@ final class Breadcrumb extends JComponent {
         g.dispose();
     }
 
-    /** How many crumbs behind the first one must go for the rest to have room. */
+    /** How many crumbs after the first one must go for the rest to have room. */
     private int leftOut(FontMetrics metrics, int room) {
         int separator = metrics.stringWidth(SEPARATOR);
         int width = 0;

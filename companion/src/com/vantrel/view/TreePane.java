@@ -188,7 +188,7 @@ final class TreePane extends JPanel {
         }
     }
 
-    /** Goes on behind whatever waits for the event thread already. */
+    /** Goes on after whatever waits for the event thread already. */
     private void goOnLater() {
         if (!willGoOn) {
             willGoOn = true;

@@ -43,7 +43,7 @@ public class ComponentTreeTest {
         return component;
     }
 
-    /** The rows' names, or classes, each behind a dot for each level. */
+    /** The rows' names, or classes, each after a dot for every level. */
     private String rows() {
         List<String> rows = new ArrayList<>();
         for (TreeNode node : tree.rows()) {

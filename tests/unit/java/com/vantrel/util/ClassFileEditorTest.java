@@ -58,7 +58,7 @@ public class ClassFileEditorTest {
             }
         }
 
-        /** Writes to the field behind every instruction whose length has to be worked out, and beside a look-alike. */
+        /** Writes to the field after every instruction whose length has to be worked out, and beside a look-alike. */
         public int write(int number) {
             int sum = number;
             switch (number) {
