@@ -41,6 +41,7 @@ void by_vantrel_rewriter(const Image& image) {
                                                      7,
                                                      0,
                                                      nullptr,
+                                                     nullptr,
                                                      nullptr};
     VantrelRewriterResult result;
     result.size = sizeof result;

@@ -109,6 +109,7 @@ struct ClassRewriteState {
     bool is_system_class = false;
     bool is_object_class = false;
     bool is_thread_class = false;
+    bool newarray_takes_numbers = false;  // its tracker, as the call tracker does, and not the array
     const char* tracker_class_name = nullptr;
     uint16_t tracker_class_index = 0;
     uint16_t class_number_index = 0;  // of an Integer with the class number; 0 where that fits in 15 bits

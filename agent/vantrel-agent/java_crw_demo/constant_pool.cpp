@@ -230,7 +230,8 @@ void cpool_setup(ClassRewriteState& ci) {
 
     ci.end_of_own_pool = ci.output_position;
     Appender appender(ci);
-    const bool pushes_class_number = ci.call_tracker.name != nullptr || ci.return_tracker.name != nullptr;
+    const bool pushes_class_number =
+        ci.call_tracker.name != nullptr || ci.return_tracker.name != nullptr || ci.newarray_takes_numbers;
     if (pushes_class_number && ci.number > kLargestImmediate) {
         ci.class_number_index = appender.pair(kInteger, ci.number >> 16U, ci.number & 0xFFFFU);
     }

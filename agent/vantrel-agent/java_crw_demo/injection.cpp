@@ -68,17 +68,18 @@ void make_call(InjectionTemplate& call, const Pushes& pushes, const Tracker& tra
 void prepare_injections(MethodRewriteState& mi) {
     ClassRewriteState& ci = mi.ci;
     Injections& calls = ci.injections;
+    constexpr Pushes kTheArray = {kDup, 1};
+    Pushes numbers;
+    push_class_number(numbers, ci);
+    push(numbers, mi.number);
     if (mi.object_init_method) {
         make_call(calls.entry, {kAload0, 1}, ci.object_init_tracker);
         calls.at_return.len = 0;
     } else {
-        Pushes pushes;
-        push_class_number(pushes, ci);
-        push(pushes, mi.number);
-        make_call(calls.entry, pushes, ci.call_tracker);
-        make_call(calls.at_return, pushes, ci.return_tracker);
+        make_call(calls.entry, numbers, ci.call_tracker);
+        make_call(calls.at_return, numbers, ci.return_tracker);
     }
-    make_call(calls.newarray, {kDup, 1}, ci.newarray_tracker);
+    make_call(calls.newarray, ci.newarray_takes_numbers ? numbers : kTheArray, ci.newarray_tracker);
     if (calls.entry.len > 0) {
         need_stack(mi, mi.object_init_method ? 1 : 2);
     }

@@ -120,7 +120,7 @@ class Planner {
                 // The injection goes before the next instruction, whose pc leads past the injection.
                 const uint32_t pc_next = end_of_instruction(pc + length_of_array_creation(opcode));
                 add({pc_next, pc_next, Site::kNewArray, 0});
-                need_stack(mi_, 1);
+                need_stack(mi_, mi_.ci.newarray_takes_numbers ? 2 : 1);
                 shift_ += mi_.injections.newarray.len;
                 return pc_next;
             }
