@@ -225,18 +225,24 @@ class Settler {
     static constexpr size_t kBits = 64;
 
     void find_candidates() {
-        // By site, by how much all before it can grow.
         const std::span<const Site> sites = mi_.sites;
+        // By site, by how much all before it can grow, and how many candidates there are before it.
         std::vector<int32_t> growth_before(sites.size() + 1, 0);
+        std::vector<uint32_t> candidates_before(sites.size() + 1, 0);
+        // By pc, how many sites end there or before.
+        std::vector<uint32_t> sites_up_to(static_cast<size_t>(mi_.code_len) + 1);
+        size_t pc = 0;
         for (size_t i = 0; i < sites.size(); ++i) {
             growth_before[i + 1] = growth_before[i] + largest_growth(sites[i]);
+            for (; pc < sites[i].pc_next; ++pc) {
+                sites_up_to[pc] = static_cast<uint32_t>(i);
+            }
         }
-        const auto growth_up_to = [&](uint32_t pc) {
-            const auto site = std::partition_point(sites.begin(), sites.end(),
-                                                   [pc](const Site& other) { return other.pc_next <= pc; });
-            return growth_before[static_cast<size_t>(site - sites.begin())];
-        };
+        std::fill(sites_up_to.begin() + static_cast<ptrdiff_t>(pc), sites_up_to.end(),
+                  static_cast<uint32_t>(sites.size()));
+        candidates_.reserve(sites.size());
         for (size_t i = 0; i < sites.size(); ++i) {
+            candidates_before[i] = static_cast<uint32_t>(candidates_.size());
             Site& site = mi_.sites[i];
             const int32_t new_pc = mi_.map[site.pc];
             const int32_t grown_pc = new_pc + growth_before[i];
@@ -245,21 +251,17 @@ class Settler {
             } else if (site.kind == Site::kBranch) {
                 const uint32_t target = target_of(site, offset_of(site, code_));
                 const int32_t offset = mi_.map[target] - new_pc;
-                const int32_t grown_offset = offset + growth_up_to(target) - growth_before[i];
+                const uint32_t before = sites_up_to[target];
+                const int32_t grown_offset = offset + growth_before[before] - growth_before[i];
                 // One that lies far away without growing may come nearer: a switch's padding may shrink.
                 if (!fits(grown_offset) || !fits(offset)) {
-                    candidates_.push_back({&site, new_pc, offset, grown_pc, growth_of(code_[site.pc])});
+                    candidates_.push_back({&site, new_pc, offset, grown_pc, growth_of(code_[site.pc]), before});
                 }
             }
         }
+        candidates_before.back() = static_cast<uint32_t>(candidates_.size());
         for (Candidate& candidate : candidates_) {
-            if (candidate.site->kind == Site::kBranch) {
-                const uint32_t target = target_of(*candidate.site, offset_of(*candidate.site, code_));
-                candidate.before = static_cast<size_t>(
-                    std::partition_point(candidates_.begin(), candidates_.end(),
-                                         [target](const Candidate& other) { return other.site->pc_next <= target; }) -
-                    candidates_.begin());
-            }
+            candidate.before = candidates_before[candidate.before];
         }
     }
 
