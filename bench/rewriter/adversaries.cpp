@@ -87,6 +87,37 @@ Bytes switches(unsigned opcode) {
     return code;
 }
 
+// Branches forward at one end and back at the other, each of which makes the next one at the other end too long, and no
+// other. The first one jumps over a return that grows.
+Bytes to_and_fro(int count) {
+    constexpr std::size_t kBranchSize = 3;
+    constexpr std::size_t kStep = 5;  // a branch back, and what one forward to before it has the less to spare
+    constexpr std::size_t kBefore = 3 * kBranchSize;
+    const auto all = static_cast<std::size_t>(count);
+    const std::size_t first_forward = kBefore + kBranchSize * (all - 1);
+    const std::size_t first_back = first_forward + static_cast<std::size_t>(kFarthest) - 9;
+    Bytes code = times(first_back + kStep, {op::nop});
+    append(code, times(kStep, u1(op::return_)));
+    for (int i = 0; i < count; ++i) {
+        const auto before = static_cast<std::size_t>(i);
+        const std::size_t forward = first_forward - kBranchSize * before;
+        const std::size_t back = first_back - kStep * before;
+        code[forward] = code[back] = op::goto_;
+        aim(code, forward, i == 0 ? kFarthest : kFarthest - (2 * i + 1));
+        aim(code, back, -kFarthest - 1 + 2 * i + 1);
+    }
+    return code;
+}
+
+// The scattered ones, some of which jump over a switch, too.
+Bytes scattered_around_switch(unsigned opcode) {
+    Bytes code = scattered(opcode, 3000);
+    constexpr std::size_t kPc = 36004;  // among the nops that follow the branches
+    const Bytes instruction = lookupswitch(kPc, 0, {});
+    std::copy(instruction.begin(), instruction.end(), code.begin() + kPc);
+    return code;
+}
+
 Adversary adversary(const std::string& name, const Bytes& code) {
     ClassFile file;
     file.methods.push_back({.code = Code{.bytes = code}});
@@ -101,7 +132,9 @@ std::vector<Adversary> adversaries() {
             adversary("short_then_far/if", short_then_far(op::ifeq)),
             adversary("chain", chain(op::goto_)),
             adversary("scattered/3000", scattered(op::goto_, 3000)),
+            adversary("scattered around a switch", scattered_around_switch(op::goto_)),
             adversary("scattered/40", scattered(op::goto_, 40)),
             adversary("one_sided", one_sided(op::goto_)),
+            adversary("to_and_fro", to_and_fro(4000)),
             adversary("switches", switches(op::ifeq))};
 }

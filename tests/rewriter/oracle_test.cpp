@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "adversaries.h"
 #include "class_builder.h"
 #include "literal_rewriter.h"
 #include "product.h"
@@ -149,6 +150,15 @@ ClassFile class_with(const Code& code) {
     ClassFile file;
     file.methods.push_back({.code = code});
     return file;
+}
+
+// Methods whose branches grow in an order that is hard to find.
+TEST(Oracle, AgreesOnTheHardestMethods) {
+    for (const Adversary& adversary : adversaries()) {
+        const Comparison compared = compare(adversary.image, all_trackers());
+        EXPECT_EQ(compared.problem, "") << adversary.name;
+        EXPECT_GT(compared.literal.widened, 1000U) << adversary.name;
+    }
 }
 
 // Where a count or a length no longer fits, from a little below to a little above.

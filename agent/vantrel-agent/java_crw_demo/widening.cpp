@@ -2,14 +2,21 @@
 
 #include <algorithm>
 #include <bit>
-#include <climits>
+#include <cstdint>
 #include <numeric>
-#include <span>
 #include <utility>
 #include <vector>
 
 #include "branches.h"
+#include "budgets.h"
+#include "candidates.h"
+#include "sweeps.h"
 
+// Without a switch nothing ever shrinks: a branch that is too long at any time is so in the end, and which branches
+// grow does not depend on the order of the changes. So a few sweeps over all of them come first (sweeps.h), and mostly
+// there is nothing left to do. What follows is for methods with switches, and for the rest where the sweeps were not
+// enough.
+//
 // The scan changes, again and again, the first site that is not as it should be. Here the same changes are made in the
 // same order, without looking at all sites each time: `pending` holds every site that may not be as it should be, and
 // the first one of it is looked at. It is changed if it needs to be, and taken out. A change moves what follows, and so
@@ -35,147 +42,6 @@ namespace {
 
 constexpr int32_t kPivotDistance = INT16_MAX + 1;
 
-// Sums over the beginnings of a sequence of numbers, which may change (a Fenwick tree).
-class Sums {
-  public:
-    explicit Sums(size_t size) : partial_(size + 1, 0) {}
-
-    void add(size_t at, int32_t amount) {
-        for (++at; at < partial_.size(); at += at & (~at + 1)) {
-            partial_[at] += amount;
-        }
-    }
-
-    // Of the first `count` numbers.
-    [[nodiscard]] int32_t of_first(size_t count) const {
-        int32_t sum = 0;
-        for (; count > 0; count &= count - 1) {
-            sum += partial_[count];
-        }
-        return sum;
-    }
-
-  private:
-    std::vector<int32_t> partial_;
-};
-
-// Budgets, each of which can be set, and those before or after a place be charged, to find one that is used up. A tree
-// whose entries have the least budget below them. They come in blocks, which a processor goes through several entries
-// at a time.
-class Budgets {
-  public:
-    explicit Budgets(size_t count) {
-        do {
-            count = (count + kBlock - 1) / kBlock;
-            levels_.push_back({std::vector<int32_t>(count * kBlock, kPlenty), std::vector<int32_t>(count * kBlock, 0)});
-        } while (count > 1);
-    }
-
-    void set(size_t at, int32_t budget) {
-        int32_t charged = 0;
-        size_t above = at;
-        for (size_t level = 1; level < levels_.size(); ++level) {
-            above /= kBlock;
-            charged += levels_[level].charged[above];
-        }
-        levels_[0].least[at] = std::min(budget, kPlenty) + charged;
-        bool changes = true;
-        for (size_t level = 1; level < levels_.size() && changes; ++level) {
-            at /= kBlock;
-            changes = update(level, at);
-        }
-    }
-
-    void charge_before(size_t end, int32_t amount) {
-        for (size_t level = 0; level < levels_.size(); ++level) {
-            const size_t block = end / kBlock;
-            charge(level, block * kBlock, end, amount);
-            update(level + 1, block);
-            end = block;
-        }
-    }
-
-    void charge_from(size_t begin, int32_t amount) {
-        for (size_t level = 0; level < levels_.size(); ++level) {
-            const size_t block = begin / kBlock;
-            charge(level, begin, std::min((block + 1) * kBlock, levels_[level].least.size()), amount);
-            update(level + 1, block);
-            begin = block + 1;
-        }
-    }
-
-    // Whether there is a budget that is used up. If so, `at` becomes one.
-    [[nodiscard]] bool find_used_up(size_t& at) const {
-        size_t entry = 0;
-        int32_t charged = 0;
-        for (size_t level = levels_.size(); level-- > 0;) {
-            const int32_t* least = &levels_[level].least[entry * kBlock];
-            const int32_t* end = least + kBlock;
-            const int32_t* found = std::find_if(least, end, [charged](int32_t budget) { return budget <= charged; });
-            if (found == end) {
-                return false;
-            }
-            entry = entry * kBlock + static_cast<size_t>(found - least);
-            charged += levels_[level].charged[entry];
-        }
-        at = entry;
-        return true;
-    }
-
-  private:
-    static constexpr size_t kBlock = 16;
-    static constexpr int32_t kPlenty = INT32_MAX / 2;
-
-    // The budgets themselves, or what stands above the blocks of the level below.
-    struct Level {
-        std::vector<int32_t> least;    // without what is charged above
-        std::vector<int32_t> charged;  // to all below
-    };
-
-    void charge(size_t level, size_t begin, size_t end, int32_t amount) {
-        for (size_t i = begin; i < end; ++i) {
-            levels_[level].least[i] -= amount;
-            levels_[level].charged[i] += amount;
-        }
-    }
-
-    // Makes an entry what the block below it says, if there is one. Returns whether it was something else.
-    bool update(size_t level, size_t at) {
-        if (level == levels_.size() || at * kBlock >= levels_[level - 1].least.size()) {
-            return false;
-        }
-        const int32_t least = least_of(&levels_[level - 1].least[at * kBlock]) - levels_[level].charged[at];
-        return std::exchange(levels_[level].least[at], least) != least;
-    }
-
-    // Of a block. Four at a time, which do not wait for each other.
-    static int32_t least_of(const int32_t* block) {
-        int32_t least[4] = {block[0], block[1], block[2], block[3]};
-        for (size_t i = 4; i < kBlock; ++i) {
-            least[i % 4] = std::min(least[i % 4], block[i]);
-        }
-        return std::min(std::min(least[0], least[1]), std::min(least[2], least[3]));
-    }
-
-    std::vector<Level> levels_;
-};
-
-// A site whose widening is open: a switch, or a branch that may become too long.
-struct Candidate {
-    Site* site;
-    int32_t new_pc;      // before any widening
-    int32_t offset;      // of a branch, before any widening
-    int32_t grown_pc;    // where it is when all before it has grown as much as it can
-    int8_t full_growth;  // by how much a branch grows when it does
-    size_t before = 0;   // how many candidates end at or before the target of a branch
-    size_t pivot = 0;
-    uint32_t rank_by_begin = 0;  // of a branch among those with its pivot
-    uint32_t rank_by_end = 0;
-
-    [[nodiscard]] size_t first_between(size_t own) const { return std::min(own, before); }
-    [[nodiscard]] size_t last_between(size_t own) const { return std::max(own, before); }
-};
-
 // Branches ordered by a place that each has, the number of candidates before it.
 struct Order {
     std::vector<uint32_t> branches;  // by index of candidate
@@ -195,12 +61,12 @@ struct Pivot {
 
 class Settler {
   public:
-    Settler(MethodRewriteState& mi, const uint8_t* code) : mi_(mi), code_(code) {
-        find_candidates();
-        shifts_ = Sums(candidates_.size());
+    Settler(std::vector<Candidate> candidates, const uint8_t* code)
+        : candidates_(std::move(candidates)), shifts_(candidates_.size()) {
         largest_shifts_.reserve(candidates_.size() + 1);
         for (const Candidate& candidate : candidates_) {
-            largest_shifts_.push_back(largest_shifts_.back() + largest_growth(*candidate.site));
+            largest_shifts_.push_back(largest_shifts_.back() + largest_growth(*candidate.site, code));
+            shifts_.add(largest_shifts_.size() - 2, candidate.site->widening);
         }
         make_pivots();
     }
@@ -224,59 +90,14 @@ class Settler {
   private:
     static constexpr size_t kBits = 64;
 
-    void find_candidates() {
-        const std::span<const Site> sites = mi_.sites;
-        // By site, by how much all before it can grow, and how many candidates there are before it.
-        std::vector<int32_t> growth_before(sites.size() + 1, 0);
-        std::vector<uint32_t> candidates_before(sites.size() + 1, 0);
-        // By pc, how many sites end there or before.
-        std::vector<uint32_t> sites_up_to(static_cast<size_t>(mi_.code_len) + 1);
-        size_t pc = 0;
-        for (size_t i = 0; i < sites.size(); ++i) {
-            growth_before[i + 1] = growth_before[i] + largest_growth(sites[i]);
-            for (; pc < sites[i].pc_next; ++pc) {
-                sites_up_to[pc] = static_cast<uint32_t>(i);
-            }
-        }
-        std::fill(sites_up_to.begin() + static_cast<ptrdiff_t>(pc), sites_up_to.end(),
-                  static_cast<uint32_t>(sites.size()));
-        candidates_.reserve(sites.size());
-        for (size_t i = 0; i < sites.size(); ++i) {
-            candidates_before[i] = static_cast<uint32_t>(candidates_.size());
-            Site& site = mi_.sites[i];
-            const int32_t new_pc = mi_.map[site.pc];
-            const int32_t grown_pc = new_pc + growth_before[i];
-            if (is_switch(site)) {
-                candidates_.push_back({&site, new_pc, 0, grown_pc, 0});
-            } else if (site.kind == Site::kBranch) {
-                const uint32_t target = target_of(site, offset_of(site, code_));
-                const int32_t offset = mi_.map[target] - new_pc;
-                const uint32_t before = sites_up_to[target];
-                const int32_t grown_offset = offset + growth_before[before] - growth_before[i];
-                // One that lies far away without growing may come nearer: a switch's padding may shrink.
-                if (!fits(grown_offset) || !fits(offset)) {
-                    candidates_.push_back({&site, new_pc, offset, grown_pc, growth_of(code_[site.pc]), before});
-                }
-            }
-        }
-        candidates_before.back() = static_cast<uint32_t>(candidates_.size());
-        for (Candidate& candidate : candidates_) {
-            candidate.before = candidates_before[candidate.before];
-        }
-    }
-
-    [[nodiscard]] int8_t largest_growth(const Site& site) const {
-        if (is_switch(site)) {
-            return kLargestPaddingChange;
-        }
-        return site.kind == Site::kBranch ? growth_of(code_[site.pc]) : int8_t{0};
-    }
-
     void make_pivots() {
         for (size_t own = 0; own < candidates_.size(); ++own) {
             Candidate& candidate = candidates_[own];
             if (is_switch(*candidate.site)) {
                 switches_.push_back(own);
+                continue;
+            }
+            if (candidate.site->widening != 0) {
                 continue;
             }
             // The first multiple of the distance that the branch jumps over.
@@ -298,6 +119,7 @@ class Settler {
             std::partition_point(candidates_.begin(), candidates_.end(),
                                  [grown_pc](const Candidate& other) { return other.grown_pc < grown_pc; }) -
             candidates_.begin());
+        pivot.shift = shifts_.of_first(pivot.place);
         order(pivot.by_begin, pivot.branches, &Settler::begin_of, &Candidate::rank_by_begin);
         order(pivot.by_end, pivot.branches, &Settler::end_of, &Candidate::rank_by_end);
     }
@@ -423,20 +245,23 @@ class Settler {
         return own;
     }
 
-    MethodRewriteState& mi_;
-    const uint8_t* code_;
     std::vector<Candidate> candidates_;
     std::vector<int32_t> largest_shifts_{0};  // by how much the candidates before each can grow, and all of them
     std::vector<size_t> switches_;            // by index of candidate
     std::vector<Pivot> pivots_;
-    Sums shifts_{0};  // by how much the candidates have grown
+    Sums shifts_;  // by how much the candidates have grown
     std::vector<uint64_t> pending_;
 };
 
 }  // namespace
 
 void settle_widenings(MethodRewriteState& mi, const uint8_t* code) {
-    Settler(mi, code).settle();
+    std::vector<Candidate> candidates = find_candidates(mi, code);
+    const bool has_switch = std::any_of(candidates.begin(), candidates.end(),
+                                        [](const Candidate& candidate) { return is_switch(*candidate.site); });
+    if (has_switch || !settle_by_sweeps(candidates)) {
+        Settler(std::move(candidates), code).settle();
+    }
 }
 
 }  // namespace crw
