@@ -38,6 +38,7 @@ install(FILES
     ${CMAKE_CURRENT_LIST_DIR}/debian/copyright
     ${PROJECT_BINARY_DIR}/changelog.gz
     ${PROJECT_SOURCE_DIR}/README.md
+    ${PROJECT_SOURCE_DIR}/CONTRIBUTING.md
     ${PROJECT_SOURCE_DIR}/CHANGELOG.md
     DESTINATION ${doc_folder})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${doc_folder})
