@@ -19,8 +19,8 @@ install(FILES
     ${sources}/java_crw_demo/vantrel_rewriter.h
     DESTINATION ${header_folder})
 # What proxies include, vantrel-generate's and others, by names such as "../JCBase.h". So that these are found wherever a
-# project has its proxies, there is an empty folder, which its compiler looks into: they are above that.
-install(DIRECTORY DESTINATION ${header_folder}/jc)
+# project has its proxies, compilers look into a folder that these are above.
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/include-jc.txt DESTINATION ${header_folder}/jc RENAME README)
 install(FILES
     ${sources}/JCBase.h
     ${sources}/JavaInc.h
