@@ -14,6 +14,9 @@ endif()
 
 find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
+if(VANTREL_STATIC_LIBRARIES)
+    set(CMAKE_FIND_LIBRARY_SUFFIXES .a)
+endif()
 pkg_check_modules(Deflate REQUIRED IMPORTED_TARGET libdeflate)
 pkg_check_modules(Zlib REQUIRED IMPORTED_TARGET zlib)
 

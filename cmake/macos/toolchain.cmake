@@ -2,7 +2,7 @@
 set(CMAKE_SYSTEM_NAME Darwin)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
-set(tools ${CMAKE_CURRENT_LIST_DIR}/../../build/macos-tools)
+set(tools ${CMAKE_CURRENT_LIST_DIR}/../../build/cross-tools)
 set(llvm /usr/lib/llvm-16/bin)
 foreach(tool ${tools}/arm64/libc++.a ${llvm}/ld64.lld ${llvm}/llvm-lipo)
     if(NOT EXISTS ${tool})
