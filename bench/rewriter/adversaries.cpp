@@ -55,6 +55,24 @@ Bytes scattered(unsigned opcode, int most_to_spare) {
     return code;
 }
 
+// All that grows is at one end of what most branches jump over, and grows one by one. These branches have powers of two
+// to spare.
+Bytes one_sided(unsigned opcode) {
+    constexpr int kCount = 7000;
+    constexpr int kNops = 11000;
+    Bytes code = cat({branches(opcode, kCount), {op::return_}, times(kNops, {op::nop}), branches(opcode, kCount / 2)});
+    for (int i = 0; i < kCount; ++i) {
+        const int pc = 3 * i;
+        const int offset = kFarthest - (1 << i % 13);
+        aim(code, static_cast<std::size_t>(pc), pc + offset < static_cast<int>(code.size()) ? offset : 0);
+    }
+    for (int i = 0; i < kCount / 2; ++i) {
+        const int pc = 3 * kCount + 1 + kNops + 3 * i;
+        aim(code, static_cast<std::size_t>(pc), std::max(-kFarthest - 1 + 2 * i, -pc));
+    }
+    return code;
+}
+
 // Switches, whose paddings follow every change, before branches that have to grow over a return.
 Bytes switches(unsigned opcode) {
     std::mt19937 random(1);  // NOLINT(cert-msc32-c,cert-msc51-cpp)
@@ -84,5 +102,6 @@ std::vector<Adversary> adversaries() {
             adversary("chain", chain(op::goto_)),
             adversary("scattered/3000", scattered(op::goto_, 3000)),
             adversary("scattered/40", scattered(op::goto_, 40)),
+            adversary("one_sided", one_sided(op::goto_)),
             adversary("switches", switches(op::ifeq))};
 }

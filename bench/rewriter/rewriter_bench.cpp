@@ -15,6 +15,7 @@
 #include "classes.h"
 #include "java_crw_demo.h"
 #include "vantrel_rewriter.h"
+#include "walk.h"
 
 namespace {
 
@@ -40,6 +41,7 @@ void by_vantrel_rewriter(const Image& image) {
                                                      7,
                                                      0,
                                                      nullptr,
+                                                     nullptr,
                                                      nullptr};
     VantrelRewriterResult result;
     result.size = sizeof result;
@@ -63,6 +65,10 @@ void add_up(const Image& image) {
         sum = sum * 31 + byte;
     }
     benchmark::DoNotOptimize(sum);
+}
+
+void walk_through(const Image& image) {
+    benchmark::DoNotOptimize(walk(image));
 }
 
 using Work = void (*)(const Image&);
@@ -102,11 +108,11 @@ void register_all(const std::vector<Image>& classes, const std::vector<Adversary
     if (!classes.empty()) {
         benchmark::RegisterBenchmark("copy", on_classes, copy, classes);
         benchmark::RegisterBenchmark("look at every byte", on_classes, add_up, classes);
+        benchmark::RegisterBenchmark("walk", on_classes, walk_through, classes);
         for (const auto& [name, work] : works) {
             benchmark::RegisterBenchmark(name, on_classes, work, classes);
             benchmark::RegisterBenchmark((std::string(name) + " on threads").c_str(), on_classes, work, classes)
-                ->ThreadRange(1, 2)
-                ->UseRealTime();
+                ->ThreadRange(1, 2);
         }
     }
     for (const auto& [name, work] : works) {

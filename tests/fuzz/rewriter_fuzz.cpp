@@ -1,6 +1,7 @@
 // The rewriter on whatever libFuzzer comes up with: no fault that a sanitizer sees, and the same image or the same
 // words as the literal rewriter, and no fault of the second door either. The first two bytes of an input choose what
-// is asked for, the rest is the image; a class file is an input as it is, and everything is asked for.
+// is asked for, the rest is the image, or choices for one whose branches grow (verifiable_classes.h): that takes more
+// code than a fuzzer comes up with. A class file is an input as it is, and everything is asked for.
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -11,9 +12,11 @@
 #include <span>
 #include <string>
 
+#include "class_builder.h"
 #include "java_crw_demo.h"
 #include "literal_rewriter.h"
 #include "product.h"
+#include "verifiable_classes.h"
 
 namespace {
 
@@ -32,6 +35,13 @@ std::optional<std::string> name_where(bool wanted, const char* name) {
     return wanted ? std::optional<std::string>(name) : std::nullopt;
 }
 
+// A class of a version that both doors take.
+class_builder::Bytes made_from(std::span<const uint8_t> choices, unsigned version) {
+    class_builder::ClassFile file = verifiable_classes::from_choices(choices, "com/example/Sample");
+    file.major = version;
+    return class_builder::assemble(file);
+}
+
 [[noreturn]] void leave(const char* /*message*/, const char* /*source_file*/, int /*line*/) {
     throw std::exception();
 }
@@ -46,9 +56,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     constexpr std::array<uint8_t, 4> kMagic = {0xCA, 0xFE, 0xBA, 0xBE};
     constexpr std::array<uint8_t, kChoices> kEverything = {15, 3};
     const bool is_class_file = size >= kMagic.size() && std::equal(kMagic.begin(), kMagic.end(), data);
-    const std::span image = is_class_file ? std::span(data, size) : std::span(data + kChoices, size - kChoices);
     const uint8_t* choices = is_class_file ? kEverything.data() : data;
     const unsigned flags = choices[0];
+    std::span image = is_class_file ? std::span(data, size) : std::span(data + kChoices, size - kChoices);
+    class_builder::Bytes made;
+    if ((flags & 128U) != 0) {
+        made = made_from(image, (choices[1] & 8U) != 0 ? 49 : 52);
+        image = made;
+    }
     const unsigned class_numbers[] = {0, 6, 200, 40000};
     const RewriteOptions options{
         .class_number = class_numbers[choices[1] & 3U],

@@ -61,6 +61,7 @@ Outcome rewrite_modern(std::span<const std::uint8_t> image, const RewriteOptions
                                        options.class_number,
                                        options.system_class ? 1 : 0,
                                        nullptr,
+                                       nullptr,
                                        nullptr};
     VantrelRewriterResult result{};
     result.size = sizeof result;

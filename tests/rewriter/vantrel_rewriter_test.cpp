@@ -30,8 +30,8 @@ struct Call {
     Bytes bytes = assemble(modern_class({.bytes = {op::return_}}));
     const unsigned char* class_file = bytes.data();
     size_t length = bytes.size();
-    VantrelRewriterOptions options{sizeof options, "Track", "call", "ret",   "init", "array",
-                                   nullptr,        1,       0,      nullptr, nullptr};
+    VantrelRewriterOptions options{sizeof options, "Track", "call", "ret",   "init",  "array",
+                                   nullptr,        1,       0,      nullptr, nullptr, nullptr};
     VantrelRewriterResult result{};
 
     explicit Call(Bytes image) : bytes(std::move(image)) {}
@@ -46,6 +46,10 @@ struct Call {
     }
     Bytes image() const { return {result.image, result.image + result.length}; }
 };
+
+bool holds(const Bytes& image, const Bytes& part) {
+    return std::search(image.begin(), image.end(), part.begin(), part.end()) != image.end();
+}
 
 TEST(SecondDoor, TellsItsVersions) {
     EXPECT_EQ(vantrel_rewriter_interface_version(), VANTREL_REWRITER_INTERFACE_VERSION);
@@ -62,6 +66,8 @@ TEST(SecondDoor, TellsWhatIsWrong) {
         {VANTREL_REWRITER_WRONG_ARGUMENT, "no tracker class", [](Call& c) { c.options.tracker_class = nullptr; }},
         {VANTREL_REWRITER_WRONG_ARGUMENT, "internal form", [](Call& c) { c.options.tracker_class = "a.Track"; }},
         {VANTREL_REWRITER_WRONG_ARGUMENT, "internal form", [](Call& c) { c.options.class_name = "a.Sample"; }},
+        {VANTREL_REWRITER_WRONG_ARGUMENT, "two trackers of new arrays",
+         [](Call& c) { c.options.numbered_newarray_tracker = "made"; }},
         {VANTREL_REWRITER_WRONG_ARGUMENT, "another name", [](Call& c) { c.options.class_name = "a/Sample"; }},
         {VANTREL_REWRITER_WRONG_ARGUMENT, "no class file", [](Call& c) { c.class_file = nullptr; }},
         {VANTREL_REWRITER_DAMAGED, "ends early", [](Call& c) { c.length = 0; }},
@@ -113,10 +119,42 @@ TEST(SecondDoor, TakesOptionsOfOtherVersionsOfItself) {
     call.options.size = offsetof(VantrelRewriterOptions, return_tracker);
     ASSERT_EQ(call.run(), 0);
     Call calls_only;
-    calls_only.options = {
-        sizeof calls_only.options, "Track", "call", nullptr, nullptr, nullptr, nullptr, 0, 0, nullptr, nullptr};
+    calls_only.options = {sizeof calls_only.options,
+                          "Track",
+                          "call",
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          0,
+                          0,
+                          nullptr,
+                          nullptr,
+                          nullptr};
     ASSERT_EQ(calls_only.run(), 0);
     EXPECT_EQ(call.image(), calls_only.image());
+}
+
+TEST(SecondDoor, TellsWhoMakesAnArray) {
+    const ClassFile file = modern_class({.max_stack = 1, .max_locals = 7, .bytes = {op::newarray, 10, op::return_}});
+    for (const std::uint32_t class_number : {2, 70000}) {
+        Call call(assemble(file));
+        call.options = {};
+        call.options.size = sizeof call.options;
+        call.options.tracker_class = "Track";
+        call.options.class_number = class_number;
+        call.options.numbered_newarray_tracker = "made";
+        ASSERT_EQ(call.run(), 0) << call.result.sentence;
+        const Bytes image = call.image();
+        // The indexes of what is added: a large class number, and the method in the end.
+        const std::int64_t next = call.bytes[8] << 8 | call.bytes[9];
+        const Bytes push = class_number == 2 ? Bytes{op::iconst_0 + 2} : cat({u1(op::ldc), u1(next)});
+        const std::int64_t made = next + (class_number == 2 ? 0 : 1) + 5;
+        const auto length = static_cast<std::int64_t>(push.size()) + 7;
+        EXPECT_TRUE(holds(image, cat({u2(3), u2(7), u4(length), u1(op::newarray), u1(10), push, u1(op::iconst_0),
+                                      u1(op::invokestatic), u2(made), u1(op::return_)})));
+        EXPECT_TRUE(holds(image, {'(', 'I', 'I', ')', 'V'}));
+    }
 }
 
 TEST(SecondDoor, TellsTheMethodsOnce) {
@@ -172,10 +210,6 @@ Attribute annotations(const std::vector<Bytes>& targets) {
         append(body, cat({target, u1(1), u2(0), u2(1), value}));
     }
     return {"RuntimeVisibleTypeAnnotations", body};
-}
-
-bool holds(const Bytes& image, const Bytes& part) {
-    return std::search(image.begin(), image.end(), part.begin(), part.end()) != image.end();
 }
 
 TEST(SecondDoor, MovesTypeAnnotationsWithTheCode) {

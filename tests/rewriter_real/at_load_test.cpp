@@ -9,6 +9,7 @@
 
 #include "jars.h"
 #include "programs.h"
+#include "x_server.h"
 
 namespace fs = std::filesystem;
 
@@ -18,7 +19,7 @@ class AtLoad : public testing::TestWithParam<int> {};
 INSTANTIATE_TEST_SUITE_P(OnJdk, AtLoad, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
 
 Tracked run_program(int release, const std::string& name) {
-    return run_both_ways(release, {"-cp", kTestFolder / "rewriter-programs.jar", name}, {}, {});
+    return run_both_ways(release, {"-cp", kTestFolder / "rewriter-programs.jar", name});
 }
 
 TEST_P(AtLoad, AMethodReturnsAsOftenAsItIsEntered) {
@@ -86,10 +87,12 @@ std::map<std::string, std::string> files_of(const fs::path& folder) {
 }
 
 // A tool that somebody else wrote. Its classes are many, what it writes to its folder is the same both ways.
-void expect_same_work(int release, const Arguments& arguments, long least_classes) {
+void expect_same_work(int release, const Arguments& arguments, long least_classes, BothWays how = {}) {
     const ScratchFolder plain;
     const ScratchFolder rewritten;
-    const Tracked tracked = run_both_ways(release, arguments, plain.path, rewritten.path);
+    how.plain_folder = plain.path;
+    how.rewritten_folder = rewritten.path;
+    const Tracked tracked = run_both_ways(release, arguments, how);
     EXPECT_EQ(tracked.plain.status, 0) << tracked.plain.out << tracked.plain.err;
     EXPECT_NE(tracked.plain.out + tracked.plain.err, "");
     expect_same_and_balanced(tracked);
@@ -115,7 +118,30 @@ TEST_P(AtLoad, EcjCompiles) {
                      {"-cp", installed_jar("eclipse-jdt-core.jar"), "org.eclipse.jdt.internal.compiler.batch.Main",
                       "-8", "-g", "-warn:+all,-unused", "-proc:none", "-d", "classes", kSources / "companion/src",
                       kSources / "tests/rewriter_real/java/programs"},
-                     300);
+                     300, {.is_modern = true});
+}
+
+// Classes of the VM's own version, in a module.
+TEST_P(AtLoad, JavacCompiles) {
+    SKIP_WITHOUT_JDK(GetParam());
+    Arguments arguments{
+        "-m",     "jdk.compiler/com.sun.tools.javac.Main", "-version", "-Xlint:all", "--release", "8", "-g", "-d",
+        "classes"};
+    for (const fs::directory_entry& entry : fs::directory_iterator(kSources / "tests/rewriter_real/java/programs")) {
+        arguments.push_back(entry.path());
+    }
+    expect_same_work(GetParam(), arguments, 500, {.is_modern = true});
+}
+
+TEST_P(AtLoad, JEditOpensItsWindow) {
+    SKIP_WITHOUT_JDK(GetParam());
+    const XServer x;
+    const ScratchFolder home;  // for what the VM finds out about fonts, with the time
+    const std::string programs = kTestFolder / "rewriter-programs.jar";
+    expect_same_work(GetParam(),
+                     {"-Duser.home=" + home.path.string(), "-cp", programs + ":/usr/share/jedit/jedit.jar",
+                      "ShowsWindow", "org.gjt.sp.jedit.jEdit", "-noserver", "-nosettings"},
+                     300, {.environment = {x.display()}, .is_modern = true});
 }
 
 TEST_P(AtLoad, JythonRunsAScript) {

@@ -64,6 +64,20 @@ TEST_P(Linking, WhateverGrowsIsVerifiedAsBefore) {
     }
 }
 
+// What no compiler writes: values of all kinds under each other on the stack, in all instructions that move them, and
+// uninitialised objects in places of all kinds. The seeds are fixed; scripts/test-rewriter-full has a hundred times as
+// many.
+TEST_P(Linking, MethodsMadeAtRandomAreVerifiedAsBefore) {
+    SKIP_WITHOUT_JDK(GetParam());
+    const ScratchFolder folder;
+    const Finished writing = run_long({VANTREL_WRITE_VERIFIABLE_CLASSES, folder.path, "0", "100"});
+    ASSERT_EQ(writing.status, 0) << writing.err;
+    EXPECT_THAT(writing.out, ContainsRegex(", [0-9]{2,} of them with branches that grow"));
+    const Finished linking = link_side_by_side(GetParam(), {"--modern", folder.path});
+    EXPECT_EQ(linking.status, 0) << linking.out << linking.err;
+    EXPECT_THAT(linking.out, HasSubstr("\nlinked as they are: 100\n"));
+}
+
 // That what is linked is verified, that it is not run, and that a failure is told of.
 TEST_P(Linking, TellsOfAClassThatOnlyFailsRewritten) {
     SKIP_WITHOUT_JDK(GetParam());

@@ -93,7 +93,7 @@ class OldVersions : public testing::TestWithParam<Kind> {
             if (!find_jdk(release)) {
                 continue;
             }
-            const Tracked tracked = run_both_ways(release, {"-cp", classes_.path, name}, {}, {});
+            const Tracked tracked = run_both_ways(release, {"-cp", classes_.path, name});
             EXPECT_EQ(tracked.plain.status, 0) << tracked.plain.err;
             expect_same_and_balanced(tracked);
             EXPECT_EQ(tracked.report.classes, 1);

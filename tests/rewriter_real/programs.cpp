@@ -63,16 +63,17 @@ Arguments verifying_java(int release) {
             "-XX:+BytecodeVerificationLocal"};
 }
 
-Tracked run_both_ways(int release, const Arguments& arguments, const fs::path& plain_folder,
-                      const fs::path& rewritten_folder) {
+Tracked run_both_ways(int release, const Arguments& arguments, const BothWays& how) {
     const ScratchFolder scratch;
     const fs::path report = scratch.path / "report";
     const std::string agent = std::string("-agentpath:") + VANTREL_REWRITE_AT_LOAD + "=" +
-                              (kTestFolder / "rewriter-tracker.jar").string() + ":" + report.string();
+                              (kTestFolder / "rewriter-tracker.jar").string() + ":" + report.string() +
+                              (how.is_modern ? ":today" : "");
     Tracked tracked;
-    tracked.plain = run_long(verifying_java(release) + arguments, {.folder = plain_folder, .environment = {}});
+    tracked.plain =
+        run_long(verifying_java(release) + arguments, {.folder = how.plain_folder, .environment = how.environment});
     tracked.rewritten = run_long(verifying_java(release) + Arguments{agent} + arguments,
-                                 {.folder = rewritten_folder, .environment = {}});
+                                 {.folder = how.rewritten_folder, .environment = how.environment});
     tracked.report = read_report(report);
     return tracked;
 }

@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "java_vm.h"
 #include "process.h"
@@ -32,9 +33,15 @@ struct Tracked {
     Report report;
 };
 
-// Runs a program twice, the second time rewritten, in a folder of its own each time.
-Tracked run_both_ways(int release, const Arguments& arguments, const std::filesystem::path& plain_folder,
-                      const std::filesystem::path& rewritten_folder);
+struct BothWays {
+    std::filesystem::path plain_folder = {};  // where it runs
+    std::filesystem::path rewritten_folder = {};
+    std::vector<std::string> environment = {};
+    bool is_modern = false;  // by vantrel_rewriter_rewrite, which takes classes of today
+};
+
+// Runs a program twice, the second time rewritten.
+Tracked run_both_ways(int release, const Arguments& arguments, const BothWays& how = {});
 
 // The same output and exit status, nothing refused, and each entry has its return unless an exception was thrown while
 // its call was under way, or the call was under way when the VM ended.

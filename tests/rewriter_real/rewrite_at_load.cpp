@@ -1,6 +1,8 @@
 // An agent that passes every class of an application through the rewriter as it is loaded.
 //
-//     -agentpath:REWRITE_AT_LOAD=TRACKER_JAR:REPORT
+//     -agentpath:REWRITE_AT_LOAD=TRACKER_JAR:REPORT[:today]
+//
+// By java_crw_demo, which passes newer classes over, or "today" by vantrel_rewriter_rewrite.
 //
 // Writes REPORT (java/tracking/Tracker.java says what it holds) and REPORT.classes, which has a line "class" for each
 // class that was rewritten, a line "method" for each method of it, and a line "refused" for each class that the
@@ -21,14 +23,12 @@
 
 namespace {
 
-constexpr unsigned kNewestForRewriter = 52;
-// ecj is of version 55. Up to there the class file got no new part that a rewrite could break, only constants that the
-// rewriter refuses; so such a class is passed through with the older number.
-constexpr unsigned kNewestPassedThrough = 55;
+constexpr unsigned kNewestForJavaCrwDemo = 52;
 
 struct State {
     jvmtiEnv* jvmti;
     std::string report;
+    bool is_modern;
     jclass tracker;
     jmethodID thrown;
     std::atomic<unsigned> next_number{0};
@@ -49,21 +49,18 @@ std::string with_numbers(const std::string& kind, unsigned class_number, size_t 
     return kind + "\t" + std::to_string(class_number) + "\t" + std::to_string(method_number);
 }
 
-ClassImage rewrite_newer(std::span<const unsigned char> image, const std::string& name) {
+ClassImage rewrite_loaded(std::span<const unsigned char> image, const std::string& name) {
     std::string lines;
     Rewriting how;
     how.class_number = state->next_number++;
+    how.is_modern = state->is_modern;
     how.name = name.c_str();
     how.method_names = [&](unsigned number, std::span<const char*> names, std::span<const char*> descriptors) {
         for (size_t i = 0; i < names.size(); ++i) {
             lines += with_numbers("method", number, i) + "\t" + name + "\t" + names[i] + descriptors[i] + "\n";
         }
     };
-    ClassImage older(image.begin(), image.end());
-    const unsigned char version = older[7];
-    older[7] = std::min<unsigned char>(version, kNewestForRewriter);
-    ClassImage result = rewrite(older, how);
-    result[7] = version;
+    ClassImage result = rewrite(image, how);
 
     const std::lock_guard hold(state->lock);
     state->rewritten.insert(name);
@@ -75,11 +72,12 @@ void JNICALL on_class(jvmtiEnv* jvmti, JNIEnv* /*env*/, jclass redefined, jobjec
                       jobject /*protection*/, jint length, const unsigned char* bytes, jint* new_length,
                       unsigned char** new_bytes) {
     const std::span image(bytes, static_cast<size_t>(length));
-    if (loader == nullptr || redefined != nullptr || class_version(image) > kNewestPassedThrough) {
+    const bool is_too_new = !state->is_modern && class_version(image) > kNewestForJavaCrwDemo;
+    if (loader == nullptr || redefined != nullptr || is_too_new) {
         return;
     }
     try {
-        const ClassImage result = rewrite_newer(image, class_name(image));
+        const ClassImage result = rewrite_loaded(image, class_name(image));
         check(jvmti->Allocate(static_cast<jlong>(result.size()), new_bytes), "Allocate");
         std::copy(result.begin(), result.end(), *new_bytes);
         *new_length = static_cast<jint>(result.size());
@@ -120,12 +118,27 @@ int live_calls() {
     return live;
 }
 
+// A module reads the tracker's only when it is told to, and the class path is no module.
+void let_all_modules_read(JNIEnv* env, jclass tracker) {
+    jclass type = env->FindClass("java/lang/Class");
+    jobject unnamed = env->CallObjectMethod(tracker, env->GetMethodID(type, "getModule", "()Ljava/lang/Module;"));
+    jint count = 0;
+    jobject* modules = nullptr;
+    check(state->jvmti->GetAllModules(&count, &modules), "GetAllModules");
+    for (jobject reader : std::span(modules, static_cast<size_t>(count))) {
+        check(state->jvmti->AddModuleReads(reader, unnamed), "AddModuleReads");
+        env->DeleteLocalRef(reader);
+    }
+    state->jvmti->Deallocate(reinterpret_cast<unsigned char*>(modules));
+}
+
 void JNICALL on_start(jvmtiEnv* jvmti, JNIEnv* env, jthread /*thread*/) {
     state->tracker = env->FindClass("tracking/Tracker");
     if (state->tracker == nullptr) {
         env->FatalError("no tracker");
     }
     state->tracker = static_cast<jclass>(env->NewGlobalRef(state->tracker));
+    let_all_modules_read(env, state->tracker);
     state->thrown = env->GetStaticMethodID(state->tracker, "thrown", "()V");
     check(jvmti->SetEventNotificationMode(JVMTI_ENABLE, JVMTI_EVENT_EXCEPTION, nullptr), "exceptions");
 }
@@ -150,13 +163,15 @@ extern "C" JNIEXPORT jint JNICALL Agent_OnLoad(JavaVM* vm, char* options, void* 
     const std::string text = options != nullptr ? options : "";
     const size_t colon = text.find(':');
     if (colon == std::string::npos) {
-        fputs("rewrite-at-load: options are TRACKER_JAR:REPORT\n", stderr);
+        fputs("rewrite-at-load: options are TRACKER_JAR:REPORT[:today]\n", stderr);
         return JNI_ERR;
     }
     state = new State{};  // for as long as the process lives: VM threads may still be at work when it ends
-    state->report = text.substr(colon + 1);
+    const size_t second_colon = text.find(':', colon + 1);
+    state->report = text.substr(colon + 1, second_colon - colon - 1);
+    state->is_modern = second_colon != std::string::npos;
     state->classes.open(state->report + ".classes");
-    if (vm->GetEnv(reinterpret_cast<void**>(&state->jvmti), JVMTI_VERSION_1_2) != JNI_OK) {
+    if (vm->GetEnv(reinterpret_cast<void**>(&state->jvmti), JVMTI_VERSION_9) != JNI_OK) {
         return JNI_ERR;
     }
     jvmtiEnv* jvmti = state->jvmti;

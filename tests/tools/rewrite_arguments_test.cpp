@@ -78,6 +78,10 @@ INSTANTIATE_TEST_SUITE_P(
         {"UnknownOption", with_tracker({"--trace", "-o", "out", "A.class"}), "--trace"},
         {"OptionWithoutValue", with_tracker({"-o", "out", "A.class", "--call"}), "--call"},
         {"NoCalls", {"--tracker", "T", "-o", "out", "A.class"}, "which calls? give one or more of --call"},
+        {"TrackerAndCount", with_tracker({"--count", "-o", "out", "program.jar"}),
+         "--tracker goes with a tracker of yours"},
+        {"MapOfUnused", {"--unused", "--map", "map", "-o", "out", "program.jar"}, "--map goes with a tracker of yours"},
+        {"CountOfAClassFile", {"--count", "-o", "out", "program.jar", "A.class"}, "A.class is a single class file"},
         {"EmptyTracker", {"--tracker", "", "-o", "out", "A.class"}, "'' is not a class name"},
         {"TrackerWithGap", {"--tracker", "com..x", "-o", "out", "A.class"}, "'com..x' is not a class name"},
         {"TrackerAsDescriptor", {"--tracker", "Lx/T;", "-o", "out", "A.class"}, "'Lx/T;' is not a class name"},
@@ -170,7 +174,7 @@ TEST(Arguments, HelpAndVersionGoToStdout) {
 TEST(Arguments, ManualDescribesEachOptionOfHelp) {
     const std::string manual = contents(VANTREL_REWRITE_MANUAL);
     const std::vector<std::string> options = options_in_help(run({kRewrite, "--help"}).out);
-    EXPECT_THAT(options, SizeIs(14));
+    EXPECT_THAT(options, SizeIs(16));
     for (const std::string& option : options) {
         EXPECT_THAT(manual, HasSubstr("`" + option));
     }

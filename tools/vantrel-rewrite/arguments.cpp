@@ -16,14 +16,19 @@ namespace {
 constexpr unsigned kMostWorkers = 256;
 
 constexpr const char* kDescription =
-    "Injects calls of a tracker class into Java class files, up to version 69 (Java 25).\n"
+    "Has Java programs count their calls, or call a tracker class of yours: injects calls into class files, up to\n"
+    "version 69 (Java 25).\n"
     "\n"
     "IN is a class file, a jar or a folder with such files in it. As with cp, OUT is the result itself; or, where it\n"
     "is an existing folder, ends in a slash, or there are several inputs, the folder that the results go into under\n"
     "the names of the inputs.\n";
 
 constexpr const char* kFooter =
-    R"(The tracker's methods are static: "(II)V" for --call and --return, "(Ljava/lang/Object;)V" for --object-init
+    R"(With --count or --unused each result brings a tracker of its own, which writes a table when the program ends:
+vantrel-count-PROCESS.txt, or the file that java -Dvantrel.count.file=FILE names. Make a file of that name with .now at
+its end to have the table at once.
+
+The methods of a tracker of yours are static: "(II)V" for --call and --return, "(Ljava/lang/Object;)V" for --object-init
 and --new-array. Classes are numbered from 0 in the order of the inputs, of a jar's entries, and of the sorted names
 in a folder; all classes count, whether they are rewritten or not. Methods are numbered from 0 in each class file.
 
@@ -36,6 +41,10 @@ Exit status: 0 if all is well, 1 if the rewrite of a class failed or the summary
 result.
 
 Examples:
+  vantrel-rewrite --count -o counted.jar program.jar && java -jar counted.jar
+      counts calls, returns and arrays by method
+  vantrel-rewrite --unused -o tried/ program.jar lib.jar && java -cp 'tried/*' com.x.Program
+      lists the methods that never ran
   vantrel-rewrite --tracker com.x.Tracker --call entered -o tracked.jar program.jar
       calls com.x.Tracker.entered(class, method) at the entry of each method
   vantrel-rewrite --tracker com.x.Tracker --call entered --return left --map map.txt -o tracked classes
@@ -103,6 +112,27 @@ void set_methods(TrackerCalls& tracker) {
     }
 }
 
+void refuse_options_of_trackers(const CLI::App& app) {
+    for (const char* option : {"--tracker", "--call", "--return", "--object-init", "--new-array", "--system-class",
+                               "--tracker-path", "--map"}) {
+        if (app.count(option) > 0) {
+            throw command::Failure{std::string(option) +
+                                   " goes with a tracker of yours; --count and --unused bring their own"};
+        }
+    }
+}
+
+// The methods of our own tracker (count/Calls.java).
+void set_counting_calls(TrackerCalls& tracker, const CountedThings& counted) {
+    if (counted.calls) {
+        tracker.call = "entered";
+        tracker.return_ = "left";
+        tracker.numbered_new_array = "made";
+    } else {
+        tracker.call = "ran";
+    }
+}
+
 unsigned usual_workers() {
     return std::clamp(std::thread::hardware_concurrency(), 1U, kMostWorkers);
 }
@@ -118,9 +148,24 @@ std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
     app.footer(kFooter);
     app.set_help_flag("-h,--help", "Print this text and exit");
     app.set_version_flag("--version", "vantrel-rewrite " VANTREL_VERSION);
-    app.add_option("--tracker", tracker_class, "The tracker class, with dots or slashes")
-        ->required()
-        ->type_name("CLASS");
+    CLI::Option* tracker_option =
+        app.add_option("--tracker", tracker_class,
+                       "The tracker class, with dots or slashes; neither with --count nor with --unused")
+            ->required()
+            ->type_name("CLASS");
+    const auto add_counting_flag = [&](const char* name, bool& is_wanted, const char* description) {
+        app.add_flag_callback(
+            name,
+            [&is_wanted, tracker_option] {
+                is_wanted = true;
+                tracker_option->required(false);
+            },
+            description);
+    };
+    add_counting_flag("--count", arguments.counted.calls,
+                      "In the place of --tracker: the result counts calls, returns and arrays by method");
+    add_counting_flag("--unused", arguments.counted.unused,
+                      "In the place of --tracker: the result lists the methods that never ran");
     app.add_option("--call", tracker.call, "Its method to call at the entry of each method")->type_name("NAME");
     app.add_option("--return", tracker.return_, "Its method to call before each return")->type_name("NAME");
     app.add_option("--object-init", tracker.object_init, "Its method to call in java.lang.Object's constructor")
@@ -150,8 +195,13 @@ std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
     if (auto text = command::parse_command_line(app, argc, argv)) {
         return *std::move(text);
     }
-    set_tracker_class(tracker, tracker_class);
-    set_methods(tracker);
+    if (arguments.counted.any()) {
+        refuse_options_of_trackers(app);
+        set_counting_calls(tracker, arguments.counted);
+    } else {
+        set_tracker_class(tracker, tracker_class);
+        set_methods(tracker);
+    }
     for (std::string& pattern : arguments.keep) {
         pattern = encoded("--keep", with_slashes(pattern));
     }

@@ -20,7 +20,15 @@ struct TrackerCalls {
     std::optional<std::string> return_;
     std::optional<std::string> object_init;
     std::optional<std::string> new_array;
+    std::optional<std::string> numbered_new_array;
     bool system_class = false;
+};
+
+// What a tracker of our own counts, in the place of one of the user's. Neither where there is one of the user's.
+struct CountedThings {
+    bool calls = false;   // calls, returns and arrays
+    bool unused = false;  // what never ran
+    [[nodiscard]] bool any() const { return calls || unused; }
 };
 
 // What the methods take: the numbers of a class and a method, or an object.
@@ -31,7 +39,8 @@ constexpr const char* kObjectDescriptor = "(Ljava/lang/Object;)V";
 constexpr const char* kStdout = "-";
 
 struct Arguments {
-    TrackerCalls tracker;
+    TrackerCalls tracker;  // without its class where things are counted: each jar has one of its own (counting.h)
+    CountedThings counted;
     std::string tracker_path;       // empty where the tracker is not to be checked
     std::vector<std::string> keep;  // patterns of class names in internal form, as class files have them
     std::vector<std::filesystem::path> inputs;

@@ -68,10 +68,14 @@ class Constants {
         }
     }
 
+    [[nodiscard]] bool is_text(size_t index) const {
+        return index < constants_.size() && constants_[index].tag == kUtf8;
+    }
     [[nodiscard]] std::string text(size_t index) const {
         const BytesView bytes = get(index, kUtf8).bytes;
         return {bytes.begin(), bytes.end()};
     }
+    [[nodiscard]] size_t count() const { return constants_.size(); }
     [[nodiscard]] std::string class_name(size_t index) const { return text(get(index, kClass).value); }
 
   private:
@@ -118,6 +122,8 @@ ClassFile read_class_file(BytesView image) {
     reader.bytes(kHeaderSize);
     const Constants constants(reader);
     ClassFile file;
+    file.constant_count = constants.count();
+    file.end_of_constants = reader.position();
     reader.enter("its names");
     file.access = reader.u2();
     file.name = constants.class_name(reader.u2());
@@ -137,7 +143,12 @@ ClassFile read_class_file(BytesView image) {
         file.methods.push_back(std::move(method));
     }
     reader.enter("its attributes");
-    skip_attributes(reader);
+    for (size_t left = reader.u2(); left > 0; --left) {
+        const size_t name = reader.u2();
+        const size_t size = reader.number(4);
+        file.attributes.push_back({constants.is_text(name) ? constants.text(name) : "", reader.position(), size});
+        reader.bytes(size);
+    }
     file.end = reader.position();
     return file;
 }

@@ -32,14 +32,27 @@ struct ClassFile {
     std::uint16_t access;
     std::string name;
     std::string super_name;  // empty for java.lang.Object
+    struct Attribute {
+        std::string name;  // empty where the file has none for it
+        size_t begin;      // of its contents
+        size_t size;
+    };
     std::vector<Method> methods;
+    std::vector<Attribute> attributes;  // the class's own
+    size_t constant_count;              // as the file has it: one more than the highest index
+    size_t end_of_constants;
     size_t end;  // of the class
 };
+
+// Where a class file has the number of its constants: after the header.
+constexpr size_t kConstantCount = kHeaderSize;
 
 // Flags of a class or a method (JVM specification 4.1 and 4.6).
 constexpr std::uint16_t kPublic = 0x0001;
 constexpr std::uint16_t kStatic = 0x0008;
+constexpr std::uint16_t kNative = 0x0100;
 constexpr std::uint16_t kInterface = 0x0200;
+constexpr std::uint16_t kAbstract = 0x0400;
 
 // Reads the outline of a class file (JVM specification 4.1). What is in fields, code and other attributes is not looked
 // at. Throws Malformed; does not mind what comes after the end.

@@ -28,6 +28,7 @@ struct ClassReport {
     Outcome outcome = Outcome::Failed;
     std::string reason;
     std::string map_lines;
+    std::string place;
 };
 
 // Takes reports in the order of the classes' numbers, one thread at a time: counts them, writes the map, and keeps

@@ -7,6 +7,7 @@
 
 #include "class_file.h"
 #include "kept_classes.h"
+#include "module_packages.h"
 
 namespace vantrel_rewrite {
 
@@ -16,31 +17,10 @@ namespace {
 // packed as a class may unpack to more, and is not read further then.
 constexpr size_t kLargestClass = size_t{256} << 20U;
 
-// A name in a class file may hold anything but a few punctuation marks, a tab for one.
-void append_escaped(std::string& text, std::string_view name) {
-    for (const char character : name) {
-        switch (character) {
-            case '\t':
-                text += "\\t";
-                break;
-            case '\n':
-                text += "\\n";
-                break;
-            case '\r':
-                text += "\\r";
-                break;
-            case '\\':
-                text += "\\\\";
-                break;
-            default:
-                text += character;
-        }
-    }
-}
-
 // What the rewriter's callback is given: of which class the lines are, and where they go.
 struct MapLines {
-    std::string_view class_name;
+    const ClassFile& file;
+    bool only_with_code;  // leave out methods that can never be entered
     std::string lines;
 };
 
@@ -48,11 +28,13 @@ void add_map_lines(void* context, std::uint32_t class_number, const char* const*
                    int count) {
     MapLines& map = *static_cast<MapLines*>(context);
     for (int method = 0; method < count; ++method) {
+        if (map.only_with_code && (map.file.methods[static_cast<size_t>(method)].access & (kAbstract | kNative)) != 0) {
+            continue;
+        }
         map.lines += std::to_string(class_number) + '\t' + std::to_string(method);
-        for (const std::string_view text :
-             {map.class_name, std::string_view(names[method]), std::string_view(descriptors[method])}) {
-            map.lines += '\t';
-            append_escaped(map.lines, text);
+        for (const std::string_view text : {std::string_view(map.file.name), std::string_view(names[method]),
+                                            std::string_view(descriptors[method])}) {
+            map.lines += '\t' + escaped(text);
         }
         map.lines += '\n';
     }
@@ -100,6 +82,7 @@ VantrelRewriterOptions options_for(const TrackerCalls& tracker, unsigned number,
     options.return_tracker = or_null(tracker.return_);
     options.object_init_tracker = or_null(tracker.object_init);
     options.newarray_tracker = or_null(tracker.new_array);
+    options.numbered_newarray_tracker = or_null(tracker.numbered_new_array);
     options.class_name = class_name.c_str();
     options.class_number = number;
     options.system_class = tracker.system_class ? 1 : 0;
@@ -108,8 +91,27 @@ VantrelRewriterOptions options_for(const TrackerCalls& tracker, unsigned number,
     return options;
 }
 
-RewrittenClass rewrite_image(const Arguments& arguments, unsigned number, BytesView image) {
+// A module lists its packages where the tool that made its jar has told it to. Then ours must be among them.
+RewrittenClass module_info(const ClassSource& source, const std::string& place, BytesView image,
+                           const ClassFile& file) {
+    RewrittenClass result = not_rewritten(Outcome::NoCode, "a module-info has no code");
+    if (source.counting != nullptr && source.counting->has_classes(place)) {
+        result.image = with_package(image, file, source.counting->package_of(place));
+    }
+    return result;
+}
+
+RewrittenClass rewrite_image(const Arguments& arguments, const ClassSource& source, unsigned number, BytesView image) {
     const ClassFile file = read_class_file(image);
+    std::optional<std::string> place = "";
+    std::optional<TrackerCalls> own_tracker;
+    if (source.counting != nullptr) {
+        place = place_of(source.file, file.name);
+        if (!place) {
+            return not_rewritten(Outcome::Kept, "its file is not named like the class, which is " + file.name);
+        }
+        own_tracker = source.counting->tracker_of(*place);
+    }
     if (auto reason = reason_to_keep(arguments, file.name)) {
         return not_rewritten(Outcome::Kept, *std::move(reason));
     }
@@ -117,14 +119,15 @@ RewrittenClass rewrite_image(const Arguments& arguments, unsigned number, BytesV
         return not_rewritten(Outcome::Failed, std::to_string(image.size() - file.end) +
                                                   " bytes come after its end, which no VM accepts");
     }
-    MapLines map{file.name, {}};
+    MapLines map{file, source.counting != nullptr, {}};
     RewriterResult rewritten;
-    const VantrelRewriterOptions options = options_for(arguments.tracker, number, file.name, map);
+    const VantrelRewriterOptions options =
+        options_for(own_tracker ? *own_tracker : arguments.tracker, number, file.name, map);
     switch (vantrel_rewriter_rewrite(image.data(), image.size(), &options, &rewritten.told)) {
         case VANTREL_REWRITER_REWRITTEN:
             break;
         case VANTREL_REWRITER_CARRIED_OVER:
-            return not_rewritten(Outcome::NoCode, "a module-info has no code");
+            return module_info(source, *place, image, file);
         case VANTREL_REWRITER_OUT_OF_MEMORY:
             throw std::bad_alloc();
         default:
@@ -132,6 +135,7 @@ RewrittenClass rewrite_image(const Arguments& arguments, unsigned number, BytesV
     }
     RewrittenClass result;
     result.outcome = Outcome::Rewritten;
+    result.place = *std::move(place);
     result.image.assign(rewritten.told.image, rewritten.told.image + rewritten.told.length);
     result.map_lines = std::move(map.lines);
     if (file.super_name.empty()) {
@@ -146,7 +150,31 @@ unsigned newest_version() {
     return static_cast<unsigned>(vantrel_rewriter_newest_class_file_version());
 }
 
-RewrittenClass rewrite_class(const Arguments& arguments, unsigned number, std::uint64_t size, const ReadClass& read) {
+std::string escaped(std::string_view name) {
+    std::string text;
+    for (const char character : name) {
+        switch (character) {
+            case '\t':
+                text += "\\t";
+                break;
+            case '\n':
+                text += "\\n";
+                break;
+            case '\r':
+                text += "\\r";
+                break;
+            case '\\':
+                text += "\\\\";
+                break;
+            default:
+                text += character;
+        }
+    }
+    return text;
+}
+
+RewrittenClass rewrite_class(const Arguments& arguments, const ClassSource& source, unsigned number, std::uint64_t size,
+                             const ReadClass& read) {
     Bytes image = read(kHeaderSize);
     if (image.empty()) {
         return not_rewritten(Outcome::Failed, "it is empty");
@@ -165,7 +193,7 @@ RewrittenClass rewrite_class(const Arguments& arguments, unsigned number, std::u
     const Bytes rest = read(kLargestClass);
     image.insert(image.end(), rest.begin(), rest.end());
     try {
-        return rewrite_image(arguments, number, image);
+        return rewrite_image(arguments, source, number, image);
     } catch (const Malformed& malformed) {
         return not_rewritten(Outcome::Failed, malformed.reason);
     }

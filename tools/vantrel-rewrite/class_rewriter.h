@@ -6,8 +6,10 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "arguments.h"
+#include "counting.h"
 #include "file_io.h"
 
 namespace vantrel_rewrite {
@@ -28,8 +30,12 @@ struct RewrittenClass {
     Outcome outcome = Outcome::Failed;
     std::string reason;     // why it was not rewritten, for the user; or what the user has to know if it was
     std::string map_lines;  // of its methods; empty where it was not rewritten
-    Bytes image;            // the same
+    std::string place;      // the same, and where nothing is counted
+    Bytes image;            // empty where it is to stay as it is
 };
+
+// Names in a map, and in what is made of one: a tab, line end or backslash in them is written as \t, \n, \r, \\.
+std::string escaped(std::string_view name);
 
 // Reads on in a class file: at most so many bytes, fewer only at its end.
 using ReadClass = std::function<Bytes(size_t at_most)>;
@@ -37,7 +43,8 @@ using ReadClass = std::function<Bytes(size_t at_most)>;
 // Reads no more of the file than it takes to decide. What `read` throws is thrown on. Any number of threads may rewrite
 // at the same time.
 //   size   the file's
-RewrittenClass rewrite_class(const Arguments& arguments, unsigned number, std::uint64_t size, const ReadClass& read);
+RewrittenClass rewrite_class(const Arguments& arguments, const ClassSource& source, unsigned number, std::uint64_t size,
+                             const ReadClass& read);
 
 }  // namespace vantrel_rewrite
 

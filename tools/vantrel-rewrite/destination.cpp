@@ -15,16 +15,6 @@ namespace vantrel_rewrite {
 
 namespace {
 
-// The name that an input has in the folder that it is in, also if it was given as "." or "classes/".
-fs::path own_name(const fs::path& input) {
-    const fs::path absolute = (fs::absolute(input) / "").lexically_normal().parent_path();
-    fs::path name = absolute.filename();
-    if (name.empty()) {
-        throw command::Failure{input.string() + " has no name of its own; give OUT a name that is not there yet"};
-    }
-    return name;
-}
-
 bool is_inside(const fs::path& path, const fs::path& folder) {
     return std::mismatch(folder.begin(), folder.end(), path.begin(), path.end()).first == folder.end();
 }
@@ -125,6 +115,15 @@ void find_places(const Arguments& arguments, Destinations& destinations) {
 }
 
 }  // namespace
+
+fs::path own_name(const fs::path& input) {
+    const fs::path absolute = (fs::absolute(input) / "").lexically_normal().parent_path();
+    fs::path name = absolute.filename();
+    if (name.empty()) {
+        throw command::Failure{input.string() + " has no name of its own; give OUT a name that is not there yet"};
+    }
+    return name;
+}
 
 Destinations find_destinations(const Arguments& arguments) {
     Destinations destinations;

@@ -23,6 +23,10 @@ struct Destinations {
     std::filesystem::path map;         // empty where none is wanted
 };
 
+// The name that an input has in the folder that it is in, also if it was given as "." or "classes/". Throws a Failure
+// for the root.
+std::filesystem::path own_name(const std::filesystem::path& input);
+
 // Looks at what is there under the results' names. Targets are absolute, or kStdout, and links are seen through, so
 // that what a link leads to is replaced and not the link. Throws a Failure for what cannot be done; nothing is written.
 Destinations find_destinations(const Arguments& arguments);

@@ -142,4 +142,11 @@ PackedEntry pack_entry(std::uint16_t method, Bytes contents) {
     return entry;
 }
 
+Bytes gzip(BytesView contents) {
+    Bytes packed(libdeflate_gzip_compress_bound(compressor(), contents.size()));
+    packed.resize(
+        libdeflate_gzip_compress(compressor(), contents.data(), contents.size(), packed.data(), packed.size()));
+    return packed;
+}
+
 }  // namespace vantrel_rewrite

@@ -49,6 +49,9 @@ struct PackedEntry {
 // Packs contents: not at all if `method` is zip::kStored, or else as zip::kDeflated.
 PackedEntry pack_entry(std::uint16_t method, Bytes contents);
 
+// A file as gzip makes it (RFC 1952).
+Bytes gzip(BytesView contents);
+
 }  // namespace vantrel_rewrite
 
 #endif

@@ -34,18 +34,37 @@ std::vector<Result> contents_of(const Result& folder) {
     return contents;
 }
 
+// The tracker that is added for the counting of classes lies beside them.
+void check_for_counting(const Arguments& arguments, const Result& result) {
+    if (arguments.counted.any() && result.kind == Kind::ClassFile) {
+        throw command::Failure{result.source.string() + " is a single class file, and what counts has no place beside" +
+                               " it; give the jar or folder that it is in"};
+    }
+}
+
 // Adds a result to the plan, with all that is in it.
 //   made   where the result is made
 void add(Plan& plan, const Result& result, const fs::path& made) {
+    const std::string label = own_name(result.source);
+    if (result.kind == Kind::Folder) {
+        plan.folders.push_back({{made, result.target}, label, plan.class_count, {}});
+    }
     std::vector<Result> rest{result};
     while (!rest.empty()) {
         interrupt::check();
         const Result next = std::move(rest.back());
         rest.pop_back();
         const fs::path below = next.target.lexically_relative(result.target);
-        Piece piece{next.kind, next.source, {below == "." ? made : made / below, next.target}, plan.class_count, {}};
+        Piece piece{next.kind, next.source, {made, next.target}, plan.class_count, {}, label, plan.folders.size() - 1};
+        if (below != ".") {
+            piece.target.path /= below;
+            piece.label += '/' + below.string();
+        }
         if (next.kind == Kind::ClassFile) {
             ++plan.class_count;
+            if (result.kind == Kind::Folder) {
+                plan.folders.back().class_files.push_back(below);
+            }
         } else if (next.kind == Kind::Jar) {
             piece.jar = read_jar(next.source);
             plan.class_count += piece.jar.class_count;
@@ -69,12 +88,14 @@ Plan make_plan(const Arguments& arguments, Staging& staging) {
     Plan plan;
     if (!destinations.new_folder.empty()) {
         const NewFile folder = staging.stage(destinations.new_folder);
-        plan.pieces.push_back({Kind::Folder, {}, folder, 0, {}});
+        plan.pieces.push_back({Kind::Folder, {}, folder, 0, {}, {}, 0});
         for (const Result& result : destinations.results) {
+            check_for_counting(arguments, result);
             add(plan, result, folder.path / result.target.filename());
         }
     } else {
         for (const Result& result : destinations.results) {
+            check_for_counting(arguments, result);
             add(plan, result, stage(staging, result.target).path);
         }
     }

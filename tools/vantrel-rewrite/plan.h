@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <filesystem>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "arguments.h"
@@ -21,10 +23,26 @@ struct Piece {
     NewFile target;
     size_t first_class = 0;  // the number of its first class
     JarContents jar;         // nothing, for what is none
+    std::string label;       // the input's own name, and what is in that below it
+    size_t folder = 0;       // for what is in a folder that is an input: which one
+};
+
+// An input that is a folder.
+struct FolderInput {
+    NewFile target;
+    std::string label;
+    size_t first_class;
+    std::vector<std::string> class_files;  // with what is above them in the folder; not those in jars
+
+    // What a class file in it is called there.
+    [[nodiscard]] std::string_view name_in(const std::string& piece_label) const {
+        return std::string_view(piece_label).substr(label.size() + 1);
+    }
 };
 
 struct Plan {
     std::vector<Piece> pieces;  // a folder comes before what is in it
+    std::vector<FolderInput> folders;
     size_t class_count = 0;
     std::optional<NewFile> map;  // nothing where none is wanted
 };

@@ -9,9 +9,8 @@
 #include "jar_signature.h"
 #include "packed_entry.h"
 #include "workers.h"
+#include "zip_format.h"
 #include "zip_writer.h"
-
-namespace fs = std::filesystem;
 
 namespace vantrel_rewrite {
 
@@ -36,11 +35,14 @@ struct Jar {
     const std::string& path;  // for messages
     const ArchiveBytes& bytes;
     const JarContents& contents;
+    std::string label;  // for the counting
     size_t next_class;  // its number
     ZipWriter::Sink sink;
     // A jar in it, or nothing where none of that one's classes is rewritten. Not there for a jar that is in another
     // one.
     std::optional<PackedEntry> (*rewrite_inner)(Jar& jar, const ZipEntry& entry);
+    size_t first_class = next_class;
+    std::optional<Counting> counting = {};
     std::optional<ZipWriter> writer = {};  // there is none before the first change
     size_t dropped = 0;                    // files of signatures
 };
@@ -49,17 +51,23 @@ const std::vector<ZipEntry>& entries_of(const Jar& jar) {
     return jar.contents.directory.entries;
 }
 
+// What classes are told to a tracker of the jar's own is their number in the jar.
 ClassResult rewrite_entry(const Jar& jar, const ZipEntry& entry, size_t number) {
     RewrittenClass result;
+    ClassSource source;
+    if (jar.counting) {
+        source = {&*jar.counting, entry.name};
+        number -= jar.first_class;
+    }
     try {
         EntryReader reader(jar.bytes, entry, jar.path);
-        result = rewrite_class(jar.work.arguments, static_cast<unsigned>(number), entry.size,
+        result = rewrite_class(jar.work.arguments, source, static_cast<unsigned>(number), entry.size,
                                [&](size_t at_most) { return reader.read(at_most); });
     } catch (const command::Failure& failure) {
-        return {{Outcome::Failed, failure.line, {}}, std::nullopt};  // carried over, as damaged as it is
+        return {{Outcome::Failed, failure.line, {}, {}}, std::nullopt};  // carried over, as damaged as it is
     }
     ClassResult made;
-    if (result.outcome == Outcome::Rewritten) {
+    if (!result.image.empty()) {
         made.packed = pack_entry(entry.method, std::move(result.image));
     }
     made.report = report_on(std::move(result));
@@ -76,7 +84,8 @@ Changes rewrite_classes(Jar& jar, const std::vector<size_t>& classes) {
     jar.next_class += classes.size();
     Changes changes;
     for (size_t index = 0; index < classes.size(); ++index) {
-        jar.work.reports.add(jar.path + ": " + entries_of(jar)[classes[index]].name, results[index].report);
+        add_report(jar.work, jar.counting ? &*jar.counting : nullptr,
+                   jar.path + ": " + entries_of(jar)[classes[index]].name, results[index].report);
         if (results[index].packed) {
             changes.emplace(classes[index], *std::move(results[index].packed));
         }
@@ -151,8 +160,23 @@ Part rewrite_part(Jar& jar, size_t begin) {
     return {end, rewrite_classes(jar, classes)};
 }
 
+void add_trackers(Jar& jar) {
+    for (AddedFile& added : jar.counting->files()) {
+        jar.writer->add(added.name, pack_entry(zip::kDeflated, std::move(added.contents)));
+    }
+}
+
 // Returns whether anything has changed; nothing is written otherwise.
 bool rewrite_jar(Jar& jar) {
+    if (jar.work.arguments.counted.any()) {
+        std::vector<std::string> class_files;
+        for (const ZipEntry& entry : entries_of(jar)) {
+            if (is_class(entry)) {
+                class_files.push_back(entry.name);
+            }
+        }
+        jar.counting.emplace(jar.work.arguments, jar.label, std::move(class_files));
+    }
     const size_t count = entries_of(jar).size();
     for (size_t at = 0; at < count;) {
         const Part part = rewrite_part(jar, at);
@@ -168,6 +192,9 @@ bool rewrite_jar(Jar& jar) {
     if (!jar.writer) {
         return false;
     }
+    if (jar.counting) {
+        add_trackers(jar);
+    }
     jar.writer->finish();
     if (jar.dropped > 0) {
         jar.work.reports.note(jar.path + ": signed; the result is not (" + std::to_string(jar.dropped) +
@@ -180,9 +207,13 @@ std::optional<PackedEntry> rewrite_inner_jar(Jar& outer, const ZipEntry& entry) 
     const std::string path = outer.path + ": " + entry.name;
     const InnerJar inner(outer.bytes, entry, outer.path);
     Bytes result;
-    Jar jar{outer.work,       path,
-            inner.bytes(),    inner.contents(),
-            outer.next_class, [&](BytesView bytes) { result.insert(result.end(), bytes.begin(), bytes.end()); },
+    Jar jar{outer.work,
+            path,
+            inner.bytes(),
+            inner.contents(),
+            outer.label + '/' + entry.name,
+            outer.next_class,
+            [&](BytesView bytes) { result.insert(result.end(), bytes.begin(), bytes.end()); },
             nullptr};
     const bool is_changed = rewrite_jar(jar);
     outer.next_class = jar.next_class;
@@ -191,23 +222,23 @@ std::optional<PackedEntry> rewrite_inner_jar(Jar& outer, const ZipEntry& entry) 
 
 }  // namespace
 
-void write_rewritten_jar(Work& work, const fs::path& source, const NewFile& target, const JarContents& contents,
-                         size_t first_class) {
-    const InputFile input(source);
+void write_rewritten_jar(Work& work, const Piece& piece) {
+    const InputFile input(piece.source);
     const ArchiveBytes bytes(input);
-    const std::string path = source.string();
-    for (const std::string& note : contents.notes) {
+    const std::string path = piece.source.string();
+    for (const std::string& note : piece.jar.notes) {
         work.reports.note(note);
     }
     std::optional<OutputFile> output;
     Jar jar{work,
             path,
             bytes,
-            contents,
-            first_class,
+            piece.jar,
+            piece.label,
+            piece.first_class,
             [&](BytesView written) {
                 if (!output) {
-                    output.emplace(target, input.permissions());
+                    output.emplace(piece.target, input.permissions());
                 }
                 output->write(written);
             },
@@ -215,7 +246,7 @@ void write_rewritten_jar(Work& work, const fs::path& source, const NewFile& targ
     if (rewrite_jar(jar)) {
         output->close();
     } else {
-        copy_whole_file(source, target);
+        copy_whole_file(piece.source, piece.target);
     }
 }
 

@@ -11,8 +11,10 @@ namespace vantrel_rewrite::zip {
 namespace header {  // before an entry's contents, with name and extra fields after it
 constexpr std::uint32_t kBegin = 0x04034b50;
 constexpr size_t kSize = 30;
+constexpr size_t kNeeded = 4;
 constexpr size_t kFlags = 6;
 constexpr size_t kMethod = 8;
+constexpr size_t kDate = 12;
 constexpr size_t kCrc = 14;
 constexpr size_t kPackedSize = 18;
 constexpr size_t kUnpackedSize = 22;
@@ -29,8 +31,11 @@ constexpr size_t kCrcAndWideSizes = 20;
 namespace record {  // an entry's, in the directory, with name, extra fields and comment after it
 constexpr std::uint32_t kBegin = 0x02014b50;
 constexpr size_t kSize = 46;
+constexpr size_t kMadeBy = 4;
+constexpr size_t kNeeded = 6;
 constexpr size_t kFlags = 8;
 constexpr size_t kMethod = 10;
+constexpr size_t kDate = 14;
 constexpr size_t kCrc = 16;
 constexpr size_t kPackedSize = 20;
 constexpr size_t kUnpackedSize = 24;

@@ -87,6 +87,10 @@ void ZipWriter::copy(std::uint64_t position, std::uint64_t size) {
     }
 }
 
+BytesView ZipWriter::record_of(const ZipEntry& entry) const {
+    return BytesView(directory_.bytes).subspan(entry.record, entry.record_size);
+}
+
 void ZipWriter::carry_over(const ZipEntry& entry) {
     const std::uint64_t header = written_;
     std::uint64_t size = entry.data - entry.header + entry.packed_size;
@@ -99,7 +103,7 @@ void ZipWriter::carry_over(const ZipEntry& entry) {
         size += size_of_descriptor(entry, begin, has_wide_numbers(BytesView(head).last(extra_size)));
     }
     copy(entry.header, size);
-    add_record(entry, header, nullptr);
+    add_record(record_of(entry), entry, header, nullptr);
 }
 
 // Sizes are known here, so there is no descriptor, and they are not wide.
@@ -119,15 +123,44 @@ void ZipWriter::replace(const ZipEntry& entry, const PackedEntry& contents) {
     write(head);
     write(extra);
     write(contents.data);
-    add_record(entry, header, &contents);
+    add_record(record_of(entry), entry, header, &contents);
 }
 
-void ZipWriter::add_record(const ZipEntry& entry, std::uint64_t header, const PackedEntry* contents) {
-    const unsigned char* old = &directory_.bytes[entry.record];
-    const size_t fixed_and_name = record::kSize + u2(old + record::kNameSize);
-    const size_t extra_size = u2(old + record::kExtraSize);
-    Bytes head(old, old + fixed_and_name);
-    Bytes extra = without_wide_numbers({old + fixed_and_name, extra_size});
+void ZipWriter::add(const std::string& name, const PackedEntry& contents) {
+    constexpr std::uint16_t kVersion = 20;       // of the format, since which there are deflated entries
+    constexpr std::uint16_t kOldestDate = 0x21;  // the first of January 1980
+    const std::uint64_t header = written_;
+    Bytes head(header::kSize);
+    put_number(head.data(), header::kBegin, 4);
+    put_number(&head[header::kNeeded], kVersion, 2);
+    put_number(&head[header::kMethod], contents.method, 2);
+    put_number(&head[header::kDate], kOldestDate, 2);
+    put_number(&head[header::kCrc], contents.crc, 4);
+    put_number(&head[header::kPackedSize], contents.data.size(), 4);
+    put_number(&head[header::kUnpackedSize], contents.size, 4);
+    put_number(&head[header::kNameSize], name.size(), 2);
+    write(head);
+    write(bytes_of(name));
+    write(contents.data);
+
+    Bytes record(record::kSize);
+    put_number(record.data(), record::kBegin, 4);
+    put_number(&record[record::kMadeBy], kVersion, 2);
+    put_number(&record[record::kNeeded], kVersion, 2);
+    put_number(&record[record::kDate], kOldestDate, 2);
+    put_number(&record[record::kNameSize], name.size(), 2);
+    record.insert(record.end(), name.begin(), name.end());
+    ZipEntry entry{};
+    entry.name = name;
+    add_record(record, entry, header, &contents);
+}
+
+// Adds an entry's record to the directory: the old one, with what has changed.
+void ZipWriter::add_record(BytesView old, const ZipEntry& entry, std::uint64_t header, const PackedEntry* contents) {
+    const size_t fixed_and_name = record::kSize + u2(&old[record::kNameSize]);
+    const size_t extra_size = u2(&old[record::kExtraSize]);
+    Bytes head(old.begin(), old.begin() + static_cast<std::ptrdiff_t>(fixed_and_name));
+    Bytes extra = without_wide_numbers(old.subspan(fixed_and_name, extra_size));
 
     const std::uint64_t size = contents != nullptr ? contents->size : entry.size;
     const std::uint64_t packed_size = contents != nullptr ? contents->data.size() : entry.packed_size;
@@ -157,7 +190,8 @@ void ZipWriter::add_record(const ZipEntry& entry, std::uint64_t header, const Pa
     put_number(&head[record::kHeader], narrow(position), 4);
     records_.insert(records_.end(), head.begin(), head.end());
     records_.insert(records_.end(), extra.begin(), extra.end());
-    records_.insert(records_.end(), old + fixed_and_name + extra_size, old + entry.record_size);
+    const BytesView comment = old.subspan(fixed_and_name + extra_size);
+    records_.insert(records_.end(), comment.begin(), comment.end());
     ++count_;
 }
 

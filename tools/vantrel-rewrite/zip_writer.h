@@ -28,13 +28,17 @@ class ZipWriter {
     void carry_over(const ZipEntry& entry);
     void replace(const ZipEntry& entry, const PackedEntry& contents);
 
+    // A new entry, with the oldest time that there is: what is made twice is the same.
+    void add(const std::string& name, const PackedEntry& contents);
+
     void finish();
 
   private:
     void write(BytesView bytes);
     void read(std::uint64_t position, unsigned char* to, size_t size) const;
     void copy(std::uint64_t position, std::uint64_t size);
-    void add_record(const ZipEntry& entry, std::uint64_t header, const PackedEntry* contents);
+    [[nodiscard]] BytesView record_of(const ZipEntry& entry) const;
+    void add_record(BytesView old, const ZipEntry& entry, std::uint64_t header, const PackedEntry* contents);
     void flush();
 
     const ArchiveBytes& from_;

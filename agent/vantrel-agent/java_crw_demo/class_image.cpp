@@ -3,7 +3,7 @@
 #include <cstdio>
 
 #include "constant_pool.h"
-#include "images.h"
+#include "cursors.h"
 #include "method_bytecodes.h"
 #include "method_rewrite_state.h"
 
@@ -22,8 +22,10 @@ constexpr uint16_t kStatic = 0x0008;
 constexpr uint16_t kNative = 0x0100;
 constexpr uint16_t kModule = 0x8000;
 
-// Sizes in bytes: a field's access_flags, name_index and descriptor_index; the index of an interface.
+// Sizes in bytes: a field's access_flags, name_index and descriptor_index; the same of a method, and attributes_count;
+// the index of an interface.
 constexpr size_t kFieldHeadSize = 6;
+constexpr size_t kMethodHeadSize = 8;
 constexpr size_t kInterfaceSize = 2;
 
 void copy_magic(ClassRewriteState& ci) {
@@ -57,9 +59,8 @@ void copy_super_class(ClassRewriteState& ci) {
 }
 
 void skip_attributes(ClassRewriteState& ci) {
-    constexpr size_t kHeadSize = 6;  // name and length
     for (uint16_t left = read_u2(ci); left > 0; --left) {
-        read_bytes(ci, u4_at(read_bytes(ci, kHeadSize) + 2));
+        read_bytes(ci, u4_at(read_bytes(ci, kAttributeHeadSize) + 2));
     }
 }
 
@@ -100,21 +101,35 @@ void copy_fields(ClassRewriteState& ci) {
     }
 }
 
-void copy_method(ClassRewriteState& ci, uint16_t number) {
-    const uint16_t access_flags = copy_u2(ci);
-    const std::string_view name = cpool_text(ci, copy_u2(ci));
-    const std::string_view descriptor = cpool_text(ci, copy_u2(ci));
-    if (ci.mnum_callback != nullptr) {
-        ci.method_names.push_back(c_string(name));
-        ci.method_descriptors.push_back(c_string(descriptor));
+void copy_method_attribute(ClassRewriteState& ci, const Method& method) {
+    AttributeName name{};
+    uint32_t attr_len = 0;
+    in_one_check(ci, kAttributeHeadSize, [&](auto& at) {
+        name = cpool_attribute_name(ci, at.copy_u2());
+        attr_len = at.copy_u4();
+    });
+    if (name == AttributeName::kCode) {
+        method_write_bytecodes(ci, method, attr_len);
+    } else {
+        copy_bytes(ci, attr_len);
     }
-    const uint16_t attribute_count = copy_u2(ci);
-    for (uint16_t i = 0; i < attribute_count; ++i) {
-        if (attribute_match(ci, copy_u2(ci), "Code")) {
-            method_write_bytecodes(ci, {number, access_flags, name, descriptor});
-        } else {
-            copy_bytes(ci, copy_u4(ci));
-        }
+}
+
+void copy_method(ClassRewriteState& ci, uint16_t number) {
+    Method method{number, 0, {}, {}};
+    uint16_t attribute_count = 0;
+    in_one_check(ci, kMethodHeadSize, [&](auto& at) {
+        method.access_flags = at.copy_u2();
+        method.name = cpool_text(ci, at.copy_u2());
+        method.descriptor = cpool_text(ci, at.copy_u2());
+        attribute_count = at.copy_u2();
+    });
+    if (ci.mnum_callback != nullptr) {
+        ci.method_names.push_back(c_string(method.name));
+        ci.method_descriptors.push_back(c_string(method.descriptor));
+    }
+    for (uint16_t left = attribute_count; left > 0; --left) {
+        copy_method_attribute(ci, method);
     }
 }
 

@@ -3,31 +3,75 @@
 #ifndef JAVA_CRW_DEMO_CLASS_REWRITE_STATE_H
 #define JAVA_CRW_DEMO_CLASS_REWRITE_STATE_H
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
+#include "room.h"
+#include "site.h"
+
 namespace crw {
 
 struct MethodRewriteState;
-struct Site;
 
-// A method of the tracker class: its name and descriptor as the caller gave them, and the index of its Methodref in
-// the new constant pool. The index is 0 where the tracker is not wanted.
+// A method of the tracker class: its name as the caller gave it, its descriptor, and the index of its Methodref in the
+// new constant pool. The index is 0 where the tracker is not wanted, and has no name.
 struct Tracker {
     const char* name = nullptr;
-    const char* signature = nullptr;
+    std::string_view signature;
     uint16_t index = 0;
 };
+
+// The bytes of one tracker call. The longest pushes two 16-bit values, with 3 bytes each, and invokes. There is room
+// for a multiple of what a processor moves at once, so that a call can be written as a whole, whatever its length.
+struct InjectionTemplate {
+    std::array<uint8_t, 16> code{};
+    uint8_t len = 0;  // 0 where nothing is injected
+};
+
+// The calls of one method, by where they go.
+struct Injections {
+    InjectionTemplate entry;
+    InjectionTemplate at_return;
+    InjectionTemplate newarray;
+};
+
+// The attributes that the rewriter knows by name.
+enum class AttributeName : uint8_t {
+    kOther,
+    kCode,
+    kLineNumberTable,
+    kLocalVariableTable,
+    kLocalVariableTypeTable,
+    kStackMapTable,
+    kStackMap,
+    kTypeAnnotations,  // visible or not
+};
+
+// What is at an index of the constant pool, if it has been looked up as an attribute's name.
+struct KnownAttributeName {
+    uint32_t index = UINT32_MAX;
+    AttributeName name = AttributeName::kOther;
+};
+
+// The descriptors of trackers: of those that take the class's and the method's number, and of those that take an
+// object.
+constexpr std::string_view kNumbers = "(II)V";
+constexpr std::string_view kObject = "(Ljava/lang/Object;)V";
 
 // Which function was called. The contract of java_crw_demo is kept as it is; what has come to class files since, and
 // what makes every stack map hold, is only for those who call the other one.
 enum class Door : uint8_t { kJavaCrwDemo, kVantrelRewriter };
+
+// Few pools have more entries, and few methods are longer, in bytes.
+constexpr size_t kUsualConstants = 512;
+constexpr size_t kUsualCode = 512;
 
 struct ClassRewriteState {
     uint32_t number = 0;
@@ -45,7 +89,8 @@ struct ClassRewriteState {
 
     // The constant pool. For each index of the class file, the position of its tag in the input; 0 for an index that
     // has no entry. The rewriter's own entries have the indexes that follow.
-    std::vector<uint32_t> constant_positions;
+    std::span<uint32_t> constant_positions;
+    Room<uint32_t, kUsualConstants> constants_room;
     uint16_t cpool_max_elements = 0;
     uint16_t cpool_count_plus_one = 0;
     // Entries that are found to be needed after the pool has been written. They are put where they belong at the end.
@@ -55,17 +100,23 @@ struct ClassRewriteState {
     size_t pool_count_position = 0;
     std::unordered_map<std::string, uint16_t> class_constants;  // by name; filled when a stack map asks for it
 
+    // The names of attributes that have been met, each in the place that the lowest bits of its index choose: those of
+    // a class are few, and come again and again.
+    std::array<KnownAttributeName, 16> known_attribute_names;
+
+    Door door = Door::kJavaCrwDemo;
     bool is_module_info = false;
     bool is_system_class = false;
     bool is_object_class = false;
     bool is_thread_class = false;
+    bool newarray_takes_numbers = false;  // its tracker, as the call tracker does, and not the array
     const char* tracker_class_name = nullptr;
     uint16_t tracker_class_index = 0;
+    uint16_t class_number_index = 0;  // of an Integer with the class number; 0 where that fits in 15 bits
     Tracker object_init_tracker;
     Tracker newarray_tracker;
     Tracker call_tracker;
     Tracker return_tracker;
-    uint16_t class_number_index = 0;  // of an Integer with the class number; 0 where that fits in 15 bits
 
     // The constants of java.lang.Object's new members.
     uint32_t track_name_index = 0;
@@ -76,7 +127,6 @@ struct ClassRewriteState {
     uint32_t get_track_id_method_name_and_type_index = 0;
     uint32_t get_track_id_method_ref_index = 0;
 
-    Door door = Door::kJavaCrwDemo;
     // Told the names and descriptors of the class's methods. May be null.
     void (*mnum_callback)(void* context, unsigned class_number, const char** names, const char** descriptors,
                           int method_count) = nullptr;
@@ -86,11 +136,11 @@ struct ClassRewriteState {
     std::vector<std::string_view> method_descriptors;
     const MethodRewriteState* current_method = nullptr;  // for the texts of failures
 
-    // The room for a method's map and sites (method_rewrite_state.h). It is kept from one method to the next, so that
-    // a class needs no more of it than its longest method does.
-    std::unique_ptr<int32_t[]> map;
-    size_t map_size = 0;
-    std::vector<Site> sites;
+    // What belongs to one method at a time (method_rewrite_state.h): its calls, and the room for its map and its sites.
+    // The room is kept from one method to the next, so that a class needs no more of it than its longest method does.
+    Injections injections;
+    Room<int32_t, kUsualCode> map_room;
+    Room<Site, kUsualCode> sites_room;
 };
 
 }  // namespace crw

@@ -1,45 +1,13 @@
 #include "code_attribute.h"
 
-#include <algorithm>
-
 #include "constant_pool.h"
-#include "images.h"
+#include "cursors.h"
 #include "stack_maps.h"
 #include "type_annotations.h"
 
 namespace crw {
 
 namespace {
-
-// Reads and writes with every check.
-struct Careful {
-    ClassRewriteState& ci;
-
-    uint16_t read_u2() { return crw::read_u2(ci); }
-    void write_u2(uint32_t value) { crw::write_u2(ci, value); }
-    void stand() {}
-};
-
-// Reads and writes where the bytes are known to be there.
-struct Quick {
-    ClassRewriteState& ci;
-    const uint8_t* in = ci.input + ci.input_position;
-    uint8_t* out = ci.output + ci.output_position;
-
-    uint16_t read_u2() {
-        in += 2;
-        return u2_at(in - 2);
-    }
-    void write_u2(uint32_t value) {
-        put_u2(out, value);
-        out += 2;
-    }
-    // Sets the positions in the images to where this is.
-    void stand() {
-        ci.input_position = static_cast<size_t>(in - ci.input);
-        ci.output_position = static_cast<size_t>(out - ci.output);
-    }
-};
 
 template <typename Cursor>
 int32_t new_pc(const MethodRewriteState& mi, Cursor& at, uint32_t pc) {
@@ -51,24 +19,18 @@ int32_t new_pc(const MethodRewriteState& mi, Cursor& at, uint32_t pc) {
 
 template <typename Cursor>
 int32_t new_start(const MethodRewriteState& mi, Cursor& at, uint16_t start_pc) {
-    return start_pc == 0 ? 0 : new_pc(mi, at, start_pc);
+    const int32_t moved = new_pc(mi, at, start_pc);
+    return start_pc == 0 ? 0 : moved;
 }
 
-// Writes the entries of a table, each by `write_entry`, which keeps their size: those quickly for which there is enough
-// left of both images, so that it need not be asked again, and then the others.
+// Writes the entries of a table, each by `write_entry`, which keeps their size.
 template <typename WriteEntry>
 void write_table(MethodRewriteState& mi, size_t count, size_t entry_size, const WriteEntry& write_entry) {
-    ClassRewriteState& ci = mi.ci;
-    const size_t room = std::min(ci.input_len - ci.input_position, ci.output_len - ci.output_position) / entry_size;
-    Quick quick{ci};
-    for (size_t left = std::min(count, room); left > 0; --left) {
-        write_entry(quick);
-    }
-    quick.stand();
-    Careful careful{ci};
-    for (size_t left = count - std::min(count, room); left > 0; --left) {
-        write_entry(careful);
-    }
+    in_one_check(mi.ci, count * entry_size, [&](auto& at) {
+        for (size_t left = count; left > 0; --left) {
+            write_entry(at);
+        }
+    });
 }
 
 // Returns the number of entries of a table. All of them must be inside the attribute.
@@ -105,7 +67,8 @@ void write_var_table(MethodRewriteState& mi, uint32_t attr_len) {
 }  // namespace
 
 int32_t new_start(const MethodRewriteState& mi, uint16_t start_pc) {
-    return start_pc == 0 ? 0 : mi.new_pc(start_pc);
+    const int32_t moved = mi.new_pc(start_pc);
+    return start_pc == 0 ? 0 : moved;
 }
 
 void write_exception_table(MethodRewriteState& mi) {
@@ -120,23 +83,35 @@ void write_exception_table(MethodRewriteState& mi) {
 
 void method_write_code_attribute(MethodRewriteState& mi) {
     ClassRewriteState& ci = mi.ci;
-    const std::string_view name = cpool_text(ci, copy_u2(ci));
-    const size_t length_position = ci.output_position;
-    const uint32_t attr_len = copy_attribute_length(ci);
-    if (name == "LineNumberTable") {
-        write_line_number_table(mi, attr_len);
-    } else if (name == "LocalVariableTable" || name == "LocalVariableTypeTable") {
-        write_var_table(mi, attr_len);
-    } else if (name == "StackMapTable") {
-        write_stack_map_table(mi, attr_len, length_position);
-    } else if (name == "StackMap") {
-        write_stack_map(mi, attr_len, length_position);
-    } else if (ci.door == Door::kVantrelRewriter &&
-               (name == "RuntimeVisibleTypeAnnotations" || name == "RuntimeInvisibleTypeAnnotations")) {
-        write_type_annotations(mi, attr_len);
-    } else {
-        copy_bytes(ci, attr_len);
+    AttributeName name{};
+    uint32_t attr_len = 0;
+    in_one_check(ci, kAttributeHeadSize, [&](auto& at) {
+        const uint16_t name_index = at.copy_u2();
+        at.stand();
+        name = cpool_attribute_name(ci, name_index);
+        attr_len = at.copy_u4();
+    });
+    require_attribute(ci, attr_len);
+    const size_t length_position = ci.output_position - sizeof attr_len;
+    switch (name) {
+        case AttributeName::kLineNumberTable:
+            return write_line_number_table(mi, attr_len);
+        case AttributeName::kLocalVariableTable:
+        case AttributeName::kLocalVariableTypeTable:
+            return write_var_table(mi, attr_len);
+        case AttributeName::kStackMapTable:
+            return write_stack_map_table(mi, attr_len, length_position);
+        case AttributeName::kStackMap:
+            return write_stack_map(mi, attr_len, length_position);
+        case AttributeName::kTypeAnnotations:
+            if (ci.door == Door::kVantrelRewriter) {
+                return write_type_annotations(mi, attr_len);
+            }
+            break;
+        default:
+            break;
     }
+    copy_bytes(ci, attr_len);
 }
 
 }  // namespace crw

@@ -1,7 +1,9 @@
 #include "constant_pool.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
+#include <utility>
 
 #include "images.h"
 
@@ -35,6 +37,10 @@ using Sizes = std::array<uint8_t, 256>;
 constexpr Sizes kSizesOfToday = {0, 3, 0, 5, 5, 9, 9, 3, 3, 5, 5, 5, 5, 0, 0, 4, 3, 5, 5, 3, 3};
 constexpr Sizes kSizes = {0, 3, 0, 5, 5, 9, 9, 3, 3, 5, 5, 5, 5, 0, 0, 4, 3, 0, 5};
 
+constexpr size_t kUtf8Head = kSizes[kUtf8];      // tag and length
+constexpr size_t kPairSize = kSizes[kFieldref];  // of two indexes
+constexpr size_t kLargestHead = kSizes[kLong];   // and the whole of all that are no text
+
 // The pool may grow by so much. The sum of the class file's count and this is kept in 16 bits, and so a pool that is
 // already half full or more gets a capacity below its count, and fails.
 constexpr uint32_t kGrowth = 0x7FFF;
@@ -46,9 +52,11 @@ constexpr const char* kLengthRule = "len==(len & 0xFFFF)";
 constexpr const char* kCapacityRule = "ci->cpool_count_plus_one < ci->cpool_max_elements";
 constexpr const char* kUnknownTag = "Unknown tag: %d, at ipos %hu";
 
-[[noreturn]] void unknown_tag(const ClassRewriteState& ci, int tag) {
+[[noreturn]] void unknown_tag(ClassRewriteState& ci, size_t position) {
     constexpr size_t kMessageSize = 256;
     char message[kMessageSize];
+    ci.input_position = position;
+    const int tag = read_u1(ci);
     snprintf(message, sizeof message, kUnknownTag, tag, static_cast<unsigned short>(ci.input_position));
     fatal_error(ci, kUnknownTag, message);
 }
@@ -58,21 +66,35 @@ constexpr const char* kUnknownTag = "Unknown tag: %d, at ipos %hu";
     assertion_failed(ci, kInsideImages);
 }
 
+// Fails if the entry at a position is not whole, or is none.
+void check_entry(ClassRewriteState& ci, size_t position, const Sizes& sizes) {
+    const size_t left = ci.input_len - std::min(ci.input_len, position);
+    if (left == 0) {
+        too_short(ci);
+    }
+    const uint8_t tag = ci.input[position];
+    if (sizes[tag] == 0) {
+        unknown_tag(ci, position);
+    }
+    if (left < sizes[tag]) {
+        too_short(ci);
+    }
+}
+
 // Appends the rewriter's entries to the pool in the new image.
 class Appender {
   public:
     explicit Appender(ClassRewriteState& ci) : ci_(ci), at_(ci.output + ci.output_position) {}
 
     uint16_t utf8(std::string_view text) {
-        constexpr size_t kHead = 3;
         if (text.size() > UINT16_MAX) {
             write(1);
             assertion_failed(ci_, kLengthRule);
         }
-        uint8_t* entry = write(kHead + text.size());
+        uint8_t* entry = write(kUtf8Head + text.size());
         entry[0] = kUtf8;
         put_u2(entry + 1, static_cast<uint32_t>(text.size()));
-        memcpy(entry + kHead, text.data(), text.size());
+        memcpy(entry + kUtf8Head, text.data(), text.size());
         return next_index();
     }
 
@@ -158,29 +180,43 @@ void cpool_index(ClassRewriteState& ci) {
     }
     ci.cpool_count_plus_one = count_plus_one;
     require(ci, ci.input_len <= UINT32_MAX, kInsideImages);
-    ci.constant_positions.assign(count_plus_one, 0);
+    uint32_t* positions = ci.constants_room.for_elements(count_plus_one + 1U);
+    ci.constant_positions = {positions, count_plus_one};
+    positions[0] = 0;
     const Sizes& sizes = ci.door == Door::kJavaCrwDemo ? kSizes : kSizesOfToday;
-    const uint8_t* const begin = ci.input;
-    const uint8_t* const end = ci.input + ci.input_len;
-    const uint8_t* at = ci.input + ci.input_position;
-    uint32_t* positions = ci.constant_positions.data();
+    // Up to here an entry is in the class file, but for the text of a Utf8 entry. That one that goes beyond the end is
+    // seen when the next entry would begin there.
+    const size_t safe = ci.input_len - std::min(ci.input_len, kLargestHead);
+    const uint8_t* const input = ci.input;
+    size_t at = ci.input_position;
     for (uint32_t index = 1; index < count_plus_one; ++index) {
-        const auto left = static_cast<size_t>(end - at);
-        const size_t head = left > 0 ? sizes[*at] : 0;
-        if (head == 0) [[unlikely]] {
-            ci.input_position = static_cast<size_t>(at - begin);
-            unknown_tag(ci, read_u1(ci));
+        if (at >= safe) [[unlikely]] {
+            check_entry(ci, at, sizes);
         }
-        const uint8_t tag = *at;
-        const size_t size = head + (tag == kUtf8 && left >= head ? size_t{u2_at(at + 1)} : 0);
-        if (left < size) [[unlikely]] {
-            too_short(ci);
+        positions[index] = static_cast<uint32_t>(at);
+        const uint8_t tag = input[at];
+        // The next entry's place waits for this one's size. A processor that guesses the kind need not wait for the
+        // table; most entries are texts, or refer to two others.
+        if (tag == kUtf8) {
+            at += kUtf8Head + u2_at(input + at + 1);
+            continue;
         }
-        positions[index] = static_cast<uint32_t>(at - begin);
-        at += size;
-        index += tag == kLong || tag == kDouble ? 1 : 0;
+        if (tag >= kFieldref && tag <= kNameAndType) {
+            at += kPairSize;
+            continue;
+        }
+        if (sizes[tag] == 0) [[unlikely]] {
+            unknown_tag(ci, at);
+        }
+        at += sizes[tag];
+        if (tag == kLong || tag == kDouble) {
+            positions[++index] = 0;
+        }
     }
-    ci.input_position = static_cast<size_t>(at - begin);
+    if (at > ci.input_len) {
+        too_short(ci);
+    }
+    ci.input_position = at;
     // Once is enough for the few dozen entries that are appended: either the capacity has wrapped to less than the
     // count, or there is room for thousands.
     require(ci, ci.cpool_count_plus_one < ci.cpool_max_elements, kCapacityRule);
@@ -194,7 +230,8 @@ void cpool_setup(ClassRewriteState& ci) {
 
     ci.end_of_own_pool = ci.output_position;
     Appender appender(ci);
-    const bool pushes_class_number = ci.call_tracker.name != nullptr || ci.return_tracker.name != nullptr;
+    const bool pushes_class_number =
+        ci.call_tracker.name != nullptr || ci.return_tracker.name != nullptr || ci.newarray_takes_numbers;
     if (pushes_class_number && ci.number > kLargestImmediate) {
         ci.class_number_index = appender.pair(kInteger, ci.number >> 16U, ci.number & 0xFFFFU);
     }
@@ -289,6 +326,25 @@ std::string_view cpool_odd_text(const ClassRewriteState& ci, uint32_t index) {
     const uint8_t* entry = entry_at(ci, index);
     require(ci, entry[0] == kUtf8, kIndexRule);
     return {reinterpret_cast<const char*>(entry) + 3, u2_at(entry + 1)};
+}
+
+AttributeName cpool_new_attribute_name(ClassRewriteState& ci, uint32_t index) {
+    static constexpr std::pair<std::string_view, AttributeName> kNames[] = {
+        {"Code", AttributeName::kCode},
+        {"LineNumberTable", AttributeName::kLineNumberTable},
+        {"LocalVariableTable", AttributeName::kLocalVariableTable},
+        {"LocalVariableTypeTable", AttributeName::kLocalVariableTypeTable},
+        {"StackMapTable", AttributeName::kStackMapTable},
+        {"StackMap", AttributeName::kStackMap},
+        {"RuntimeVisibleTypeAnnotations", AttributeName::kTypeAnnotations},
+        {"RuntimeInvisibleTypeAnnotations", AttributeName::kTypeAnnotations},
+    };
+    const std::string_view text = cpool_text(ci, index);
+    const auto* found =
+        std::find_if(std::begin(kNames), std::end(kNames), [text](const auto& name) { return name.first == text; });
+    const AttributeName name = found != std::end(kNames) ? found->second : AttributeName::kOther;
+    ci.known_attribute_names[index % ci.known_attribute_names.size()] = {index, name};
+    return name;
 }
 
 std::string_view cpool_class_name(const ClassRewriteState& ci, uint32_t index) {

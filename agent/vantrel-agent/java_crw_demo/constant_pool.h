@@ -54,9 +54,12 @@ inline std::string_view cpool_text(const ClassRewriteState& ci, uint32_t index) 
 // The name of a class by the index of its Class entry.
 std::string_view cpool_class_name(const ClassRewriteState& ci, uint32_t index);
 
-// Whether the text at an index, an attribute's name, is a given one.
-inline bool attribute_match(const ClassRewriteState& ci, uint32_t name_index, std::string_view name) {
-    return cpool_text(ci, name_index) == name;
+// Which attribute is called by the text at an index. Fails where the index does not lead to a text.
+// cpool_new_attribute_name is the part of it for an index that has not been met lately.
+AttributeName cpool_new_attribute_name(ClassRewriteState& ci, uint32_t index);
+inline AttributeName cpool_attribute_name(ClassRewriteState& ci, uint32_t index) {
+    const KnownAttributeName& known = ci.known_attribute_names[index % ci.known_attribute_names.size()];
+    return known.index == index ? known.name : cpool_new_attribute_name(ci, index);
 }
 
 }  // namespace crw

@@ -34,13 +34,24 @@ inline uint16_t u2_at(const uint8_t* bytes) {
 inline uint32_t u4_at(const uint8_t* bytes) {
     return static_cast<uint32_t>(u2_at(bytes)) << 16U | u2_at(bytes + 2);
 }
+
+// The bytes are put together first, so that the compiler stores them at once.
+template <size_t size>
+void put_big_endian(uint8_t* to, uint64_t value) {
+    uint8_t bytes[size];
+    for (size_t i = 0; i < size; ++i) {
+        bytes[i] = static_cast<uint8_t>(value >> 8U * (size - 1 - i));
+    }
+    memcpy(to, bytes, size);
+}
 inline void put_u2(uint8_t* to, uint32_t value) {
-    to[0] = static_cast<uint8_t>(value >> 8U);
-    to[1] = static_cast<uint8_t>(value);
+    put_big_endian<2>(to, value);
 }
 inline void put_u4(uint8_t* to, uint32_t value) {
-    put_u2(to, value >> 16U);
-    put_u2(to + 2, value);
+    put_big_endian<4>(to, value);
+}
+inline void put_u8(uint8_t* to, uint64_t value) {
+    put_big_endian<8>(to, value);
 }
 
 // Reading.
@@ -109,11 +120,12 @@ inline uint32_t copy_u4(ClassRewriteState& ci) {
     return value;
 }
 
-// The length of an attribute. The class file must have as many bytes left.
-inline uint32_t copy_attribute_length(ClassRewriteState& ci) {
-    const uint32_t attr_len = copy_u4(ci);
+// An attribute's name_index and attribute_length.
+constexpr size_t kAttributeHeadSize = 6;
+
+// The class file must have as many bytes left as an attribute is long, after its head.
+inline void require_attribute(const ClassRewriteState& ci, uint32_t attr_len) {
     require(ci, ci.input_len - ci.input_position >= attr_len, kInsideImages);
-    return attr_len;
 }
 
 }  // namespace crw

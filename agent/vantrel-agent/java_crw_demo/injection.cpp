@@ -2,89 +2,85 @@
 
 #include <algorithm>
 
+#include "images.h"
 #include "opcodes.h"
 
 namespace crw {
 
 namespace {
 
-void emit(InjectionTemplate& injection, uint32_t byte) {
-    injection.code[injection.len++] = static_cast<uint8_t>(byte);
-}
+// The instructions that push a tracker call's arguments, as one number in which the last byte is the lowest. They are
+// six bytes at most. Single bytes in memory would have to wait for each other where several are read at once.
+struct Pushes {
+    uint64_t bytes = 0;
+    uint8_t len = 0;
 
-void emit_u2(InjectionTemplate& injection, uint32_t value) {
-    emit(injection, value >> 8U);
-    emit(injection, value);
+    void add(uint32_t instruction, uint8_t size) {
+        bytes = bytes << 8U * size | instruction;
+        len = static_cast<uint8_t>(len + size);
+    }
+};
+
+// An instruction with an operand of one byte, and of two.
+uint32_t with_u1(Opcode opcode, uint32_t operand) {
+    return uint32_t{opcode} << 8U | (operand & UINT8_MAX);
+}
+uint32_t with_u2(Opcode opcode, uint32_t operand) {
+    return uint32_t{opcode} << 16U | (operand & UINT16_MAX);
 }
 
 // The short forms take numbers of seven bits, because bipush takes the eighth for a sign. ldc does not, but its limit
 // is the same one.
-void emit_push(InjectionTemplate& injection, uint32_t value) {
+void push(Pushes& pushes, uint32_t value) {
     constexpr uint32_t kLargestIconst = 5;
     if (value <= kLargestIconst) {
-        emit(injection, kIconst0 + value);
+        pushes.add(kIconst0 + value, 1);
     } else if (value <= INT8_MAX) {
-        emit(injection, kBipush);
-        emit(injection, value);
+        pushes.add(with_u1(kBipush, value), 2);
     } else {
-        emit(injection, kSipush);
-        emit_u2(injection, value);
+        pushes.add(with_u2(kSipush, value), 3);
     }
 }
 
-void emit_push_class_number(InjectionTemplate& injection, const ClassRewriteState& ci) {
+void push_class_number(Pushes& pushes, const ClassRewriteState& ci) {
     if (ci.class_number_index == 0) {
-        emit_push(injection, ci.number);
+        push(pushes, ci.number);
     } else if (ci.class_number_index <= INT8_MAX) {
-        emit(injection, kLdc);
-        emit(injection, ci.class_number_index);
+        pushes.add(with_u1(kLdc, ci.class_number_index), 2);
     } else {
-        emit(injection, kLdcW);
-        emit_u2(injection, ci.class_number_index);
+        pushes.add(with_u2(kLdcW, ci.class_number_index), 3);
     }
 }
 
-void emit_invoke(InjectionTemplate& injection, const Tracker& tracker) {
-    emit(injection, kInvokestatic);
-    emit_u2(injection, tracker.index);
-}
-
-// The call of a tracker that takes a reference, which the instruction `load` pushes.
-InjectionTemplate reference_template(const Tracker& tracker, uint32_t load) {
-    InjectionTemplate injection;
+// Makes the call of a tracker, after what pushes its arguments. Empty for a tracker that is not wanted.
+void make_call(InjectionTemplate& call, const Pushes& pushes, const Tracker& tracker) {
+    constexpr uint32_t kInvokeLength = 3;
+    call.len = 0;
     if (tracker.index != 0) {
-        emit(injection, load);
-        emit_invoke(injection, tracker);
+        put_u8(call.code.data(), pushes.bytes << 8U * (sizeof pushes.bytes - pushes.len));
+        put_u4(call.code.data() + pushes.len, with_u2(kInvokestatic, tracker.index) << 8U);
+        call.len = static_cast<uint8_t>(pushes.len + kInvokeLength);
     }
-    return injection;
-}
-
-// The call of a tracker that takes the class's and the method's number, which `pushes` pushes.
-InjectionTemplate numbers_template(const InjectionTemplate& pushes, const Tracker& tracker) {
-    if (tracker.index == 0) {
-        return {};
-    }
-    InjectionTemplate injection = pushes;
-    emit_invoke(injection, tracker);
-    return injection;
 }
 
 }  // namespace
 
 void prepare_injections(MethodRewriteState& mi) {
-    const ClassRewriteState& ci = mi.ci;
+    ClassRewriteState& ci = mi.ci;
+    Injections& calls = ci.injections;
+    constexpr Pushes kTheArray = {kDup, 1};
+    Pushes numbers;
+    push_class_number(numbers, ci);
+    push(numbers, mi.number);
     if (mi.object_init_method) {
-        mi.entry_injection = reference_template(ci.object_init_tracker, kAload0);
+        make_call(calls.entry, {kAload0, 1}, ci.object_init_tracker);
+        calls.at_return.len = 0;
+    } else {
+        make_call(calls.entry, numbers, ci.call_tracker);
+        make_call(calls.at_return, numbers, ci.return_tracker);
     }
-    if (!mi.skip_call_return_sites) {
-        InjectionTemplate pushes;
-        emit_push_class_number(pushes, ci);
-        emit_push(pushes, mi.number);
-        mi.entry_injection = numbers_template(pushes, ci.call_tracker);
-        mi.return_injection = numbers_template(pushes, ci.return_tracker);
-    }
-    mi.newarray_injection = reference_template(ci.newarray_tracker, kDup);
-    if (mi.entry_injection.len > 0) {
+    make_call(calls.newarray, ci.newarray_takes_numbers ? numbers : kTheArray, ci.newarray_tracker);
+    if (calls.entry.len > 0) {
         need_stack(mi, mi.object_init_method ? 1 : 2);
     }
 }

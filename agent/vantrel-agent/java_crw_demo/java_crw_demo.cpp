@@ -26,16 +26,9 @@ bool is_class_signature(const char* signature) {
            std::string_view(signature).ends_with(';');
 }
 
-void require_tracker(const Tracker& tracker, std::string_view signature, const char* failure) {
-    require_argument(tracker.name == nullptr || (tracker.signature != nullptr && tracker.signature == signature),
-                     failure);
-}
-
-void check_trackers(const ClassRewriteState& ci) {
-    require_tracker(ci.call_tracker, "(II)V", "call_sig is not (II)V");
-    require_tracker(ci.return_tracker, "(II)V", "return_sig is not (II)V");
-    require_tracker(ci.object_init_tracker, "(Ljava/lang/Object;)V", "obj_init_sig is not (Ljava/lang/Object;)V");
-    require_tracker(ci.newarray_tracker, "(Ljava/lang/Object;)V", "newarray_sig is not (Ljava/lang/Object;)V");
+Tracker make_tracker(const char* name, const char* signature, std::string_view expected, const char* failure) {
+    require_argument(name == nullptr || (signature != nullptr && signature == expected), failure);
+    return {name, expected};
 }
 
 // Tells the caller of a failure. Leaves by the handler's own exception, if it throws one.
@@ -98,15 +91,16 @@ void java_crw_demo(unsigned class_number, const char* name, const unsigned char*
         ci.input_len = static_cast<size_t>(file_len);
         ci.is_system_class = system_class == 1;
         ci.tracker_class_name = tclass_name;
-        ci.call_tracker = {call_name, call_sig};
-        ci.return_tracker = {return_name, return_sig};
-        ci.object_init_tracker = {obj_init_name, obj_init_sig};
-        ci.newarray_tracker = {newarray_name, newarray_sig};
+        ci.call_tracker = make_tracker(call_name, call_sig, kNumbers, "call_sig is not (II)V");
+        ci.return_tracker = make_tracker(return_name, return_sig, kNumbers, "return_sig is not (II)V");
+        ci.object_init_tracker =
+            make_tracker(obj_init_name, obj_init_sig, kObject, "obj_init_sig is not (Ljava/lang/Object;)V");
+        ci.newarray_tracker =
+            make_tracker(newarray_name, newarray_sig, kObject, "newarray_sig is not (Ljava/lang/Object;)V");
         if (mnum_callback != nullptr) {
             ci.mnum_callback = tell_method_names;
             ci.mnum_context = &mnum_callback;
         }
-        check_trackers(ci);
         if (name != nullptr) {
             require(ci, std::string_view(name).find('.') == std::string_view::npos, "strchr(name,'.')==NULL");
             ci.name = name;

@@ -4,7 +4,7 @@
 #include <climits>
 
 #include "code_attribute.h"
-#include "images.h"
+#include "cursors.h"
 #include "injection.h"
 #include "method_rewrite_state.h"
 #include "plan.h"
@@ -19,32 +19,33 @@ constexpr const char* kCodeTooLong = "mi->new_code_len <= 0xFFFF";
 // max_stack, max_locals and code_length: what stands before the code.
 constexpr uint32_t kHeaderSize = 8;
 
-void write_injection(ClassRewriteState& ci, const InjectionTemplate& injection) {
-    write_bytes(ci, injection.code.data(), injection.len);
-}
-
-// A span of the old code, and what comes after it where it ends at a site.
-void write_span(ClassRewriteState& ci, const uint8_t* code, size_t size, const InjectionTemplate* injection) {
-    constexpr size_t kLongestInjection = sizeof injection->code;
-    const size_t injection_len = injection != nullptr ? injection->len : 0;
-    if (ci.output_len - ci.output_position < size + kLongestInjection) [[unlikely]] {
-        write_bytes(ci, code, size);
-        return injection != nullptr ? write_injection(ci, *injection) : void();
+// A span of the old code, and the call that comes after it. Most spans are short, and so that many bytes are written
+// without a look at the length, and as many as the longest call has. What was too much is written over by what follows.
+void write_span(ClassRewriteState& ci, const uint8_t* span, size_t size, const InjectionTemplate& call) {
+    constexpr size_t kUsualSpan = 32;
+    const auto readable = static_cast<size_t>(ci.input + ci.input_len - span);
+    const size_t room = ci.output_len - ci.output_position;
+    if (readable < kUsualSpan || room < size + kUsualSpan + sizeof call.code) [[unlikely]] {
+        write_bytes(ci, span, size);
+        write_bytes(ci, call.code.data(), call.len);
+        return;
     }
     uint8_t* out = ci.output + ci.output_position;
-    memcpy(out, code, size);
-    if (injection != nullptr) {
-        memcpy(out + size, injection->code.data(), kLongestInjection);
+    memcpy(out, span, kUsualSpan);
+    if (size > kUsualSpan) {
+        memcpy(out + kUsualSpan, span + kUsualSpan, size - kUsualSpan);
     }
-    ci.output_position += size + injection_len;
+    memcpy(out + size, call.code.data(), sizeof call.code);
+    ci.output_position += size + call.len;
 }
 
 void write_code(MethodRewriteState& mi) {
+    static constexpr InjectionTemplate kNoCall;
     ClassRewriteState& ci = mi.ci;
     const uint8_t* code = ci.input + mi.start_of_input_bytecodes;
     const auto code_len = static_cast<uint32_t>(mi.code_len);
     if (code_len > 0) {
-        write_injection(ci, mi.entry_injection);
+        write_span(ci, code, 0, mi.injections.entry);
     }
     uint32_t copied = 0;
     for (const Site& site : mi.sites) {
@@ -56,15 +57,15 @@ void write_code(MethodRewriteState& mi) {
         copied = site.pc_next;
         ci.input_position = mi.start_of_input_bytecodes + copied;
         if (site.kind == Site::kReturn) {
-            write_span(ci, span, size, &mi.return_injection);
+            write_span(ci, span, size, mi.injections.at_return);
         } else if (site.kind == Site::kNewArray) {
-            write_span(ci, span, size, &mi.newarray_injection);
+            write_span(ci, span, size, mi.injections.newarray);
         } else {
-            write_span(ci, span, size, nullptr);
+            write_span(ci, span, size, kNoCall);
             write_instruction(mi, site, code);
         }
     }
-    write_bytes(ci, code + copied, code_len - copied);
+    write_span(ci, code + copied, code_len - copied, kNoCall);
     ci.input_position = mi.start_of_input_bytecodes + code_len;
 }
 
@@ -88,12 +89,17 @@ class CurrentMethod {
 
 }  // namespace
 
-void method_write_bytecodes(ClassRewriteState& ci, const Method& method) {
-    const uint32_t attr_len = copy_attribute_length(ci);
+void method_write_bytecodes(ClassRewriteState& ci, const Method& method, uint32_t attr_len) {
+    require_attribute(ci, attr_len);
     const size_t body = ci.output_position;
-    const uint16_t max_stack = copy_u2(ci);
-    const uint16_t max_locals = copy_u2(ci);
-    const uint32_t code_len = copy_u4(ci);
+    uint16_t max_stack = 0;
+    uint16_t max_locals = 0;
+    uint32_t code_len = 0;
+    in_one_check(ci, kHeaderSize, [&](auto& at) {
+        max_stack = at.copy_u2();
+        max_locals = at.copy_u2();
+        code_len = at.copy_u4();
+    });
 
     const bool is_object_init =
         ci.is_object_class && c_string(method.name) == "<init>" && c_string(method.descriptor) == "()V";
@@ -116,9 +122,7 @@ void method_write_bytecodes(ClassRewriteState& ci, const Method& method) {
                           .max_stack = max_stack,
                           .new_max_stack = max_stack,
                           .object_init_method = is_object_init,
-                          .skip_call_return_sites = is_object_init,
-                          .map = nullptr,
-                          .sites = ci.sites};
+                          .injections = ci.injections};
     const CurrentMethod current(mi);
     require(ci, std::min<size_t>(code_len, ci.input_len - ci.input_position) <= kLongestCode, kCodeTooLong);
     prepare_injections(mi);

@@ -19,8 +19,8 @@ struct Method {
     std::string_view descriptor;
 };
 
-// Rewrites a method's Code attribute. Both images are at the attribute's length, after its name.
-void method_write_bytecodes(ClassRewriteState& ci, const Method& method);
+// Rewrites a method's Code attribute, whose head has been copied: both images are after attribute_length.
+void method_write_bytecodes(ClassRewriteState& ci, const Method& method, uint32_t attr_len);
 
 }  // namespace crw
 

@@ -23,34 +23,18 @@
 #ifndef JAVA_CRW_DEMO_METHOD_REWRITE_STATE_H
 #define JAVA_CRW_DEMO_METHOD_REWRITE_STATE_H
 
-#include <array>
 #include <cstdint>
+#include <span>
 #include <string_view>
-#include <vector>
 
 #include "class_rewrite_state.h"
 #include "failure.h"
+#include "site.h"
 
 namespace crw {
 
 // No VM loads longer code (JVM specification, section 4.9.1), and the map's arithmetic is not made for it.
 constexpr uint32_t kLongestCode = 0xFFFF;
-
-// A place in the old code where the new code is something else than a copy: an injection, or an instruction that is
-// written anew.
-struct Site {
-    enum Kind : uint8_t { kReturn, kNewArray, kBranch, kWideBranch, kTableSwitch, kLookupSwitch };
-    uint32_t pc;       // of the instruction, or of the one that an injection goes before
-    uint32_t pc_next;  // where the old instruction ends; for an injection the same as pc
-    Kind kind;
-    int8_t widening;  // by how much the instruction grows: 0, 2 or 5 for a branch, -3 to 3 for a switch's padding
-};
-
-// The bytes of one tracker call. The longest pushes two 16-bit values, with 3 bytes each, and invokes.
-struct InjectionTemplate {
-    std::array<uint8_t, 9> code{};
-    uint8_t len = 0;
-};
 
 struct MethodRewriteState {
     ClassRewriteState& ci;
@@ -64,15 +48,12 @@ struct MethodRewriteState {
     int32_t new_code_len = 0;
     int32_t max_stack;
     int32_t new_max_stack;
-    bool object_init_method;      // java.lang.Object's constructor
-    bool skip_call_return_sites;  // it has no call or return injections
+    bool object_init_method;  // java.lang.Object's constructor, which has no call or return injections
 
-    InjectionTemplate entry_injection{};
-    InjectionTemplate return_injection{};
-    InjectionTemplate newarray_injection{};
+    const Injections& injections;
 
-    int32_t* map;              // a pc inside an instruction has an entry, too, and moves with it
-    std::vector<Site>& sites;  // in the order of the code
+    int32_t* map = nullptr;   // a pc inside an instruction has an entry, too, and moves with it
+    std::span<Site> sites{};  // in the order of the code
 
     // The new pc of an old one. Fails for a pc that is not in the code.
     [[nodiscard]] int32_t new_pc(uint32_t pc) const {

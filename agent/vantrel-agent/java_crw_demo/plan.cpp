@@ -14,17 +14,24 @@ namespace {
 
 // How far the plan steps over each opcode, and 0 for one that it has to look at: a branch, a switch, `wide`, no opcode
 // at all, or in this method an instruction that something is injected at.
-struct Steps {
-    explicit Steps(const MethodRewriteState& mi) : length(kPlainLength) {
-        if (mi.return_injection.len > 0) {
-            std::fill(length.begin() + kIreturn, length.begin() + kReturnOpcode + 1, 0);
-        }
-        if (mi.newarray_injection.len > 0) {
-            length[kNewarray] = length[kAnewarray] = length[kMultianewarray] = 0;
-        }
+using Steps = std::array<uint8_t, 256>;
+
+constexpr Steps make_steps(bool into_returns, bool into_arrays) {
+    Steps steps = kPlainLength;
+    if (into_returns) {
+        std::fill(steps.begin() + kIreturn, steps.begin() + kReturnOpcode + 1, uint8_t{0});
     }
-    std::array<uint8_t, 256> length;
-};
+    if (into_arrays) {
+        steps[kNewarray] = steps[kAnewarray] = steps[kMultianewarray] = 0;
+    }
+    return steps;
+}
+
+const Steps& steps_of(const Injections& calls) {
+    static constexpr Steps kSteps[2][2] = {{make_steps(false, false), make_steps(false, true)},
+                                           {make_steps(true, false), make_steps(true, true)}};
+    return kSteps[calls.at_return.len > 0 ? 1 : 0][calls.newarray.len > 0 ? 1 : 0];
+}
 
 [[noreturn]] void fail_at(MethodRewriteState& mi, size_t pc, const char* condition) {
     mi.ci.input_position = mi.start_of_input_bytecodes + pc;
@@ -38,34 +45,31 @@ class Planner {
           code_(mi.ci.input + mi.start_of_input_bytecodes),
           code_len_(static_cast<uint32_t>(mi.code_len)),
           available_(std::min<size_t>(mi.ci.input_len - mi.start_of_input_bytecodes, UINT32_MAX)),
-          shift_(mi.entry_injection.len) {}
+          shift_(mi.injections.entry.len) {}
 
     void plan() {
-        const Steps steps(mi_);
+        const uint8_t* steps = steps_of(mi_.injections).data();
         const size_t readable = std::min<size_t>(code_len_, available_);
         make_room(readable);
         size_t pc = 0;
         while (pc < readable) {
-            const uint8_t step = steps.length[code_[pc]];
+            const uint8_t step = steps[code_[pc]];
+            move(pc);
             pc = step != 0 ? pc + step : note(static_cast<uint32_t>(pc));
         }
         end_of_instruction(std::max<size_t>(pc, code_len_));
-        move_up_to(code_len_ + 1);
+        move(code_len_);
+        mi_.sites = {sites_, site_};
     }
 
   private:
-    // For the map, whose values are all written before they are read, and for the sites.
+    static constexpr size_t kEntriesAtOnce = 8;
+
+    // For the map, whose values are all written before they are read, and for a site at each byte.
     void make_room(size_t code_size) {
-        constexpr size_t kUsualSites = 256;
-        constexpr size_t kUsualCode = 2048;
-        ClassRewriteState& ci = mi_.ci;
-        if (ci.map_size <= code_size) {
-            ci.map_size = std::max(2 * code_size + 1, kUsualCode);
-            ci.map.reset(new int32_t[ci.map_size]);
-        }
-        mi_.map = ci.map.get();
-        mi_.sites.clear();
-        mi_.sites.reserve(kUsualSites);
+        mi_.map = mi_.ci.map_room.for_elements(code_size + kEntriesAtOnce);
+        sites_ = mi_.ci.sites_room.for_elements(code_size);
+        site_ = sites_;
     }
 
     // Where an instruction ends. That must be inside the code, and inside the class file.
@@ -79,10 +83,20 @@ class Planner {
         return static_cast<uint32_t>(pc_next);
     }
 
-    // Old pcs below `pc` move by the shift so far.
-    void move_up_to(uint32_t pc) {
-        std::iota(mi_.map + moved_, mi_.map + pc, static_cast<int32_t>(moved_) + shift_);
-        moved_ = pc;
+    // Enters an instruction of the usual lengths into the map. What is too much is written over by what follows.
+    void move(size_t pc) const {
+        int32_t* entries = mi_.map + pc;
+        const int32_t new_pc = static_cast<int32_t>(pc) + shift_;
+        for (int32_t i = 0; i < static_cast<int32_t>(kEntriesAtOnce); ++i) {
+            entries[i] = new_pc + i;
+        }
+    }
+
+    // One of any length.
+    void move(size_t pc, size_t pc_next) const {
+        for (; pc < pc_next; pc += kEntriesAtOnce) {
+            move(pc);
+        }
     }
 
     // Looks at one instruction, and lists it if it is a site. Returns the pc of the next one.
@@ -96,20 +110,18 @@ class Planner {
             case kAreturn:
             case kReturnOpcode:
                 // The injection goes before the instruction, and the instruction's pc leads to the injection.
-                mi_.sites.push_back({pc, pc, Site::kReturn, 0});
+                add({pc, pc, Site::kReturn, 0});
                 need_stack(mi_, 2);
-                move_up_to(pc + 1);
-                shift_ += mi_.return_injection.len;
+                shift_ += mi_.injections.at_return.len;
                 return pc + 1;
             case kNewarray:
             case kAnewarray:
             case kMultianewarray: {
                 // The injection goes before the next instruction, whose pc leads past the injection.
                 const uint32_t pc_next = end_of_instruction(pc + length_of_array_creation(opcode));
-                mi_.sites.push_back({pc_next, pc_next, Site::kNewArray, 0});
-                need_stack(mi_, 1);
-                move_up_to(pc_next);
-                shift_ += mi_.newarray_injection.len;
+                add({pc_next, pc_next, Site::kNewArray, 0});
+                need_stack(mi_, mi_.ci.newarray_takes_numbers ? 2 : 1);
+                shift_ += mi_.injections.newarray.len;
                 return pc_next;
             }
             case kGotoW:
@@ -129,9 +141,11 @@ class Planner {
         }
     }
 
+    void add(Site site) { *site_++ = site; }
+
     uint32_t note(uint32_t pc, size_t pc_next, Site::Kind kind) {
         const uint32_t end = end_of_instruction(pc_next);
-        mi_.sites.push_back({pc, end, kind, 0});
+        add({pc, end, kind, 0});
         return end;
     }
 
@@ -144,7 +158,9 @@ class Planner {
             fail_at(mi_, operands + 12, kInsideImages);
         }
         const auto count = static_cast<size_t>(int64_t{high} - low + 1);
-        return note(pc, operands + 12 + 4 * count, Site::kTableSwitch);
+        const uint32_t end = note(pc, operands + 12 + 4 * count, Site::kTableSwitch);
+        move(pc, end);
+        return end;
     }
 
     uint32_t note_lookup_switch(uint32_t pc) {
@@ -154,7 +170,9 @@ class Planner {
         if (pair_count < 0) {
             fail_at(mi_, operands + 8, kInsideImages);
         }
-        return note(pc, operands + 8 + 8 * static_cast<size_t>(pair_count), Site::kLookupSwitch);
+        const uint32_t end = note(pc, operands + 8 + 8 * static_cast<size_t>(pair_count), Site::kLookupSwitch);
+        move(pc, end);
+        return end;
     }
 
     [[nodiscard]] uint32_t length_of_wide(uint32_t pc) const {
@@ -176,7 +194,8 @@ class Planner {
     uint32_t code_len_;
     size_t available_;
     int32_t shift_;
-    uint32_t moved_ = 0;  // the map is filled up to here
+    Site* sites_ = nullptr;
+    Site* site_ = nullptr;  // the next one
 };
 
 }  // namespace

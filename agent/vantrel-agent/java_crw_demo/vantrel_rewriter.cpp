@@ -97,6 +97,9 @@ const char* wrong_argument(const unsigned char* class_file, const VantrelRewrite
     if (options.class_name != nullptr && strchr(options.class_name, '.') != nullptr) {
         return "The class's name has a dot in it; it has to be in internal form, as in java/lang/String.";
     }
+    if (options.newarray_tracker != nullptr && options.numbered_newarray_tracker != nullptr) {
+        return "There are two trackers of new arrays.";
+    }
     return nullptr;
 }
 
@@ -106,8 +109,6 @@ void tell_method_names(void* options, unsigned class_number, const char** names,
 }
 
 void prepare(ClassRewriteState& ci, const unsigned char* class_file, size_t length, VantrelRewriterOptions& options) {
-    constexpr const char* kNumbers = "(II)V";
-    constexpr const char* kObject = "(Ljava/lang/Object;)V";
     ci.door = Door::kVantrelRewriter;
     ci.number = options.class_number;
     ci.input = class_file;
@@ -117,7 +118,9 @@ void prepare(ClassRewriteState& ci, const unsigned char* class_file, size_t leng
     ci.call_tracker = {options.call_tracker, kNumbers};
     ci.return_tracker = {options.return_tracker, kNumbers};
     ci.object_init_tracker = {options.object_init_tracker, kObject};
-    ci.newarray_tracker = {options.newarray_tracker, kObject};
+    ci.newarray_takes_numbers = options.numbered_newarray_tracker != nullptr;
+    ci.newarray_tracker = ci.newarray_takes_numbers ? Tracker{options.numbered_newarray_tracker, kNumbers}
+                                                    : Tracker{options.newarray_tracker, kObject};
     if (options.class_name != nullptr) {
         ci.name = options.class_name;
         ci.is_thread_class = *ci.name == "java/lang/Thread";
@@ -136,8 +139,9 @@ size_t room(size_t length, const VantrelRewriterOptions& options, bool most) {
     }
     constexpr size_t kMostGrowth = 16;
     size_t names = 0;
-    for (const char* name : {options.tracker_class, options.call_tracker, options.return_tracker,
-                             options.object_init_tracker, options.newarray_tracker}) {
+    for (const char* name :
+         {options.tracker_class, options.call_tracker, options.return_tracker, options.object_init_tracker,
+          options.newarray_tracker, options.numbered_newarray_tracker}) {
         names += name != nullptr ? strlen(name) : 0;
     }
     return kMostGrowth * usual_room(length) + names;

@@ -22,6 +22,7 @@
  *   - Type annotations of code move with it. Of the attributes of Code that it does not know (the JVM specification of
  *     that version has none), it cannot tell what stands in pcs, and carries them over as they are.
  *   - The new image may be as long as it needs to be, and the constant pool as full as the format allows.
+ *   - What is called where an array is made may be given the numbers of class and method in the place of the array.
  *   - Failures are results. Nothing is written to stdout or stderr, nothing is thrown, and nothing ends the process.
  *
  * Threads: any number may rewrite at the same time; no state outlives a call.
@@ -43,7 +44,7 @@ extern "C" {
 #endif
 
 /* What this header describes. Later versions only add to the ends of the two structs. */
-#define VANTREL_REWRITER_INTERFACE_VERSION 1
+#define VANTREL_REWRITER_INTERFACE_VERSION 2
 
 /* NOLINTBEGIN(modernize-use-using): C has no other way. */
 
@@ -79,6 +80,9 @@ struct VantrelRewriterOptions {
     int system_class;                /* not 0 for a class that the VM may load while it starts (java_crw_demo.h) */
     VantrelRewriterMethods methods;  /* may be NULL */
     void* context;                   /* for `methods` */
+
+    /* Since version 2. In the place of newarray_tracker, at the same places: told who makes the array, not which. */
+    const char* numbered_newarray_tracker; /* "(II)V": class number, method number */
 };
 
 /* What came of it. The caller sets `size`; the rest is overwritten. Texts that are too long are cut. */

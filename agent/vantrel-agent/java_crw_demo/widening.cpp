@@ -4,6 +4,8 @@
 #include <bit>
 #include <climits>
 #include <numeric>
+#include <span>
+#include <utility>
 #include <vector>
 
 #include "branches.h"
@@ -15,10 +17,10 @@
 //
 //   - Of the switches the next one. When that has been padded anew, all that follows it has moved by a multiple of
 //     four bytes, and their paddings are as right as before; until then nothing that comes later is looked at.
-//   - Of the branches those that jump over the changed site, and only those which that can have made too long. A branch
-//     that has been looked at has so many bytes to spare. It is looked at again when half of them may have been used up
-//     on either side of a fixed place that it jumps over (Alarms), and so not more often than the logarithm of what it
-//     had to spare.
+//   - Of the branches those that jump over the changed site and have become too long. A branch that has been looked at
+//     has so many bytes to spare. They are divided into two budgets, for the growth on either side of a fixed place
+//     that it jumps over (Pivot). It is looked at again when one of them is used up, which is a quarter of the bytes at
+//     least, and so not more often than the logarithm of what it had to spare.
 //
 // What is pending includes all that needs a change, and the first of these is what the scan would find: the changes are
 // the same ones, and so is where they end.
@@ -57,78 +59,105 @@ class Sums {
     std::vector<int32_t> partial_;
 };
 
-// Budgets, each of which can be set, and ranges of which can be charged, to find those that are used up. A tree whose
-// nodes have the least budget below them.
+// Budgets, each of which can be set, and those before or after a place be charged, to find one that is used up. A tree
+// whose entries have the least budget below them. They come in blocks, which a processor goes through several entries
+// at a time.
 class Budgets {
   public:
-    explicit Budgets(size_t size) : size_(std::bit_ceil(std::max<size_t>(size, 1))), nodes_(2 * size_, Node{}) {}
+    explicit Budgets(size_t count) {
+        do {
+            count = (count + kBlock - 1) / kBlock;
+            levels_.push_back({std::vector<int32_t>(count * kBlock, kPlenty), std::vector<int32_t>(count * kBlock, 0)});
+        } while (count > 1);
+    }
 
     void set(size_t at, int32_t budget) {
-        size_t node = at + size_;
         int32_t charged = 0;
-        for (size_t above = node / 2; above > 0; above /= 2) {
-            charged += nodes_[above].charged;
+        size_t above = at;
+        for (size_t level = 1; level < levels_.size(); ++level) {
+            above /= kBlock;
+            charged += levels_[level].charged[above];
         }
-        nodes_[node].least = budget == INT32_MAX ? INT32_MAX / 2 : budget + charged;
-        update_above(node);
-    }
-
-    // Those from the first to before the last.
-    void charge(size_t first, size_t last, int32_t amount) {
-        size_t from = first + size_;
-        size_t to = last + size_;
-        for (; from < to; from /= 2, to /= 2) {
-            if (from % 2 == 1) {
-                charge(from++, amount);
-            }
-            if (to % 2 == 1) {
-                charge(--to, amount);
-            }
-        }
-        if (first > 0 && first < size_) {
-            update_above(first + size_);
-        }
-        if (last > 0 && last < size_) {
-            update_above(last - 1 + size_);
+        levels_[0].least[at] = std::min(budget, kPlenty) + charged;
+        bool changes = true;
+        for (size_t level = 1; level < levels_.size() && changes; ++level) {
+            at /= kBlock;
+            changes = update(level, at);
         }
     }
 
-    [[nodiscard]] size_t size() const { return size_; }
+    void charge_before(size_t end, int32_t amount) {
+        for (size_t level = 0; level < levels_.size(); ++level) {
+            const size_t block = end / kBlock;
+            charge(level, block * kBlock, end, amount);
+            update(level + 1, block);
+            end = block;
+        }
+    }
 
-    // Whether there is a budget that is used up. If so, `at` becomes the first such.
+    void charge_from(size_t begin, int32_t amount) {
+        for (size_t level = 0; level < levels_.size(); ++level) {
+            const size_t block = begin / kBlock;
+            charge(level, begin, std::min((block + 1) * kBlock, levels_[level].least.size()), amount);
+            update(level + 1, block);
+            begin = block + 1;
+        }
+    }
+
+    // Whether there is a budget that is used up. If so, `at` becomes one.
     [[nodiscard]] bool find_used_up(size_t& at) const {
-        if (nodes_[1].least > 0) {
-            return false;
-        }
-        size_t node = 1;
+        size_t entry = 0;
         int32_t charged = 0;
-        while (node < size_) {
-            charged += nodes_[node].charged;
-            node = 2 * node + (nodes_[2 * node].least - charged <= 0 ? 0 : 1);
+        for (size_t level = levels_.size(); level-- > 0;) {
+            const int32_t* least = &levels_[level].least[entry * kBlock];
+            const int32_t* end = least + kBlock;
+            const int32_t* found = std::find_if(least, end, [charged](int32_t budget) { return budget <= charged; });
+            if (found == end) {
+                return false;
+            }
+            entry = entry * kBlock + static_cast<size_t>(found - least);
+            charged += levels_[level].charged[entry];
         }
-        at = node - size_;
+        at = entry;
         return true;
     }
 
   private:
-    struct Node {
-        int32_t least = INT32_MAX / 2;  // without what is charged above
-        int32_t charged = 0;            // to all below
+    static constexpr size_t kBlock = 16;
+    static constexpr int32_t kPlenty = INT32_MAX / 2;
+
+    // The budgets themselves, or what stands above the blocks of the level below.
+    struct Level {
+        std::vector<int32_t> least;    // without what is charged above
+        std::vector<int32_t> charged;  // to all below
     };
 
-    void charge(size_t node, int32_t amount) {
-        nodes_[node].least -= amount;
-        nodes_[node].charged += amount;
-    }
-
-    void update_above(size_t node) {
-        for (node /= 2; node > 0; node /= 2) {
-            nodes_[node].least = std::min(nodes_[2 * node].least, nodes_[2 * node + 1].least) - nodes_[node].charged;
+    void charge(size_t level, size_t begin, size_t end, int32_t amount) {
+        for (size_t i = begin; i < end; ++i) {
+            levels_[level].least[i] -= amount;
+            levels_[level].charged[i] += amount;
         }
     }
 
-    size_t size_;
-    std::vector<Node> nodes_;
+    // Makes an entry what the block below it says, if there is one. Returns whether it was something else.
+    bool update(size_t level, size_t at) {
+        if (level == levels_.size() || at * kBlock >= levels_[level - 1].least.size()) {
+            return false;
+        }
+        const int32_t least = least_of(&levels_[level - 1].least[at * kBlock]) - levels_[level].charged[at];
+        return std::exchange(levels_[level].least[at], least) != least;
+    }
+
+    // Of a block. Four at a time, which do not wait for each other.
+    static int32_t least_of(const int32_t* block) {
+        int32_t least[4] = {block[0], block[1], block[2], block[3]};
+        for (size_t i = 4; i < kBlock; ++i) {
+            least[i % 4] = std::min(least[i % 4], block[i]);
+        }
+        return std::min(std::min(least[0], least[1]), std::min(least[2], least[3]));
+    }
+
+    std::vector<Level> levels_;
 };
 
 // A site whose widening is open: a switch, or a branch that may become too long.
@@ -158,6 +187,7 @@ struct Order {
 // budget for each, and does not become too long while there is something left of both.
 struct Pivot {
     size_t place = 0;
+    int32_t shift = 0;  // by how much the candidates before it have grown
     std::vector<uint32_t> branches;
     Order by_begin;  // of what a branch jumps over
     Order by_end;
@@ -168,6 +198,10 @@ class Settler {
     Settler(MethodRewriteState& mi, const uint8_t* code) : mi_(mi), code_(code) {
         find_candidates();
         shifts_ = Sums(candidates_.size());
+        largest_shifts_.reserve(candidates_.size() + 1);
+        for (const Candidate& candidate : candidates_) {
+            largest_shifts_.push_back(largest_shifts_.back() + largest_growth(*candidate.site));
+        }
         make_pivots();
     }
 
@@ -192,7 +226,7 @@ class Settler {
 
     void find_candidates() {
         // By site, by how much all before it can grow.
-        const std::vector<Site>& sites = mi_.sites;
+        const std::span<const Site> sites = mi_.sites;
         std::vector<int32_t> growth_before(sites.size() + 1, 0);
         for (size_t i = 0; i < sites.size(); ++i) {
             growth_before[i + 1] = growth_before[i] + largest_growth(sites[i]);
@@ -293,17 +327,47 @@ class Settler {
             const int32_t new_pc = candidate.new_pc + shifts_.of_first(own);
             return change(own, static_cast<int8_t>(padding_at(new_pc) - padding_at(static_cast<int32_t>(site.pc))));
         }
-        if (site.widening != 0) {
-            return own;  // a branch that has grown stays so
-        }
-        const int32_t offset = candidate.offset + shifts_.of_first(candidate.before) - shifts_.of_first(own);
+        // A branch that has grown stays so.
+        return site.widening != 0 || is_short_enough(own) ? own : change(own, candidate.full_growth);
+    }
+
+    // Whether a branch fits as it is. If so, it gets budgets, so that it need not be looked at until it may not fit any
+    // more; and else none.
+    bool is_short_enough(size_t own) {
+        const Candidate& candidate = candidates_[own];
+        const int32_t own_shift = shifts_.of_first(own);
+        const int32_t target_shift = shifts_.of_first(candidate.before);
+        const int32_t offset = candidate.offset + target_shift - own_shift;
         if (!fits(offset)) {
             set_budgets(candidate, INT32_MAX, INT32_MAX);
-            return change(own, candidate.full_growth);
+            return false;
         }
+        const Pivot& pivot = pivots_[candidate.pivot];
+        const bool is_forward = own < candidate.before;
+        const int32_t left = still_to_come(candidate.first_between(own), is_forward ? own_shift : target_shift,
+                                           pivot.place, pivot.shift);
+        // A branch may end before its pivot, if there are no candidates where it does.
+        const int32_t right = std::max(
+            still_to_come(pivot.place, pivot.shift, candidate.last_between(own), is_forward ? target_shift : own_shift),
+            0);
         const int32_t to_spare = offset < 0 ? offset - kFarthestBack : kFarthestForward - offset;
-        set_budgets(candidate, to_spare / 2 + 1, to_spare - to_spare / 2 + 1);
-        return own;
+        const int32_t for_left = part_for_left(to_spare, left, right);
+        set_budgets(candidate, for_left + 1, to_spare - for_left + 1);
+        return true;
+    }
+
+    // By how much the candidates from one to another can still grow, given by how much all before each have.
+    [[nodiscard]] int32_t still_to_come(size_t first, int32_t first_shift, size_t last, int32_t last_shift) const {
+        return largest_shifts_[last] - largest_shifts_[first] - (last_shift - first_shift);
+    }
+
+    // How much of what a branch has to spare is for the growth on the left of its pivot, if so much can still come on
+    // either side. In proportion, so that both parts last equally long, but a quarter at least; and what cannot be used
+    // up on one side is for the other.
+    static int32_t part_for_left(int32_t to_spare, int32_t left, int32_t right) {
+        const int64_t in_proportion = int64_t{to_spare} * left / std::max(left + right, 1);
+        const int32_t part = std::clamp(static_cast<int32_t>(in_proportion), to_spare / 4, to_spare - to_spare / 4);
+        return std::max(std::min(part, left), to_spare - right);
     }
 
     void set_budgets(const Candidate& candidate, int32_t left, int32_t right) {
@@ -332,17 +396,22 @@ class Settler {
         return first;
     }
 
-    // Charges the branches of a pivot that jump over a candidate, and puts those in that have used up a budget.
+    // Charges the branches of a pivot that jump over a candidate, looks at those that have used up a budget, and puts
+    // those in that do not fit. Returns the first of these, or the candidate.
     size_t charge(Pivot& pivot, size_t own, int32_t growth) {
         const bool is_left = own < pivot.place;
         Order& order = is_left ? pivot.by_begin : pivot.by_end;
-        Budgets& budgets = order.budgets;
-        const size_t rank = order.up_to[own];
-        budgets.charge(is_left ? 0 : rank, is_left ? rank : budgets.size(), growth);
+        if (is_left) {
+            pivot.shift += growth;
+            order.budgets.charge_before(order.up_to[own], growth);
+        } else {
+            order.budgets.charge_from(order.up_to[own], growth);
+        }
         size_t first = own;
-        for (size_t at = 0; budgets.find_used_up(at);) {
-            budgets.set(at, INT32_MAX);
-            first = std::min(first, put_in(order.branches[at]));
+        for (size_t at = 0; order.budgets.find_used_up(at);) {
+            if (!is_short_enough(order.branches[at])) {
+                first = std::min(first, put_in(order.branches[at]));
+            }
         }
         return first;
     }
@@ -355,7 +424,8 @@ class Settler {
     MethodRewriteState& mi_;
     const uint8_t* code_;
     std::vector<Candidate> candidates_;
-    std::vector<size_t> switches_;  // by index of candidate
+    std::vector<int32_t> largest_shifts_{0};  // by how much the candidates before each can grow, and all of them
+    std::vector<size_t> switches_;            // by index of candidate
     std::vector<Pivot> pivots_;
     Sums shifts_{0};  // by how much the candidates have grown
     std::vector<uint64_t> pending_;
