@@ -19,8 +19,13 @@ set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
 
 # In the place of Apple's SDK: what the linker has to know of two frameworks.
 set(CMAKE_OSX_SYSROOT ${CMAKE_CURRENT_LIST_DIR}/sdk CACHE PATH "")
+# Of this system's headers, CLI11's and no others.
+set(CLI11_INCLUDE_DIR ${CMAKE_CURRENT_LIST_DIR}/../../build/macos-headers CACHE PATH "")
+file(MAKE_DIRECTORY ${CLI11_INCLUDE_DIR})
+file(CREATE_LINK /usr/include/CLI ${CLI11_INCLUDE_DIR}/CLI SYMBOLIC)
 # The declarations of Carbon and Quartz that the keyboard's tests have.
 set(CMAKE_CXX_FLAGS_INIT "-isystem ${CMAKE_CURRENT_LIST_DIR}/../../tests/carbon")
 # An arm64 Mac runs no code without a signature. The map to debug information, which the C++ library's files would get,
 # has their times in it.
 set(CMAKE_SHARED_LINKER_FLAGS_INIT "-Wl,-adhoc_codesign -Wl,-S")
+set(CMAKE_EXE_LINKER_FLAGS_INIT ${CMAKE_SHARED_LINKER_FLAGS_INIT})
