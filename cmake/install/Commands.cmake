@@ -4,7 +4,7 @@ set(commands vantrel vantrel-generate)
 if(NOT VANTREL_SYSTEM_ONLY)
     list(APPEND commands vantrel-rewrite)
 endif()
-install(TARGETS ${commands})
+install(TARGETS ${commands} RUNTIME COMPONENT runtime)
 
 find_program(LOWDOWN lowdown)
 if(NOT LOWDOWN)
