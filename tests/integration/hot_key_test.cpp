@@ -346,7 +346,8 @@ TEST(HotKey, IsNotThereWithoutADisplay) {
         EXPECT_TRUE(probe.complains(c.reason + "."));
         EXPECT_EQ(probe.end(), kAnnouncement + "bound in time\nmodifier not held\nunbound\n");
         // XCB itself may say a word on a refusal.
-        EXPECT_THAT(probe.err(), HasSubstr((c.display.empty() ? "" : kWhichKey) + "vantrel-agent: no hot key: " + c.reason + ".\n"));
+        EXPECT_THAT(probe.err(),
+                    HasSubstr((c.display.empty() ? "" : kWhichKey) + "vantrel-agent: no hot key: " + c.reason + ".\n"));
     }
 }
 

@@ -34,11 +34,6 @@ Table table_in(const fs::path& file) {
     return table;
 }
 
-Words operator+(Words left, const Words& right) {
-    left.insert(left.end(), right.begin(), right.end());
-    return left;
-}
-
 class Count : public OnEachJdk {
   public:
     void do_well(const Words& command) const {

@@ -18,9 +18,11 @@ bool find_all() {
     if (library == nullptr) {
         return false;
     }
-#define VANTREL_XCB_FIND(name) &&find(library, "xcb_" #name, name)
-    return true VANTREL_XCB_FUNCTIONS(VANTREL_XCB_FIND);
+    bool found = true;
+#define VANTREL_XCB_FIND(name) found = find(library, "xcb_" #name, name) && found;
+    VANTREL_XCB_FUNCTIONS(VANTREL_XCB_FIND)
 #undef VANTREL_XCB_FIND
+    return found;
 }
 
 }  // namespace
