@@ -1,6 +1,6 @@
 /* What a program has of glibc within itself, before glibc 2.33 and 2.34 took it into their shared library: it is linked
- * into each library and program that cmake/portable/c++ links. The compiler has its own of these, whose fstat and
- * fstatat leave errno as it was. */
+ * into each library and program that cmake/portable/c++ links. The compiler has its own of these, which bring a second
+ * errno and, with it, a library that takes of the little room that a process has for such variables (static TLS). */
 #include <stddef.h>
 
 struct stat;
