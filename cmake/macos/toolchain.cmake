@@ -13,6 +13,10 @@ endforeach()
 set(CMAKE_CXX_COMPILER ${CMAKE_CURRENT_LIST_DIR}/c++)
 set(CMAKE_AR ${llvm}/llvm-ar)
 set(CMAKE_RANLIB ${llvm}/llvm-ranlib)
+# ar makes no index of universal files.
+set(CMAKE_CXX_ARCHIVE_CREATE "${llvm}/llvm-libtool-darwin -static -o <TARGET> <OBJECTS>")
+set(CMAKE_CXX_ARCHIVE_APPEND "")
+set(CMAKE_CXX_ARCHIVE_FINISH "")
 set(CMAKE_INSTALL_NAME_TOOL ${llvm}/llvm-install-name-tool)
 # What runs on this machine is not for macOS.
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
