@@ -34,7 +34,7 @@ AgentData gb_data;
 
 namespace {
 
-constexpr const char* kCompanionJarName = "vantrel-1.2.3.jar";
+constexpr const char* kCompanionJarName = "vantrel-" VANTREL_VERSION ".jar";
 
 // The longest library or jar path, with its terminating zero.
 constexpr size_t kMaxPathSize = 1024;

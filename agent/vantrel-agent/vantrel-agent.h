@@ -38,7 +38,7 @@ extern AgentData gb_data;
 // Records this library's path in gb_data. Run by the dynamic loader when it maps the library.
 void on_load();
 
-// Writes the path of the companion jar, "vantrel-1.2.3.jar" in the folder of gb_data.libraryPath, to `dst` and says
+// Writes the path of the companion jar, "vantrel-VERSION.jar" in the folder of gb_data.libraryPath, to `dst` and says
 // whether that file exists. The folder ends at the last '/' or '\'; a library path without either gives the bare name.
 // A library or jar path of 1024 bytes or more counts as a jar that does not exist, and so does one that does not fit
 // `dst`; `dst` then holds as much of the path as it can.

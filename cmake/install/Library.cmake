@@ -10,7 +10,7 @@ set(pkgconfig_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
 install(TARGETS vantrel-agent java-crw-demo EXPORT vantrel-agent
     LIBRARY COMPONENT runtime NAMELINK_COMPONENT developers
-    INCLUDES DESTINATION ${header_folder})
+    INCLUDES DESTINATION ${header_folder} ${header_folder}/jc)
 install(FILES $<TARGET_PROPERTY:vantrel-companion,JAR_FILE> DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime)
 set(sources ${PROJECT_SOURCE_DIR}/agent/vantrel-agent)
 install(FILES
@@ -19,7 +19,9 @@ install(FILES
     ${sources}/java_crw_demo/java_crw_demo.h
     ${sources}/java_crw_demo/vantrel_rewriter.h
     DESTINATION ${header_folder})
-# What proxies include, vantrel-generate's and others.
+# What proxies include, vantrel-generate's and others, by names such as "../JCBase.h". So that these are found wherever a
+# project has its proxies, compilers look into a folder that these are above.
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/include-jc.txt DESTINATION ${header_folder}/jc RENAME README)
 install(FILES
     ${sources}/JCBase.h
     ${sources}/JavaInc.h

@@ -20,7 +20,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION java)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "default-jre, libxcb1")
-set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_LIST_DIR}/debian/shlibs ${CMAKE_CURRENT_LIST_DIR}/debian/triggers)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/debian/shlibs.in ${PROJECT_BINARY_DIR}/shlibs @ONLY)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/shlibs ${CMAKE_CURRENT_LIST_DIR}/debian/triggers)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 # Debian's changelog says since when there is this version: CHANGELOG.md says what is in it.
@@ -37,6 +38,7 @@ install(FILES
     ${CMAKE_CURRENT_LIST_DIR}/debian/copyright
     ${PROJECT_BINARY_DIR}/changelog.gz
     ${PROJECT_SOURCE_DIR}/README.md
+    ${PROJECT_SOURCE_DIR}/CONTRIBUTING.md
     ${PROJECT_SOURCE_DIR}/CHANGELOG.md
     DESTINATION ${doc_folder})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${doc_folder})

@@ -1,6 +1,6 @@
 # Makes a manual page of a command's manual; run by CMake's -P:
 #
-#   cmake -D MANUAL=vantrel.md -D PAGE=vantrel.1 -D VERSION=1.2.3 -D LOWDOWN=lowdown -P manual-page.cmake
+#   cmake -D MANUAL=vantrel.md -D PAGE=vantrel.1 -D VERSION=X.Y.Z -D LOWDOWN=lowdown -P manual-page.cmake
 #
 # Manual pages have their sections' names in capitals, no title above the first one, a dash after the name, which
 # apropos looks for, no links to files that lie beside the manual, and a list of terms where the manual has a table.

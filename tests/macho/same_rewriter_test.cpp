@@ -125,6 +125,7 @@ std::string by_second_door(const Rewriter& rewriter, const ClassFile& file, unsi
                                          asked * 3000,
                                          static_cast<int>(asked >> 4U & 1U),
                                          on_methods_modern,
+                                         nullptr,
                                          nullptr};
     VantrelRewriterResult result{};
     result.size = sizeof result;
