@@ -1,25 +1,29 @@
 # What the build needs besides the compiler and the JDK; scripts/setup installs it on Debian.
 #
-# Gives: Xcb_INCLUDE_DIRS (not on macOS); where more than the library is built: PkgConfig::Deflate, PkgConfig::Zlib,
-# Threads::Threads, Cli11::headers; and where the tests are built: GTest::gmock, GTest::gtest_main, PkgConfig::Zip,
-# PkgConfig::XcbTest, and the files JUNIT4_JAR, HAMCREST_JAR, MIGLAYOUT_SWING_JAR and MIGLAYOUT_CORE_JAR.
+# Gives: Cli11::headers, Xcb_INCLUDE_DIRS (not on macOS); without VANTREL_SYSTEM_ONLY: PkgConfig::Deflate,
+# PkgConfig::Zlib, Threads::Threads (static libraries, with VANTREL_STATIC_LIBRARIES); and where the tests are built:
+# GTest::gmock, GTest::gtest_main, PkgConfig::Zip, PkgConfig::XcbTest, and the files JUNIT4_JAR, HAMCREST_JAR,
+# MIGLAYOUT_SWING_JAR and MIGLAYOUT_CORE_JAR.
 
 if(NOT APPLE)
     find_package(PkgConfig REQUIRED)
     pkg_check_modules(Xcb REQUIRED xcb)
 endif()
-if(VANTREL_LIBRARY_ONLY)
+
+find_path(CLI11_INCLUDE_DIR CLI/CLI.hpp REQUIRED)
+add_library(Cli11::headers INTERFACE IMPORTED)
+target_include_directories(Cli11::headers SYSTEM INTERFACE ${CLI11_INCLUDE_DIR})
+if(VANTREL_SYSTEM_ONLY)
     return()
 endif()
 
 find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
+if(VANTREL_STATIC_LIBRARIES)
+    set(CMAKE_FIND_LIBRARY_SUFFIXES .a)
+endif()
 pkg_check_modules(Deflate REQUIRED IMPORTED_TARGET libdeflate)
 pkg_check_modules(Zlib REQUIRED IMPORTED_TARGET zlib)
-
-find_path(CLI11_INCLUDE_DIR CLI/CLI.hpp REQUIRED)
-add_library(Cli11::headers INTERFACE IMPORTED)
-target_include_directories(Cli11::headers SYSTEM INTERFACE ${CLI11_INCLUDE_DIR})
 
 if(VANTREL_TESTS)
     find_package(GTest REQUIRED)

@@ -1,6 +1,10 @@
 # What cmake --install puts into place for people: the commands, and a manual page of each command's manual where there
 # is lowdown (Debian: lowdown) to make one.
-install(TARGETS vantrel vantrel-generate vantrel-rewrite)
+set(commands vantrel vantrel-generate)
+if(NOT VANTREL_SYSTEM_ONLY)
+    list(APPEND commands vantrel-rewrite)
+endif()
+install(TARGETS ${commands} RUNTIME COMPONENT runtime)
 
 find_program(LOWDOWN lowdown)
 if(NOT LOWDOWN)
@@ -8,7 +12,7 @@ if(NOT LOWDOWN)
     return()
 endif()
 set(maker ${CMAKE_CURRENT_LIST_DIR}/manual-page.cmake)
-foreach(command vantrel vantrel-generate vantrel-rewrite)
+foreach(command IN LISTS commands)
     set(manual ${PROJECT_SOURCE_DIR}/docs/${command}.md)
     set(page ${PROJECT_BINARY_DIR}/man/${command}.1)
     add_custom_command(OUTPUT ${page}.gz

@@ -1,7 +1,7 @@
 # What cmake --install puts into place for a VM that loads the agent, and for other projects: the library and the jar that
 # it looks for beside itself, the rewriter as a library of its own, public headers, and how CMake and pkg-config find
 # all that. The folders are GNUInstallDirs'; everything finds everything else from where it lies, so that the whole may
-# be moved.
+# be moved. What is not for developers, and is made anew for each system, is the component `runtime`.
 include(CMakePackageConfigHelpers)
 
 set(header_folder ${CMAKE_INSTALL_INCLUDEDIR}/vantrel)
@@ -9,8 +9,9 @@ set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/vantrel-agent)
 set(pkgconfig_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
 install(TARGETS vantrel-agent java-crw-demo EXPORT vantrel-agent
+    LIBRARY COMPONENT runtime NAMELINK_COMPONENT developers
     INCLUDES DESTINATION ${header_folder} ${header_folder}/jc)
-install(FILES $<TARGET_PROPERTY:vantrel-companion,JAR_FILE> DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(FILES $<TARGET_PROPERTY:vantrel-companion,JAR_FILE> DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime)
 set(sources ${PROJECT_SOURCE_DIR}/agent/vantrel-agent)
 install(FILES
     ${sources}/CodeGenerater/CodeGenerater.h

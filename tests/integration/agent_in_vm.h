@@ -2,13 +2,20 @@
 #ifndef VANTREL_AGENT_IN_VM_H
 #define VANTREL_AGENT_IN_VM_H
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
 #include "java_vm.h"
 #include "test_folder.h"
 
-const std::filesystem::path kLibraryFolder = VANTREL_LIBRARY_FOLDER;
+// Where the library and the jar are that are tested: those of this build, if nothing else is said.
+inline std::filesystem::path tested_folder() {
+    const char* given = getenv("VANTREL_TESTED_FOLDER");
+    return given != nullptr ? given : VANTREL_LIBRARY_FOLDER;
+}
+
+const std::filesystem::path kLibraryFolder = tested_folder();
 const std::filesystem::path kLibrary = kLibraryFolder / "libvantrel-agent.so.1";
 const std::filesystem::path kCompanionJar = kLibraryFolder / "vantrel-1.2.3.jar";
 const std::filesystem::path kSampleJar = VANTREL_SAMPLE_JAR;

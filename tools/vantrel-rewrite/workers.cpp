@@ -24,16 +24,19 @@ void for_each_index(unsigned workers, size_t count, const std::function<void(uns
             next = count;
         }
     };
-    {
-        std::vector<std::jthread> threads;
-        for (unsigned worker = 1; worker < workers && worker < count; ++worker) {
-            try {
-                threads.emplace_back(run, worker);
-            } catch (const std::system_error&) {
-                break;  // there can be no more of them; those that are there do the work
-            }
+    // Not std::jthread, which not every C++ library has yet: nothing between here and the joins may throw.
+    std::vector<std::thread> threads;
+    threads.reserve(workers);
+    for (unsigned worker = 1; worker < workers && worker < count; ++worker) {
+        try {
+            threads.emplace_back(run, worker);
+        } catch (const std::system_error&) {
+            break;  // there can be no more of them; those that are there do the work
         }
-        run(0);
+    }
+    run(0);
+    for (std::thread& thread : threads) {
+        thread.join();
     }
     for (const std::exception_ptr& exception : thrown) {
         if (exception) {
