@@ -63,7 +63,7 @@ bool sweep_back(std::span<const Candidate> candidates, Shifts& shifts) {
 
 bool settle_by_sweeps(std::span<const Candidate> candidates) {
     Shifts shifts(candidates.size() + 1, 0);
-    for (size_t left = size_t{std::bit_width(candidates.size())} / 2 + 1; left > 0; --left) {
+    for (size_t left = static_cast<size_t>(std::bit_width(candidates.size())) / 2 + 1; left > 0; --left) {
         if (!sweep_forward(candidates, shifts) || !sweep_back(candidates, shifts)) {
             return true;
         }
