@@ -14,9 +14,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The status of a run that was cut short.
-constexpr int kNothingDone = 2;
-
 // The agent's environment. It has to be made while the VM starts: only then can methods be had in the order of the
 // class file. Without that their order, and so the numbers of the wrappers, changes from run to run.
 jvmtiEnv* agent_jvmti = nullptr;
@@ -56,7 +53,7 @@ void vm_ended_the_process() {
     fflush(stdout);
     fputs("vantrel-generate: the Java VM has ended the process\n", stderr);
     fflush(stderr);
-    _Exit(kNothingDone);
+    _Exit(generate::kNothingDone);
 }
 
 }  // namespace

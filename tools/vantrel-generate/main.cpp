@@ -23,12 +23,12 @@
 
 namespace fs = std::filesystem;
 using generate::Arguments;
+using generate::kNothingDone;
 
 namespace {
 
 constexpr int kAllWell = 0;
 constexpr int kClassFailed = 1;
-constexpr int kNothingDone = 2;
 
 // A line that the next one on stderr, whoever writes it, goes over. It must not be wider than the terminal for that.
 void show_progress(size_t number, size_t count, const std::string& name) {

@@ -8,7 +8,7 @@ using std::string_view;
 namespace {
 
 // In the order of the alphabet, as all tables here.
-constexpr string_view kWords[] = {
+constexpr string_view kReservedWords[] = {
     "alignas",     "alignof",  "and",        "and_eq",    "asm",       "auto",         "bitand",
     "bitor",       "bool",     "break",      "case",      "catch",     "char",         "char16_t",
     "char32_t",    "char8_t",  "class",      "co_await",  "co_return", "co_yield",     "compl",
@@ -120,14 +120,14 @@ bool contains(const string_view (&table)[Count], string_view name) {
     return std::binary_search(std::begin(table), std::end(table), name);
 }
 
-static_assert(std::is_sorted(std::begin(kWords), std::end(kWords)));
+static_assert(std::is_sorted(std::begin(kReservedWords), std::end(kReservedWords)));
 static_assert(std::is_sorted(std::begin(kObjectMacros), std::end(kObjectMacros)));
 static_assert(std::is_sorted(std::begin(kFunctionMacros), std::end(kFunctionMacros)));
 
 }  // namespace
 
 bool generator::is_cpp_word(string_view name) {
-    return contains(kWords, name);
+    return contains(kReservedWords, name);
 }
 
 bool generator::is_object_macro(string_view name) {
