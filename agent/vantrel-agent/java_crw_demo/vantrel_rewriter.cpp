@@ -17,7 +17,7 @@ namespace crw {
 
 namespace {
 
-// What a caller is told of a failure.
+// What a caller is told of a failure, by the condition that did not hold. kDamaged is for all others.
 struct Told {
     std::string_view condition;
     VantrelRewriterStatus status;
@@ -74,8 +74,9 @@ int tell(const Failure& failure, VantrelRewriterResult& result) {
     return fail(result, found.status, found.sentence);
 }
 
-// As much as the caller's struct has of what is known here, and nothing for the rest. Null where it has more, and that
-// is not 0: the caller wants something that a later version of the interface does.
+// Takes as much as the caller's struct has of the options that are known here, and nothing for the others. Returns
+// false if the struct has more than that, and the rest is not 0: then the caller wants something that only a later
+// version of the interface does.
 bool read_options(const VantrelRewriterOptions* given, VantrelRewriterOptions& options) {
     const auto* bytes = reinterpret_cast<const unsigned char*>(given);
     options = {};
@@ -131,8 +132,9 @@ void prepare(ClassRewriteState& ci, const unsigned char* class_file, size_t leng
     }
 }
 
-// What is usually enough, and what is always: of all that can happen to a byte of code, a return of one byte becomes
-// the longest; a frame that is inserted is less than the code before it that it stands for; the rest is constants.
+// How much room the new image gets: what is usually enough, or the `most` that a class of any compiler can need. Of the
+// code, a return grows most: by the call before it, from one byte to 10. A frame that is inserted has the types of all
+// locals, which mostly takes less than the code before it. The rest is constants.
 size_t room(size_t length, const VantrelRewriterOptions& options, bool most) {
     if (!most) {
         return usual_room(length);
