@@ -30,7 +30,8 @@ constexpr int kAllWell = 0;
 constexpr int kClassFailed = 1;
 constexpr int kNothingDone = 2;
 
-// A line that the next one on stderr, whoever writes it, goes over. It must not be wider than the terminal for that.
+// Shows a line over which the next one on stderr is written, whoever writes that. This only works if it is not wider
+// than the terminal, so the name is cut.
 void show_progress(size_t number, size_t count, const std::string& name) {
     static const bool is_shown = isatty(STDERR_FILENO) != 0;
     if (is_shown && count > 1) {
@@ -50,7 +51,8 @@ void report(const std::string& message) {
 }
 
 std::vector<std::string> vm_options(const Arguments& arguments) {
-    // Ours come first, so that the user's win. Standard output is for --list: what the VM has to say is not.
+    // Our options come first, so that those of the user win. What the VM itself prints goes to stderr, because stdout
+    // is for --list alone.
     std::vector<std::string> options = {"-XX:+DisplayVMOutputToStderr", "-Djava.awt.headless=true",
                                         "-Djava.class.path=" + generate::expand_class_path(arguments.class_path)};
     options.insert(options.end(), arguments.vm_options.begin(), arguments.vm_options.end());
@@ -65,8 +67,8 @@ void make_folder(const fs::path& folder) {
     }
 }
 
-// Standard output, for the list alone: from here on what others write to it goes to stderr, as a class may when it is
-// initialised. Null if it is closed.
+// Keeps standard output for the list alone: what others write to it from here on, such as a class while it is
+// initialised, goes to stderr. Null if standard output is closed.
 FILE* take_standard_output() {
     const int taken = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
     dup2(STDERR_FILENO, STDOUT_FILENO);

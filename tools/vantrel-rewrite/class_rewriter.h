@@ -30,7 +30,7 @@ struct RewrittenClass {
     Outcome outcome = Outcome::Failed;
     std::string reason;     // why it was not rewritten, for the user; or what the user has to know if it was
     std::string map_lines;  // of its methods; empty where it was not rewritten
-    std::string place;      // the same, and where nothing is counted
+    std::string place;      // of a class that was rewritten, where things are counted (counting.h); else empty
     Bytes image;            // empty where it is to stay as it is
 };
 

@@ -62,7 +62,8 @@ std::optional<ClassFile> load(const std::string& path, const std::string& name) 
     return std::nullopt;
 }
 
-// Fails with what is wrong with the method that `name` is nearest to.
+// Fails unless the tracker, or a class that it extends, has this method, public and static. The message tells what is
+// nearest to it.
 void check_method(const std::string& path, const ClassFile& tracker, const std::string& tracker_name,
                   const std::string& name, const std::string& descriptor) {
     std::string others;

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int kAllWell = 0;
-// A status that programs leave to those who start them.
+// As with `env` and `nohup`: programs seldom use it, so it says that none has run.
 constexpr int kNothingDone = 125;
 
 int report(const std::string& line, int status) {
