@@ -256,7 +256,8 @@ void JNICALL Agent_OnUnload(JavaVM* vm) {
     JNIEnv* jni_env = NULL;
     vm->AttachCurrentThread(reinterpret_cast<void**>(&jni_env), NULL);
     // The report of a failed assertion shows the expression as it is spelled here, so clang-format must not touch it.
-    assert(jni_env != NULL);
+    // clang-format off
+    assert(jni_env!= NULL);
     // clang-format on
     const bool has_proxies = agent_life.end();
     unbindMacHotKey();

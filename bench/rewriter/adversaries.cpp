@@ -91,7 +91,8 @@ Bytes switches(unsigned opcode) {
 // other. The first one jumps over a return that grows.
 Bytes to_and_fro(int count) {
     constexpr std::size_t kBranchSize = 3;
-    constexpr std::size_t kStep = 5;  // each branch forward begins 3 bytes before the last one and reaches 2 bytes less far
+    // Each branch forward begins 3 bytes before the last one, and reaches 2 bytes less far.
+    constexpr std::size_t kStep = 5;
     constexpr std::size_t kBefore = 3 * kBranchSize;
     const auto all = static_cast<std::size_t>(count);
     const std::size_t first_forward = kBefore + kBranchSize * (all - 1);

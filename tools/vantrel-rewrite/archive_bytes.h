@@ -19,10 +19,10 @@ class ArchiveBytes {
     // Whether there are `size` bytes from a position on, which may be any number.
     [[nodiscard]] bool holds(std::uint64_t position, std::uint64_t size) const;
 
-    // Exactly so many bytes. Returns false where they are not there; throws a Failure where the system refuses.
+    // Reads exactly `size` bytes. Returns false if they are not there; throws a Failure if the system refuses.
     bool read(std::uint64_t position, unsigned char* to, size_t size) const;
 
-    // A part as an archive of its own. The bytes must be there (holds).
+    // A part of the bytes, as an archive of its own. The part must be inside (holds).
     [[nodiscard]] ArchiveBytes part(std::uint64_t position, std::uint64_t size) const;
 
   private:

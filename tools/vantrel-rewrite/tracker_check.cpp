@@ -47,7 +47,7 @@ std::optional<Bytes> find_class(const fs::path& place, const std::string& name) 
     return entry == directory.entries.end() ? std::nullopt : std::optional(read_entry(bytes, *entry, place));
 }
 
-// The outline of a class in the first place of a class path that has it.
+// The outline of a class, from the first place of a class path that has it.
 std::optional<ClassFile> load(const std::string& path, const std::string& name) {
     std::istringstream places(path);
     for (std::string place; std::getline(places, place, ':');) {

@@ -112,7 +112,8 @@ DirectoryPlace place_in(const ArchiveBytes& archive, std::uint64_t end, const un
     return {u4(at + end_record::kDirectory), u4(at + end_record::kDirectorySize), u2(at + end_record::kCount), end};
 }
 
-// As VMs do: the directory ends where the record begins that tells of it. If it does not, it is where the record says.
+// The directory ends where the record that describes it begins; VMs find it so. If it does not, it is at the position
+// that the record tells.
 std::optional<ZipDirectory> directory_before(const ArchiveBytes& archive, const DirectoryPlace& place) {
     if (place.size <= place.end) {
         if (auto directory = directory_at(archive, place.end - place.size, place)) {

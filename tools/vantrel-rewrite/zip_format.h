@@ -23,7 +23,7 @@ constexpr size_t kNameSize = 26;
 constexpr size_t kExtraSize = 28;
 }  // namespace header
 
-namespace descriptor {  // after an entry's contents, where a flag says so; its first number may be missing
+namespace descriptor {  // after an entry's contents, if its flags say so; kBegin may be missing
 constexpr std::uint32_t kBegin = 0x08074b50;
 constexpr size_t kCrcAndSizes = 12;
 constexpr size_t kCrcAndWideSizes = 20;

@@ -8,7 +8,8 @@
 //
 // On the way the class becomes two arrays of records, one of its fields and one of its methods and constructors.
 // GetFieldEntities and GetMethodEntities allocate an array and give its length; FreeFieldEntities and FreeMethodEntiry
-// release it with its records. (The folder's name and FreeMethodEntiry are misspelt for good: callers know them.)
+// release it with its records. (CodeGenerater and FreeMethodEntiry are misspelt, and stay so, because callers know
+// them.)
 //
 // Threads: the calling thread is attached to the VM and owns the JNIEnv that it passes. The generator keeps no state.
 //
@@ -22,7 +23,8 @@
 #include <jvmti.h>
 
 constexpr int kMaxArguments = 36;
-constexpr unsigned long kClassNameSize = 64;  // room for a class's simple name and its terminating zero
+constexpr unsigned long kClassNameSize =
+    64;  // of a class's simple name, or its header macro, with the terminating zero
 constexpr unsigned long kFilePathSize = 1024;
 
 // An argument of a method.

@@ -21,14 +21,13 @@
 // it should be. The first of them is taken out, looked at, and changed if it needs to be. A change moves what follows,
 // so it puts in those sites that it may have made wrong:
 //
-//   - The next switch, and no other one. It is looked at before anything that comes later; when it has been padded
-//   anew,
-//     all that follows it has moved by a multiple of four bytes, and the later paddings are as right as before.
+//   - The next switch, and no other one. It is looked at before anything that comes later. When it has been padded
+//     anew, all that follows it has moved by a multiple of four bytes, and the later paddings are as right as before.
 //   - The branches that jump over the changed site and have become too long. When a branch is looked at, it is known
-//   how
-//     many bytes it has to spare. These are divided into two budgets, for the growth on either side of a fixed place
-//     that it jumps over (Pivot). The branch is not looked at again before one budget is used up, and that has at least
-//     a quarter of the bytes. So the number of looks at a branch grows with the logarithm of what it had to spare.
+//     how many bytes it has to spare. These are divided into two budgets, for the growth on either side of a fixed
+//     place that it jumps over (Pivot). The branch is not looked at again before one budget is used up, and that has at
+//     least a quarter of the bytes. So the number of looks at a branch grows with the logarithm of what it had to
+//     spare.
 //
 // `pending` has every site that needs a change, and the first of these is what the scan would find. So the changes are
 // the same ones, and so is the result.
@@ -249,9 +248,8 @@ class Settler {
     }
 
     std::vector<Candidate> candidates_;
-    std::vector<int32_t> largest_shifts_{
-        0};                         // by how much all candidates before each can grow; at the end, all together
-    std::vector<size_t> switches_;  // by index of candidate
+    std::vector<int32_t> largest_shifts_{0};  // by how much all before each candidate can grow; last, all together
+    std::vector<size_t> switches_;            // by index of candidate
     std::vector<Pivot> pivots_;
     Sums shifts_;  // by how much the candidates have grown
     std::vector<uint64_t> pending_;

@@ -65,7 +65,7 @@ std::string value_of(xcb_connection_t* connection, xcb_get_property_cookie_t req
             static_cast<size_t>(xcb::get_property_value_length(reply.get()))};
 }
 
-// A CARDINAL; 0 where there is none.
+// A CARDINAL; 0 if there is none.
 uint32_t number_of(const std::string& value) {
     uint32_t number = 0;
     if (value.size() == sizeof number) {
