@@ -35,9 +35,9 @@ class Sums {
     std::vector<int32_t> partial_;
 };
 
-// A sequence of budgets. A single one can be set, all before a place or from a place on can be charged, and one that is
-// used up can be found. They are the lowest level of a tree. Each level above has an entry for each block of 16 entries
-// below it, with the least budget of that block. A processor goes through a block several entries at a time.
+// Budgets, each of which can be set, and those before or after a place be charged, to find one that is used up. A tree
+// whose entries have the least budget below them. They come in blocks, which a processor goes through several entries
+// at a time.
 class Budgets {
   public:
     explicit Budgets(size_t count) {
@@ -77,8 +77,7 @@ class Budgets {
             const size_t block = at / kBlock;
             charge(level, begin, std::min((block + 1) * kBlock, levels_[level].least.size()), amount);
             update(level + 1, block);
-            // From here on whole blocks are charged, by their entries one level up. The first of these may lie in
-            // another block than the entry that has just been updated.
+            // What is to be charged next may be in another block than the entry that has just been updated.
             at = block;
             begin = block + 1;
         }
@@ -106,11 +105,10 @@ class Budgets {
     static constexpr size_t kBlock = 16;
     static constexpr int32_t kPlenty = INT32_MAX / 2;
 
-    // Level 0 has the budgets themselves, all others an entry for each block of the level below. What is charged to a
-    // whole block is only noted in its entry, not below it.
+    // The budgets themselves, or what stands above the blocks of the level below.
     struct Level {
-        std::vector<int32_t> least;    // before what the levels above have charged is taken off
-        std::vector<int32_t> charged;  // to everything below the entry
+        std::vector<int32_t> least;    // without what is charged above
+        std::vector<int32_t> charged;  // to all below
     };
 
     void charge(size_t level, size_t begin, size_t end, int32_t amount) {
@@ -120,7 +118,7 @@ class Budgets {
         }
     }
 
-    // Brings an entry up to date with the block below it, if there is one. Returns whether that changed it.
+    // Makes an entry what the block below it says, if there is one. Returns whether it was something else.
     bool update(size_t level, size_t at) {
         if (level == levels_.size() || at * kBlock >= levels_[level - 1].least.size()) {
             return false;
@@ -129,7 +127,7 @@ class Budgets {
         return std::exchange(levels_[level].least[at], least) != least;
     }
 
-    // The least entry of a block, by four minima side by side, which do not wait for each other.
+    // Of a block. Four at a time, which do not wait for each other.
     static int32_t least_of(const int32_t* block) {
         int32_t least[4] = {block[0], block[1], block[2], block[3]};
         for (size_t i = 4; i < kBlock; ++i) {

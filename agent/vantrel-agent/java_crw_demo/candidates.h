@@ -14,7 +14,7 @@ namespace crw {
 // A site whose widening is open: a switch, or a branch that may become too long.
 struct Candidate {
     Site* site;
-    int32_t new_pc;      // as the plan has it, before any widening
+    int32_t new_pc;      // before any widening
     int32_t offset;      // of a branch, before any widening
     int32_t grown_pc;    // where it is when all before it has grown as much as it can
     int8_t full_growth;  // by how much a branch grows when it does
@@ -25,11 +25,8 @@ struct Candidate {
     uint32_t rank_by_begin = 0;  // of a branch among those with its pivot
     uint32_t rank_by_end = 0;
 
-    // By how much the code that a branch jumps over may grow before the branch is too long. Less than 0 if it is so
-    // from the beginning.
+    // How much of what a branch jumps over may grow before it is too long. Less than 0 if it is so from the beginning.
     [[nodiscard]] int32_t to_spare() const { return offset < 0 ? offset - kFarthestBack : kFarthestForward - offset; }
-    // `own` is the index of this candidate. The candidates that a branch jumps over are those from first_between to
-    // before last_between.
     [[nodiscard]] bool is_forward(size_t own) const { return own < before; }
     [[nodiscard]] size_t first_between(size_t own) const { return std::min(own, before); }
     [[nodiscard]] size_t last_between(size_t own) const { return std::max(own, before); }

@@ -12,29 +12,29 @@
 #include "candidates.h"
 #include "sweeps.h"
 
-// Without a switch nothing ever shrinks: a branch that is once too long is too long in the end, and which branches grow
-// does not depend on the order of the changes. So a few sweeps over all of them come first (sweeps.h), and mostly
-// nothing is left to do. What follows is for methods with switches, and for those where the sweeps were not enough.
+// Without a switch nothing ever shrinks: a branch that is too long at any time is so in the end, and which branches
+// grow does not depend on the order of the changes. So a few sweeps over all of them come first (sweeps.h), and mostly
+// there is nothing left to do. What follows is for methods with switches, and for the rest where the sweeps were not
+// enough.
 //
-// The scan (relocation.h) changes, again and again, the first site that is not as it should be. Here the same changes
-// are made in the same order, but without looking at all sites each time. `pending` holds every site that may not be as
-// it should be. The first of them is taken out, looked at, and changed if it needs to be. A change moves what follows,
-// so it puts in those sites that it may have made wrong:
+// The scan changes, again and again, the first site that is not as it should be. Here the same changes are made in the
+// same order, without looking at all sites each time: `pending` holds every site that may not be as it should be, and
+// the first one of it is looked at. It is changed if it needs to be, and taken out. A change moves what follows, and so
+// it puts those sites in that it may have made wrong:
 //
-//   - The next switch, and no other one. It is looked at before anything that comes later. When it has been padded
-//     anew, all that follows it has moved by a multiple of four bytes, and the later paddings are as right as before.
-//   - The branches that jump over the changed site and have become too long. When a branch is looked at, it is known
-//     how many bytes it has to spare. These are divided into two budgets, for the growth on either side of a fixed
-//     place that it jumps over (Pivot). The branch is not looked at again before one budget is used up, and that has at
-//     least a quarter of the bytes. So the number of looks at a branch grows with the logarithm of what it had to
-//     spare.
+//   - Of the switches the next one. When that has been padded anew, all that follows it has moved by a multiple of
+//     four bytes, and their paddings are as right as before; until then nothing that comes later is looked at.
+//   - Of the branches those that jump over the changed site and have become too long. A branch that has been looked at
+//     has so many bytes to spare. They are divided into two budgets, for the growth on either side of a fixed place
+//     that it jumps over (Pivot). It is looked at again when one of them is used up, which is a quarter of the bytes at
+//     least, and so not more often than the logarithm of what it had to spare.
 //
-// `pending` has every site that needs a change, and the first of these is what the scan would find. So the changes are
-// the same ones, and so is the result.
+// What is pending includes all that needs a change, and the first of these is what the scan would find: the changes are
+// the same ones, and so is where they end.
 //
-// Where the fixed places are: a branch is a candidate only if it would be too long with all growth that can happen
-// between it and its target. In code that has grown as much as it can, such a branch spans more than 32,768 bytes, so
-// it jumps over a multiple of 32,768. Code that a VM loads has five of these at most.
+// The fixed places: only branches count that would be too long if all that they jump over grew. Measured in code that
+// has grown as much as it could, each of them spans more than 32,768 bytes, and so a multiple of that, of which there
+// are five at most in code that a VM loads.
 
 namespace crw {
 
@@ -42,16 +42,15 @@ namespace {
 
 constexpr int32_t kPivotDistance = INT16_MAX + 1;
 
-// The branches of a pivot, ordered by where they begin, or by where they end. A place is the number of candidates
-// before it.
+// Branches ordered by a place that each has, the number of candidates before it.
 struct Order {
     std::vector<uint32_t> branches;  // by index of candidate
     std::vector<uint32_t> up_to;     // by place: how many of the branches have theirs there or before
     Budgets budgets{0};
 };
 
-// The branches that jump over one fixed place, and when they have to be looked at again: each has a budget for what
-// grows before the place and one for what grows after it, and is not too long while there is something left of both.
+// The alarms of the branches that jump over one place: what grows before it, and what grows after it. A branch has a
+// budget for each, and does not become too long while there is something left of both.
 struct Pivot {
     size_t place = 0;
     int32_t shift = 0;  // by how much the candidates before it have grown
@@ -156,8 +155,8 @@ class Settler {
         return site.widening != 0 || is_short_enough(own) ? own : change(own, candidate.full_growth);
     }
 
-    // Whether a branch fits as it is. If so, it gets budgets, one of which is used up when it becomes too long, or
-    // before. If not, it gets budgets that are never used up, because it is looked at anyway.
+    // Whether a branch fits as it is. If so, it gets budgets, so that it need not be looked at until it may not fit any
+    // more; and else none.
     bool is_short_enough(size_t own) {
         const Candidate& candidate = candidates_[own];
         const int32_t own_shift = shifts_.of_first(own);
@@ -181,15 +180,14 @@ class Settler {
         return true;
     }
 
-    // By how much the candidates from one to another can still grow. For each of the two, the shift is by how much all
-    // before it have grown so far.
+    // By how much the candidates from one to another can still grow, given by how much all before each have.
     [[nodiscard]] int32_t still_to_come(size_t first, int32_t first_shift, size_t last, int32_t last_shift) const {
         return largest_shifts_[last] - largest_shifts_[first] - (last_shift - first_shift);
     }
 
-    // How much of what a branch has to spare is for the growth on the left of its pivot, where `left` and `right` are
-    // how much each side can still grow. The parts are in proportion to these, so that both last equally long, but a
-    // quarter at least; and what one side can never use up is given to the other.
+    // How much of what a branch has to spare is for the growth on the left of its pivot, if so much can still come on
+    // either side. In proportion, so that both parts last equally long, but a quarter at least; and what cannot be used
+    // up on one side is for the other.
     static int32_t part_for_left(int32_t to_spare, int32_t left, int32_t right) {
         const int64_t in_proportion = int64_t{to_spare} * left / std::max(left + right, 1);
         const int32_t part = std::clamp(static_cast<int32_t>(in_proportion), to_spare / 4, to_spare - to_spare / 4);
@@ -248,7 +246,7 @@ class Settler {
     }
 
     std::vector<Candidate> candidates_;
-    std::vector<int32_t> largest_shifts_{0};  // by how much all before each candidate can grow; last, all together
+    std::vector<int32_t> largest_shifts_{0};  // by how much the candidates before each can grow, and all of them
     std::vector<size_t> switches_;            // by index of candidate
     std::vector<Pivot> pivots_;
     Sums shifts_;  // by how much the candidates have grown
