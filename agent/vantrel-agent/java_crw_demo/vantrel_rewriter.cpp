@@ -69,7 +69,8 @@ int tell(const Failure& failure, VantrelRewriterResult& result) {
     put_text(result.method, failure.method);
     result.pc = failure.pc;
     if (failure.lacks_room) {
-        return fail(result, VANTREL_REWRITER_TOO_LARGE, "The new class is longer than anything that it can become.");
+        return fail(result, VANTREL_REWRITER_TOO_LARGE,
+                    "With the injected calls the class is longer than 2 GB, and no VM takes such a class.");
     }
     return fail(result, found.status, found.sentence);
 }
@@ -132,28 +133,14 @@ void prepare(ClassRewriteState& ci, const unsigned char* class_file, size_t leng
     }
 }
 
-// How much room the new image gets: what is usually enough, or the `most` that a class of any compiler can need. Of the
-// code, a return grows most: by the call before it, from one byte to 10. A frame that is inserted has the types of all
-// locals, which mostly takes less than the code before it. The rest is constants.
-size_t room(size_t length, const VantrelRewriterOptions& options, bool most) {
-    if (!most) {
-        return usual_room(length);
-    }
-    constexpr size_t kMostGrowth = 16;
-    size_t names = 0;
-    for (const char* name :
-         {options.tracker_class, options.call_tracker, options.return_tracker, options.object_init_tracker,
-          options.newarray_tracker, options.numbered_newarray_tracker}) {
-        names += name != nullptr ? strlen(name) : 0;
-    }
-    return kMostGrowth * usual_room(length) + names;
-}
+// No VM takes a longer class: JVMTI and JNI count its bytes in a jint.
+constexpr size_t kLongestClass = INT32_MAX;
 
-void rewrite(const unsigned char* class_file, size_t length, VantrelRewriterOptions& options, bool most,
+void rewrite(const unsigned char* class_file, size_t length, VantrelRewriterOptions& options, size_t room,
              VantrelRewriterResult& result) {
     ClassRewriteState ci;
     prepare(ci, class_file, length, options);
-    Owned<unsigned char> image = make_new_image(ci, room(length, options, most));
+    Owned<unsigned char> image = make_new_image(ci, room);
     result.status = VANTREL_REWRITER_REWRITTEN;
     result.length = ci.output_position;
     if (ci.is_module_info) {
@@ -166,19 +153,21 @@ void rewrite(const unsigned char* class_file, size_t length, VantrelRewriterOpti
     result.image = image.release();
 }
 
+// Rewrites in as much room as is usually enough, and in more while the image outgrows it. How much it takes cannot be
+// told beforehand: each frame that is inserted has the types of all locals.
 int rewrite_in_room(const unsigned char* class_file, size_t length, VantrelRewriterOptions& options,
                     VantrelRewriterResult& result) {
-    for (const bool most : {false, true}) {
+    constexpr size_t kMore = 16;
+    for (size_t room = usual_room(length);; room = std::min(kMore * room, kLongestClass)) {
         try {
-            rewrite(class_file, length, options, most, result);
-            break;
+            rewrite(class_file, length, options, room, result);
+            return result.status;
         } catch (const Failure& failure) {
-            if (most || !failure.lacks_room) {
+            if (!failure.lacks_room || room >= kLongestClass) {
                 return tell(failure, result);
             }
         }
     }
-    return result.status;
 }
 
 }  // namespace
