@@ -1,7 +1,7 @@
-/* The functions that glibc linked into each program before its versions 2.33 and 2.34 moved them into the shared library.
- * cmake/portable/c++ links this file into each library and program. The compiler has such functions of its own, but they
- * bring a second errno, and a library with that takes some of the little room that a process has for variables of this
- * kind (static TLS). */
+/* The functions that glibc linked into each program until its versions 2.33 and 2.34 moved them into the shared
+ * library. cmake/portable/c++ links this file into each library and program. The compiler has such functions of its
+ * own, but they bring a second errno, and a library with that takes some of the little room that a process has for
+ * variables of this kind (static TLS). */
 #include <stddef.h>
 
 struct stat;

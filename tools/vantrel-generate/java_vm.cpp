@@ -39,8 +39,9 @@ fs::path find_library(const fs::path& home) {
     throw command::Failure{"there is no Java VM in " + home.string()};
 }
 
-// Checks this because a VM without the class library ends the process before it knows of the abort hook. A VM looks for
-// its classes from the place of its own library, with links followed: for `modules`, or up to Java 8 for `rt.jar`.
+// Throws where there is a VM, but not its class library: that VM would end the process before it knows of the abort
+// hook. A VM looks for its classes from the place of its own library, with links followed: for `modules`, or up to Java
+// 8 for `rt.jar`.
 void check_class_library(const fs::path& home, const fs::path& library) {
     fs::path folder = fs::canonical(library).parent_path();
     for (int up = 0; up < 4; ++up, folder = folder.parent_path()) {

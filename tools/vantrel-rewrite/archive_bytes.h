@@ -16,7 +16,7 @@ class ArchiveBytes {
 
     [[nodiscard]] std::uint64_t size() const { return size_; }
 
-    // Whether there are `size` bytes from a position on, which may be any number.
+    // Whether there are `size` bytes from a position on. Both may be any number.
     [[nodiscard]] bool holds(std::uint64_t position, std::uint64_t size) const;
 
     // Reads exactly `size` bytes. Returns false if they are not there; throws a Failure if the system refuses.

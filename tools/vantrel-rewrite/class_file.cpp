@@ -7,7 +7,7 @@ namespace vantrel_rewrite {
 
 namespace {
 
-// Reads an image from its begin to its end, and nothing beyond.
+// Reads an image from its first byte to its last, and nothing beyond.
 class Reader {
   public:
     explicit Reader(BytesView image) : image_(image) {}

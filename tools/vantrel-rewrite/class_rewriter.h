@@ -37,7 +37,7 @@ struct RewrittenClass {
 // Names in a map, and in what is made of one: a tab, line end or backslash in them is written as \t, \n, \r, \\.
 std::string escaped(std::string_view name);
 
-// Reads the next bytes of a class file: `at_most` so many, and fewer only at its end.
+// Reads the next bytes of a class file: as many as are asked for, and fewer only at its end.
 using ReadClass = std::function<Bytes(size_t at_most)>;
 
 // Reads no more of the file than it takes to decide. What `read` throws is thrown on. Any number of threads may rewrite

@@ -14,8 +14,8 @@ namespace vantrel_rewrite {
 
 namespace {
 
-// Entries up to this size are unpacked as a whole when they are first read. Of larger ones only the begin is unpacked
-// first: most are not what a VM takes as a class, and some kilobytes may unpack to gigabytes.
+// Entries up to this size are unpacked as a whole when they are first read. Of larger ones only the first bytes are
+// unpacked at first: most of those are not what a VM takes as a class, and some kilobytes may unpack to gigabytes.
 constexpr std::uint64_t kSmall = std::uint64_t{1} << 20U;
 // The largest entry that is read where it is no class: a manifest, or a jar inside of a jar.
 constexpr std::uint64_t kLargest = std::uint64_t{1} << 30U;

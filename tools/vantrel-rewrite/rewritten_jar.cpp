@@ -51,8 +51,7 @@ const std::vector<ZipEntry>& entries_of(const Jar& jar) {
     return jar.contents.directory.entries;
 }
 
-// A tracker of the jar's own is told the number of the class in this jar; all others are told its number among all
-// inputs.
+// Our own tracker is told the number of the class in this jar, the user's its number among all inputs.
 ClassResult rewrite_entry(const Jar& jar, const ZipEntry& entry, size_t number) {
     RewrittenClass result;
     ClassSource source;

@@ -12,9 +12,8 @@
 
 namespace vantrel_rewrite {
 
-// An archive that is made of another one. What is not replaced or added stays as it is, bit for bit: what comes before
-// the archive, the order of entries, their names, times, attributes, comments, extra fields and packed contents, and
-// the archive's comment.
+// What is not replaced or added stays as it is, bit for bit: what comes before the archive, the order of entries, their
+// names, times, attributes, comments, extra fields and packed contents, and the archive's comment.
 class ZipWriter {
   public:
     using Sink = std::function<void(BytesView)>;

@@ -47,8 +47,8 @@ string_view class_in(string_view element) {
     return element.substr(1, element.find(';') - 1);
 }
 
-// Reads the argument at the begin of a list of descriptors. If it is malformed, it takes the whole rest of the list,
-// and has no type.
+// Reads the first argument in a list of descriptors. If it is malformed, it takes the whole rest of the list, and has
+// no type.
 Argument read_argument(string_view list) {
     const auto [dimensions, element] = element_of(list);
     const Words* words = find_words(element);
