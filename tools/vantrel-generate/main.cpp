@@ -2,10 +2,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <exception>
 #include <filesystem>
 #include <set>
@@ -17,6 +15,7 @@
 #include "arguments.h"
 #include "class_output.h"
 #include "class_path.h"
+#include "command_line.h"
 #include "failure.h"
 #include "java_vm.h"
 #include "text.h"
@@ -103,20 +102,12 @@ int generate_all(const Arguments& arguments) {
     return status;
 }
 
-// Prints what --help and --version ask for.
-int print(const std::string& text) {
-    if (fputs(text.c_str(), stdout) < 0 || fflush(stdout) != 0) {
-        report(std::string("cannot write to standard output: ") + strerror(errno));
-        return kNothingDone;
-    }
-    return kAllWell;
-}
-
 int run(int argc, char** argv) {
     try {
         const auto parsed = generate::parse_arguments(argc, argv);
         if (const auto* text = std::get_if<std::string>(&parsed)) {
-            return print(*text);
+            command::print(*text);
+            return kAllWell;
         }
         return generate_all(std::get<Arguments>(parsed));
     } catch (const command::Failure& failure) {

@@ -5,6 +5,7 @@
 #include <variant>
 
 #include "arguments.h"
+#include "command_line.h"
 #include "failure.h"
 #include "run.h"
 
@@ -25,7 +26,7 @@ int main(int argc, char** argv) {
     try {
         const auto parsed = launch::parse_arguments(argc, argv);
         if (const auto* text = std::get_if<std::string>(&parsed)) {
-            fputs(text->c_str(), stdout);
+            command::print(*text);
             return kAllWell;
         }
         launch::run(std::get<launch::Arguments>(parsed));
