@@ -22,7 +22,7 @@ std::filesystem::file_status status_of(const std::filesystem::path& path);
 // like an archive. Throws a Failure for what is neither a class file, nor a jar, nor a folder.
 Kind kind_of_input(const std::filesystem::path& input);
 
-// What is in a folder goes by its name and by what kind of file it is. Throws a Failure for a device and the like.
+// What an entry of a folder is, by its kind of file and its name. Throws a Failure for a device and the like.
 Kind kind_in_folder(const std::filesystem::directory_entry& entry);
 
 }  // namespace vantrel_rewrite

@@ -140,7 +140,7 @@ std::string type_of(const std::string& name, int dimensions) {
     return name + (dimensions > 0 ? "Array" : "");
 }
 
-// The types that the files use, which no function may hide.
+// The types that the files use. No function may have the name of one, for it would hide the type.
 Names types_of(const Proxy& proxy) {
     Names types = {"JNIEnv", "jvmtiEnv", "jclass", "jmethodID"};
     if (!proxy.fields.empty()) {
