@@ -13,7 +13,7 @@ int8_t largest_growth(const Site& site, const uint8_t* code) {
 
 std::vector<Candidate> find_candidates(MethodRewriteState& mi, const uint8_t* code) {
     const std::span<const Site> sites = mi.sites;
-    // For each site: by how much all sites before it can grow, and how many candidates there are before it.
+    // By site, by how much all before it can grow, and how many candidates there are before it.
     std::vector<int32_t> growth_before(sites.size() + 1, 0);
     std::vector<uint32_t> candidates_before(sites.size() + 1, 0);
     // By pc, how many sites end there or before.
@@ -40,8 +40,7 @@ std::vector<Candidate> find_candidates(MethodRewriteState& mi, const uint8_t* co
             const int32_t offset = mi.map[target] - new_pc;
             const uint32_t before = sites_up_to[target];
             const int32_t grown_offset = offset + growth_before[before] - growth_before[i];
-            // A branch that is too long already is only a candidate, too: the padding of a switch may shrink, and then
-            // it fits.
+            // One that lies far away without growing may come nearer: a switch's padding may shrink.
             if (!fits(grown_offset) || !fits(offset)) {
                 candidates.push_back({&site, new_pc, offset, grown_pc, growth_of(code[site.pc]), before});
             }

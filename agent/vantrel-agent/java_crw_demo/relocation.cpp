@@ -12,10 +12,10 @@ namespace crw {
 
 namespace {
 
-// What is known of a method before any branch or switch grows.
+// What can be said of a method before anything grows.
 struct Outlook {
     bool has_switch = false;
-    int32_t longest_new_code = 0;  // if every branch and switch grew as much as it can
+    int32_t longest_new_code = 0;  // if all of them grew
 };
 
 // Looks at every branch and switch once. Fails for a branch out of the code.
@@ -50,7 +50,7 @@ void apply_widenings(MethodRewriteState& mi) {
     std::for_each(from, mi.map + mi.code_len + 1, [shift](int32_t& pc) { pc += shift; });
 }
 
-// Decides the paddings of the switches, in code where no branch can become too long. Each one moves the next.
+// For code in which no branch can become too long. The paddings follow one from the other.
 void adjust_paddings(MethodRewriteState& mi) {
     int32_t shift = 0;
     for (Site& site : mi.sites) {

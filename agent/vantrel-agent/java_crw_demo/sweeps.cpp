@@ -4,15 +4,14 @@
 #include <utility>
 #include <vector>
 
-// A branch that grows may make a neighbour too long, that one its own neighbour, and so on through a row of branches,
-// which may go either way through the code. So the sweeps go forward and back in turn: a sweep in its direction finds a
-// whole row.
+// The sweeps go forward and back in turn, so that one of the two finds the branches of a row in which each makes its
+// neighbour too long, whichever neighbour that is.
 //
 // `shifts` has an entry for each candidate, and one for the end of the code. The difference between two entries is by
-// how much the candidates between them have grown. A sweep writes all entries anew as it goes: forward from 0 on, or
-// back from 0 downwards. For a branch it takes the difference of two new entries or of two old ones; the old ones only
-// lack what has grown in this sweep. So the difference is never too large, and no branch grows without need. And when a
-// sweep finds nothing to change, the old entries were right, and no branch is too long.
+// how much the candidates from one to the other have grown. A sweep writes all entries anew as it goes, forward from 0
+// and back from 0 downwards. It takes the difference of two new entries, or of two old ones, which lacks no more than
+// what has grown in this sweep. So no branch grows too early; and when a sweep finds nothing to change, the old entries
+// were right, and no branch is too long.
 
 namespace crw {
 
@@ -20,8 +19,7 @@ namespace {
 
 using Shifts = std::vector<int32_t>;
 
-// Lets a branch grow if it has to, where `growth` is by how much the code that it jumps over has grown. Returns whether
-// it did.
+// Lets a branch grow if that has to be, given by how much what it jumps over has grown. Returns whether it did.
 bool look_at(const Candidate& candidate, int32_t growth) {
     Site& site = *candidate.site;
     const bool grows = site.widening == 0 && growth > candidate.to_spare();
@@ -65,7 +63,6 @@ bool sweep_back(std::span<const Candidate> candidates, Shifts& shifts) {
 
 bool settle_by_sweeps(std::span<const Candidate> candidates) {
     Shifts shifts(candidates.size() + 1, 0);
-    // A number of sweeps with which all takes n log n steps.
     for (size_t left = static_cast<size_t>(std::bit_width(candidates.size())) / 2 + 1; left > 0; --left) {
         if (!sweep_forward(candidates, shifts) || !sweep_back(candidates, shifts)) {
             return true;
