@@ -7,7 +7,7 @@ using std::string_view;
 
 namespace {
 
-// In the order of the alphabet, as all tables here.
+// All tables here are sorted, because they are searched by bisection.
 constexpr string_view kReservedWords[] = {
     "alignas",     "alignof",  "and",        "and_eq",    "asm",       "auto",         "bitand",
     "bitor",       "bool",     "break",      "case",      "catch",     "char",         "char16_t",
@@ -25,8 +25,8 @@ constexpr string_view kReservedWords[] = {
     "xor",         "xor_eq",
 };
 
-// Of jni.h and what that includes, of the proxies' own headers with their guards, and of GNU's dialect. Macros that
-// stand for their own name, such as stdin, do no harm.
+// The macros of jni.h and of what it includes, of the proxies' own headers (with their include guards), and of GNU's
+// dialect of C++. Macros that expand to their own name, such as stdin, do no harm and are not listed.
 constexpr string_view kObjectMacros[] = {
     "BUFSIZ",
     "COMMON_H",

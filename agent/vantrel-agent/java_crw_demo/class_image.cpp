@@ -85,7 +85,8 @@ uint16_t copy_member_count(ClassRewriteState& ci) {
 }
 
 void copy_fields(ClassRewriteState& ci) {
-    // java_crw_demo's contract. Otherwise standard output is the program's that the rewriter is in.
+    // Callers of java_crw_demo know this line. The other function prints nothing, because stdout belongs to the
+    // program.
     if (ci.is_object_class && ci.door == Door::kJavaCrwDemo) {
         printf("add field to : %.*s\n", static_cast<int>(ci.name->size()), ci.name->data());
     }
