@@ -129,7 +129,7 @@ void copy_whole_file(const fs::path& from, const NewFile& to) {
     Bytes block(kBlock);
     off_t position = 0;
     while (const size_t count = input.read_at(position, block.data(), block.size())) {
-        interrupt::check();
+        command::interrupt::check();
         output.write({block.data(), count});
         position += static_cast<off_t>(count);
     }

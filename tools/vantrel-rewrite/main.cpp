@@ -58,7 +58,7 @@ int run_command(int argc, char** argv) {
         standard_output::print(*text);
         return kAllWell;
     }
-    interrupt::watch();
+    command::interrupt::watch();
     const auto& arguments = std::get<Arguments>(parsed);
     const Summary summary = run(arguments);
     const bool is_told = print_if_possible(text_of(summary, arguments.verbose));
@@ -70,7 +70,7 @@ int run_command(int argc, char** argv) {
 }  // namespace vantrel_rewrite
 
 int main(int argc, char** argv) {
-    namespace interrupt = vantrel_rewrite::interrupt;
+    namespace interrupt = command::interrupt;
     using vantrel_rewrite::report;
     try {
         return vantrel_rewrite::run_command(argc, argv);

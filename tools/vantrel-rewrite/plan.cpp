@@ -51,7 +51,7 @@ void add(Plan& plan, const Result& result, const fs::path& made) {
     }
     std::vector<Result> rest{result};
     while (!rest.empty()) {
-        interrupt::check();
+        command::interrupt::check();
         const Result next = std::move(rest.back());
         rest.pop_back();
         const fs::path below = next.target.lexically_relative(result.target);

@@ -120,7 +120,7 @@ void write_unchanged(Jar& jar, const ZipEntry& entry) {
 
 void write_entries(Jar& jar, size_t begin, size_t end, const Changes& changes) {
     for (size_t index = begin; index < end; ++index) {
-        interrupt::check();
+        command::interrupt::check();
         const ZipEntry& entry = entries_of(jar)[index];
         if (const auto change = changes.find(index); change != changes.end()) {
             jar.writer->replace(entry, change->second);

@@ -117,7 +117,7 @@ size_t make_class_files(Work& work, const Plan& plan, Countings& countings, size
 void make_pieces(Work& work, const Plan& plan) {
     Countings countings = countings_of(plan, work.arguments);
     for (size_t at = 0; at < plan.pieces.size();) {
-        interrupt::check();
+        command::interrupt::check();
         const Piece& piece = plan.pieces[at];
         if (piece.kind == Kind::ClassFile) {
             at = make_class_files(work, plan, countings, at);
@@ -156,7 +156,7 @@ Summary run(const Arguments& arguments) {
     Work work{arguments, progress, ClassReports(plan.map, arguments.verbose)};
     make_pieces(work, plan);
     const Summary summary = work.reports.finish();
-    interrupt::check();
+    command::interrupt::check();
     staging.put_in_place();
     progress.clear();
     std::cerr << work.reports.notes();

@@ -29,7 +29,7 @@ void write_all(int descriptor, BytesView bytes) {
         if (now < 0 && errno != EINTR) {
             fail();
         }
-        interrupt::check();  // a pipe that nobody reads can take for ever
+        command::interrupt::check();  // a pipe that nobody reads can take for ever
         bytes = bytes.subspan(now > 0 ? static_cast<size_t>(now) : 0);
     }
 }

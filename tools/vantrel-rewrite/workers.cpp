@@ -16,7 +16,7 @@ void for_each_index(unsigned workers, size_t count, const std::function<void(uns
     const auto run = [&](unsigned worker) {
         try {
             for (size_t index = next++; index < count; index = next++) {
-                interrupt::check();
+                command::interrupt::check();
                 work(worker, index);
             }
         } catch (...) {

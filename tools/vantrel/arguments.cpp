@@ -12,7 +12,8 @@ namespace launch {
 
 namespace {
 
-constexpr const char* kDescription = "Brings the inspector of Swing user interfaces into a program.\n";
+constexpr const char* kDescription =
+    "Brings the inspector of Swing user interfaces into a program, and tells what it sees there.\n";
 
 constexpr const char* kRunDescription = "Starts a program with the inspector in it";
 
@@ -52,10 +53,25 @@ int words_before_program(const CLI::App& run, int argc, char** argv) {
     return std::min(at, argc);
 }
 
+constexpr const char* kListDescription = "Tells which programs run under the agent";
+
+constexpr const char* kListFooter =
+    R"(Prints a line for each program of yours: its process, its main class or jar, its VM, and its windows. NAME is a
+part of the names of those to list; all of them without it.
+
+Exit status: 0, 1 if there are none, 125 if the command line makes no sense.
+)";
+
+void add_questions(CLI::App& app, Question& question) {
+    CLI::App* list = app.add_subcommand("list", kListDescription)->footer(kListFooter);
+    list->add_option("NAME", question.program, "A part of a program's name");
+}
+
 }  // namespace
 
-std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
+std::variant<Arguments, Question, std::string> parse_arguments(int argc, char** argv) {
     Arguments arguments;
+    Question question;
     CLI::App app(kDescription, "vantrel");
     app.footer("vantrel COMMAND --help tells more about a command.");
     app.set_help_flag("-h,--help", "Print this text and exit");
@@ -71,10 +87,18 @@ std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
     run->add_option("--vm-option", arguments.vm_options, "An option for the program's VM; may be repeated")
         ->type_name("OPT")
         ->allow_extra_args(false);
+#ifdef __linux__
+    add_questions(app, question);
+#endif
 
     const int own_words = words_before_program(*run, argc, argv);
     if (auto text = command::parse_command_line(app, own_words, argv)) {
         return *std::move(text);
+    }
+    const std::string& command = app.get_subcommands().front()->get_name();
+    if (command != run->get_name()) {
+        question.command = command;
+        return question;
     }
     const bool has_mark = own_words < argc && argv[own_words] == std::string("--");
     arguments.program.assign(argv + own_words + (has_mark ? 1 : 0), argv + argc);

@@ -14,8 +14,14 @@ struct Arguments {
     std::vector<std::string> program;  // the program's name and its arguments; never empty
 };
 
+// A command that asks programs under the agent, by its name, and what it was given; the rest is empty.
+struct Question {
+    std::string command;
+    std::string program;  // a process's number, or a part of a name
+};
+
 // The arguments, or the text that --help or --version prints. Throws Failure if they make no sense.
-std::variant<Arguments, std::string> parse_arguments(int argc, char** argv);
+std::variant<Arguments, Question, std::string> parse_arguments(int argc, char** argv);
 
 }  // namespace launch
 

@@ -13,6 +13,10 @@ namespace launch {
 //   words   the launcher's name and all words after it
 size_t place_for_agent(const std::vector<std::string>& words);
 
+// What a launcher was told to run: a main class, with its module where that is named, or the file name of a jar. Empty
+// if the words name nothing, or begin with no launcher.
+std::string main_program(const std::vector<std::string>& words);
+
 }  // namespace launch
 
 #endif

@@ -1,12 +1,17 @@
-// vantrel: the inspector's command. It starts programs under the agent.
+// vantrel: the inspector's command. It starts programs under the agent, and asks them.
 #include <cstdio>
 #include <exception>
 #include <string>
 #include <variant>
 
 #include "arguments.h"
+#ifdef __linux__
+#include "ask.h"
+#endif
 #include "command_line.h"
 #include "failure.h"
+#include "failure_with_status.h"
+#include "interrupt.h"
 #include "run.h"
 
 namespace {
@@ -29,8 +34,15 @@ int main(int argc, char** argv) {
             command::print(*text);
             return kAllWell;
         }
+#ifdef __linux__
+        if (const auto* question = std::get_if<launch::Question>(&parsed)) {
+            return outside::run(*question);
+        }
+#endif
         launch::run(std::get<launch::Arguments>(parsed));
-    } catch (const launch::NotStarted& failure) {
+    } catch (const command::interrupt::Interrupted&) {
+        command::interrupt::end_by_signal();
+    } catch (const launch::FailureWithStatus& failure) {
         return report(failure.line, failure.status);
     } catch (const command::Failure& failure) {
         return report(failure.line, kNothingDone);

@@ -6,9 +6,12 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
+#include <string_view>
 #include <vector>
 
 #include "agent.h"
+#include "failure_with_status.h"
 #include "java_command.h"
 #include "java_home.h"
 
@@ -32,10 +35,10 @@ void append(Words& words, const Words& more) {
 // Throws unless there is a file of that name.
 void check_is_file(const std::string& name) {
     if (!fs::exists(name)) {
-        throw NotStarted{"there is no file " + name, kNotFound};
+        throw FailureWithStatus{"there is no file " + name, kNotFound};
     }
     if (fs::is_directory(name)) {
-        throw NotStarted{name + " is a folder, not a program", kNotStarted};
+        throw FailureWithStatus{name + " is a folder, not a program", kNotStarted};
     }
 }
 
@@ -45,19 +48,19 @@ fs::path find_program(const std::string& name) {
     }
     if (name.find('/') == std::string::npos) {
         const bool is_here = fs::is_regular_file(name);
-        throw NotStarted{"there is no program '" + name + "' on the path" +
-                             (is_here ? "; the file in this folder is ./" + name : ""),
-                         kNotFound};
+        throw FailureWithStatus{"there is no program '" + name + "' on the path" +
+                                    (is_here ? "; the file in this folder is ./" + name : ""),
+                                kNotFound};
     }
     check_is_file(name);
-    throw NotStarted{name + " is not executable", kNotStarted};
+    throw FailureWithStatus{name + " is not executable", kNotStarted};
 }
 
 fs::path java_for_jar(const std::string& jar) {
     check_is_file(jar);
     const auto home = command::find_java_home();
     if (!home) {
-        throw NotStarted{"there is no Java for " + jar + ": no JAVA_HOME, and no java on the path", kNotFound};
+        throw FailureWithStatus{"there is no Java for " + jar + ": no JAVA_HOME, and no java on the path", kNotFound};
     }
     return find_program(*home / "bin" / "java");
 }
@@ -69,6 +72,20 @@ bool is_java(const fs::path& program) {
     return file.filename() == "java" && command::find_vm_library(file.parent_path().parent_path());
 }
 
+// What has a VM let us ask the program questions without a warning on its stderr each time: an option that VMs from
+// release 21 on need for that, and those before 9 do not know.
+Words let_ask(const fs::path& java) {
+    constexpr int kFirstThatWarns = 21;
+    constexpr std::string_view kVersion = "JAVA_VERSION=\"";
+    std::ifstream release(fs::canonical(java).parent_path().parent_path() / "release");
+    for (std::string line; std::getline(release, line);) {
+        if (line.starts_with(kVersion) && atoi(line.c_str() + kVersion.size()) >= kFirstThatWarns) {
+            return {"-XX:+EnableDynamicAgentLoading"};
+        }
+    }
+    return {};
+}
+
 [[noreturn]] void become(const fs::path& program, const Words& words) {
     std::vector<char*> arguments;
     arguments.reserve(words.size() + 1);
@@ -78,7 +95,7 @@ bool is_java(const fs::path& program) {
     arguments.push_back(nullptr);
     // Not execv: execvp runs a script whose first line names no shell with /bin/sh.
     execvp(program.c_str(), arguments.data());
-    throw NotStarted{"cannot start " + program.string() + ": " + strerror(errno), kNotStarted};
+    throw FailureWithStatus{"cannot start " + program.string() + ": " + strerror(errno), kNotStarted};
 }
 
 }  // namespace
@@ -107,8 +124,11 @@ void run(const Arguments& arguments) {
     if (is_java(program)) {
         // Not by the environment: the VM would say on stderr that it has picked it up, and a Java program that this one
         // starts would have the agent too.
-        words.insert(words.begin() + static_cast<Words::difference_type>(place_for_agent(words)), options.begin(),
-                     options.end());
+        const auto place = static_cast<Words::difference_type>(place_for_agent(words));
+        const Words quiet = let_ask(program);
+        words.insert(words.begin() + place, options.begin(), options.end());
+        // First of all, so that whatever somebody else says of it holds.
+        words.insert(words.begin() + 1, quiet.begin(), quiet.end());
     } else {
         setenv(kToolOptions, tool_options(already, options).c_str(), 1);
     }

@@ -1,8 +1,8 @@
 // Signals that ask the command to end. They only leave a mark, so that temporary files are removed on the way out.
-#ifndef VANTREL_REWRITE_INTERRUPT_H
-#define VANTREL_REWRITE_INTERRUPT_H
+#ifndef VANTREL_INTERRUPT_H
+#define VANTREL_INTERRUPT_H
 
-namespace vantrel_rewrite::interrupt {
+namespace command::interrupt {
 
 // Thrown where the mark is seen.
 struct Interrupted {};
@@ -20,6 +20,6 @@ void check();
 // Ends the process by the signal that left the mark, as its parent expects.
 [[noreturn]] void end_by_signal();
 
-}  // namespace vantrel_rewrite::interrupt
+}  // namespace command::interrupt
 
 #endif

@@ -4,7 +4,7 @@
 #include <csignal>
 #include <cstdlib>
 
-namespace vantrel_rewrite::interrupt {
+namespace command::interrupt {
 
 namespace {
 
@@ -66,4 +66,4 @@ void end_by_signal() {
     std::abort();  // not reached
 }
 
-}  // namespace vantrel_rewrite::interrupt
+}  // namespace command::interrupt
