@@ -56,15 +56,45 @@ int words_before_program(const CLI::App& run, int argc, char** argv) {
 constexpr const char* kListDescription = "Tells which programs run under the agent";
 
 constexpr const char* kListFooter =
-    R"(Prints a line for each program of yours: its process, its main class or jar, its VM, and its windows. NAME is a
-part of the names of those to list; all of them without it.
+    R"(Prints a line for each program of yours: its process, its main class or jar, its VM, and its windows. With
+PROGRAM, only those with this number, or with this in their name.
 
 Exit status: 0, 1 if there are none, 125 if the command line makes no sense.
 )";
 
+constexpr const char* kTreeDescription = "Prints the components of a program";
+
+constexpr const char* kStatuses =
+    R"(
+Exit status: 0; 1 if there is no such program or component; 2 if the program cannot be asked or does not answer; 125 if
+the command line makes no sense, or the result cannot be written.
+)";
+
+constexpr const char* kTreeFooter =
+    R"(A line for each component: the step of a path that leads to it from the line that it is indented under, its class,
+name and text, and why it is not to be seen. Parts that Swing puts in by itself are left out, but with --json, which
+marks them. With --find, a line for each component that is found, with its path.
+)";
+
+CLI::App* add_question(CLI::App& app, Question& question, const char* name, const char* description,
+                       const char* footer) {
+    CLI::App* command = app.add_subcommand(name, description)->footer(std::string(footer) + kStatuses);
+    command->add_option("PROGRAM", question.program, "Its process's number, or a part of its name that no other has")
+        ->required();
+    return command;
+}
+
 void add_questions(CLI::App& app, Question& question) {
     CLI::App* list = app.add_subcommand("list", kListDescription)->footer(kListFooter);
-    list->add_option("NAME", question.program, "A part of a program's name");
+    list->add_option("PROGRAM", question.program, "A process's number, or a part of names");
+
+    CLI::App* tree = add_question(app, question, "tree", kTreeDescription, kTreeFooter);
+    tree->add_flag("--json", question.json, "As JSON");
+    auto* depth =
+        tree->add_option("--depth", question.depth, "Not more than N levels below the windows")->type_name("N");
+    tree->add_option("--find", question.query, "Only what the inspector's search finds by QUERY")
+        ->type_name("QUERY")
+        ->excludes(depth);
 }
 
 }  // namespace
@@ -95,9 +125,12 @@ std::variant<Arguments, Question, std::string> parse_arguments(int argc, char** 
     if (auto text = command::parse_command_line(app, own_words, argv)) {
         return *std::move(text);
     }
-    const std::string& command = app.get_subcommands().front()->get_name();
-    if (command != run->get_name()) {
-        question.command = command;
+    const std::string& name = app.get_subcommands().front()->get_name();
+    if (name != run->get_name()) {
+        if (question.depth && *question.depth < 0) {
+            throw command::Failure{"--depth takes the number of levels below the windows, from 0 on"};
+        }
+        question.command = name;
         return question;
     }
     const bool has_mark = own_words < argc && argv[own_words] == std::string("--");

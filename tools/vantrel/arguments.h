@@ -2,6 +2,7 @@
 #ifndef VANTREL_ARGUMENTS_H
 #define VANTREL_ARGUMENTS_H
 
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -18,6 +19,9 @@ struct Arguments {
 struct Question {
     std::string command;
     std::string program;  // a process's number, or a part of a name
+    bool json = false;
+    std::optional<int> depth;  // how many levels below the windows; all without
+    std::string query;         // what to search for
 };
 
 // The arguments, or the text that --help or --version prints. Throws Failure if they make no sense.

@@ -80,7 +80,10 @@ int run(const launch::Question& question) {
     if (question.command == "list") {
         return list(question.program);
     }
-    return kNoAnswer;
+    const Program program = find_program(question.program);
+    command::print(ask(program, {"tree", question.json ? "json" : "text", std::to_string(question.depth.value_or(-1)),
+                                 question.query}));
+    return kAnswered;
 }
 
 }  // namespace outside

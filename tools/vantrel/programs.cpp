@@ -118,7 +118,9 @@ std::vector<Program> programs(const std::string& part) {
             continue;
         }
         Program program{*id, name_of(*id), library_in(*id)};
-        if (!program.library.empty() && in_small_letters(program.name).find(wanted) != std::string::npos) {
+        const bool is_wanted =
+            std::to_string(*id) == part || in_small_letters(program.name).find(wanted) != std::string::npos;
+        if (is_wanted && !program.library.empty()) {
             found.push_back(std::move(program));
         }
     }
@@ -150,7 +152,7 @@ Program find_program(const std::string& given) {
 }
 
 std::string label(const Program& program) {
-    return std::to_string(program.id) + " (" + program.name + ")";
+    return std::to_string(program.id) + (program.name.empty() ? "" : " (" + program.name + ")");
 }
 
 fs::path seen_by(const Program& program, const fs::path& folder) {

@@ -16,8 +16,8 @@ struct Program {
     std::filesystem::path library;  // the agent's, as the program sees it
 };
 
-// The programs of the user who asks whose name has a part in it, in small letters or capitals; in the order of their
-// numbers.
+// The programs of the user who asks whose name has a part in it, in small letters or capitals, or that have this
+// number; in the order of their numbers.
 std::vector<Program> programs(const std::string& part = "");
 
 // The program that somebody means.

@@ -24,7 +24,7 @@ constexpr std::chrono::milliseconds kToTakeIt(2900);
 class PrivateFolder {
   public:
     explicit PrivateFolder(const fs::path& parent) {
-        std::string name = parent / "vantrel-XXXXXX";
+        std::string name = parent / "vantrel-ask-XXXXXX";
         if (mkdtemp(name.data()) == nullptr) {
             throw FailureWithStatus{"cannot make a folder in " + parent.string() + ": " + strerror(errno), kNoAnswer};
         }
