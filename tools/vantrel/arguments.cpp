@@ -76,6 +76,42 @@ name and text, and why it is not to be seen. Parts that Swing puts in by itself 
 marks them. With --find, a line for each component that is found, with its path.
 )";
 
+constexpr const char* kPathFooter =
+    R"(PATH is what vantrel tree prints: steps with slashes between them. A step is a kind of component or a class with its
+number among its like (button0), or with a name or text (button[text=OK]); a step ... stands for any others. A path that
+does not begin with a window may begin anywhere, so that button[text=OK] is one if there is one such button.
+)";
+
+constexpr const char* kPictureFooter =
+    R"(Has the program paint the component, or its active window, once more, and writes that as a PNG file of the screen's
+pixels.
+)";
+
+constexpr const char* kSelectFooter = R"(Shows the inspector, if it is not shown, with the component selected in it.
+)";
+
+constexpr const char* kSelectionFooter = R"(Prints the path of the component that is selected in the inspector.
+)";
+
+constexpr const char* kSnapshotFooter =
+    R"(Writes all properties of all components to a file, a line each, for vantrel diff and for people.
+)";
+
+constexpr const char* kDiffFooter =
+    R"(Prints what has changed from the snapshot BEFORE to the snapshot AFTER: components that are gone (-) or new (+), and
+properties with their values before and after.
+
+Exit status: 0 if nothing has changed, 1 if something has, 125 if one of them is no snapshot.
+)";
+
+void add_path(CLI::App* command, Question& question, bool is_needed) {
+    command->add_option("PATH", question.path, "Where the component is")->required(is_needed);
+}
+
+void add_output(CLI::App* command, Question& question) {
+    command->add_option("-o,--output", question.output, "The file to write")->type_name("FILE")->required();
+}
+
 CLI::App* add_question(CLI::App& app, Question& question, const char* name, const char* description,
                        const char* footer) {
     CLI::App* command = app.add_subcommand(name, description)->footer(std::string(footer) + kStatuses);
@@ -95,6 +131,22 @@ void add_questions(CLI::App& app, Question& question) {
     tree->add_option("--find", question.query, "Only what the inspector's search finds by QUERY")
         ->type_name("QUERY")
         ->excludes(depth);
+
+    add_path(add_question(app, question, "show", "Prints all there is to say of a component", kPathFooter), question,
+             true);
+    CLI::App* picture =
+        add_question(app, question, "picture", "Writes a picture of a window or component", kPictureFooter);
+    add_path(picture, question, false);
+    add_output(picture, question);
+    add_path(add_question(app, question, "select", "Selects a component in the inspector", kSelectFooter), question,
+             true);
+    add_question(app, question, "selection", "Tells what is selected in the inspector", kSelectionFooter);
+    add_output(add_question(app, question, "snapshot", "Writes all properties of all components", kSnapshotFooter),
+               question);
+
+    CLI::App* diff = app.add_subcommand("diff", "Tells what has changed between two snapshots")->footer(kDiffFooter);
+    diff->add_option("BEFORE", question.before, "A snapshot")->required();
+    diff->add_option("AFTER", question.after, "A later one")->required();
 }
 
 }  // namespace

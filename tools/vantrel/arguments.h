@@ -19,6 +19,10 @@ struct Arguments {
 struct Question {
     std::string command;
     std::string program;  // a process's number, or a part of a name
+    std::string path;     // of a component
+    std::string output;   // the file to write
+    std::string before;   // two snapshots to compare
+    std::string after;
     bool json = false;
     std::optional<int> depth;  // how many levels below the windows; all without
     std::string query;         // what to search for

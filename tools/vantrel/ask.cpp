@@ -11,8 +11,10 @@
 #include "interrupt.h"
 #include "programs.h"
 #include "question.h"
+#include "snapshots.h"
 #include "statuses.h"
 #include "text.h"
+#include "whole_file.h"
 
 using launch::FailureWithStatus;
 
@@ -69,6 +71,14 @@ int list(const std::string& part) {
     return kAnswered;
 }
 
+// The question as the companion takes it (Questions.java).
+std::vector<std::string> words_of(const launch::Question& question) {
+    if (question.command == "tree") {
+        return {"tree", question.json ? "json" : "text", std::to_string(question.depth.value_or(-1)), question.query};
+    }
+    return {question.command, question.path};
+}
+
 }  // namespace
 
 int run(const launch::Question& question) {
@@ -80,9 +90,17 @@ int run(const launch::Question& question) {
     if (question.command == "list") {
         return list(question.program);
     }
-    const Program program = find_program(question.program);
-    command::print(ask(program, {"tree", question.json ? "json" : "text", std::to_string(question.depth.value_or(-1)),
-                                 question.query}));
+    if (question.command == "diff") {
+        const std::string changed = difference(question.before, question.after);
+        command::print(changed);
+        return changed.empty() ? kAnswered : kNoSuchThing;
+    }
+    const std::string answer = ask(find_program(question.program), words_of(question));
+    if (question.output.empty()) {
+        command::print(answer);
+    } else {
+        write_whole(question.output, answer);
+    }
     return kAnswered;
 }
 

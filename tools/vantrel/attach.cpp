@@ -14,6 +14,7 @@
 #include <iterator>
 #include <thread>
 
+#include "descriptor.h"
 #include "failure_with_status.h"
 #include "interrupt.h"
 #include "statuses.h"
@@ -29,22 +30,6 @@ namespace {
 constexpr std::chrono::milliseconds kBetweenLooks(2);
 // HotSpot's protocol: this version's requests are a command and three arguments, whether or not it needs them.
 constexpr std::string_view kProtocol = "1";
-
-class Descriptor {
-  public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() {
-        if (number_ >= 0) {
-            close(number_);
-        }
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    [[nodiscard]] int number() const { return number_; }
-
-  private:
-    int number_;
-};
 
 // The file whose presence tells a VM that a SIGQUIT asks for its socket, and not for its threads' stacks.
 class Trigger {

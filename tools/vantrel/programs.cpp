@@ -136,8 +136,9 @@ Program find_program(const std::string& given) {
     std::vector<Program> fitting = programs(given);
     std::stable_partition(fitting.begin(), fitting.end(), [&](const Program& each) { return each.name == given; });
     if (fitting.empty()) {
+        const std::string what = id ? "there is no process " + given + ", and no" : "no";
         throw FailureWithStatus{
-            "no program of yours under the agent is called '" + given + "'; vantrel list tells which there are",
+            what + " program of yours under the agent is called '" + given + "'; vantrel list tells which there are",
             kNoSuchThing};
     }
     const bool is_one = fitting.size() == 1 || (fitting[0].name == given && fitting[1].name != given);

@@ -1,5 +1,7 @@
 #include "question.h"
 
+#include <fcntl.h>
+
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
@@ -8,6 +10,7 @@
 #include <iterator>
 
 #include "attach.h"
+#include "descriptor.h"
 #include "failure_with_status.h"
 #include "statuses.h"
 
@@ -23,9 +26,10 @@ constexpr std::chrono::milliseconds kToTakeIt(2900);
 // A folder that only the user can read. Removed with what is in it.
 class PrivateFolder {
   public:
-    explicit PrivateFolder(const fs::path& parent) {
-        std::string name = parent / "vantrel-ask-XXXXXX";
-        if (mkdtemp(name.data()) == nullptr) {
+    explicit PrivateFolder(const fs::path& parent) : parent_(open(parent.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {
+        // The way to a program's folders ends with the program, but for whoever has one of them open.
+        std::string name = "/proc/self/fd/" + std::to_string(parent_.number()) + "/vantrel-ask-XXXXXX";
+        if (parent_.number() < 0 || mkdtemp(name.data()) == nullptr) {
             throw FailureWithStatus{"cannot make a folder in " + parent.string() + ": " + strerror(errno), kNoAnswer};
         }
         path_ = name;
@@ -42,6 +46,7 @@ class PrivateFolder {
     [[nodiscard]] const fs::path& path() const { return path_; }
 
   private:
+    Descriptor parent_;
     fs::path path_;
 };
 

@@ -28,6 +28,7 @@ final class Place {
     private final String text;
     private int number;
     private String step;
+    private boolean isNameAlone;
 
     /** @param parent null for a window that nothing owns */
     Place(TreeNode node, Component component, Place parent) {
@@ -52,6 +53,7 @@ final class Place {
         }
         for (Place place : siblings) {
             place.step = place.numbered();
+            place.isNameAlone = counts.getOrDefault(place.namedStep(), 0) == 1;
             for (String step : place.namedSteps()) {
                 if (counts.get(step) == 1) {
                     place.step = step;
@@ -64,13 +66,17 @@ final class Place {
     /** The forms of a step by name and by text, as far as there are such. */
     private List<String> namedSteps() {
         List<String> steps = new ArrayList<>();
-        if (name != null && !name.isEmpty()) {
-            steps.add(kind + "[name=" + Step.escaped(name) + "]");
+        if (namedStep() != null) {
+            steps.add(namedStep());
         }
         if (text != null && text.length() <= LONGEST_TEXT) {
             steps.add(kind + "[text=" + Step.escaped(text) + "]");
         }
         return steps;
+    }
+
+    private String namedStep() {
+        return name == null || name.isEmpty() ? null : kind + "[name=" + Step.escaped(name) + "]";
     }
 
     /** All forms of a step that lead here. */
@@ -100,8 +106,7 @@ final class Place {
         return step;
     }
 
-    /** The step that goes by the place alone, and stays the same when names and texts change. */
-    String numbered() {
+    private String numbered() {
         return kind + number;
     }
 
@@ -122,8 +127,9 @@ final class Place {
         return parent == null ? step : parent.path() + "/" + step;
     }
 
-    /** The whole path, by numbers alone. */
-    String numberedPath() {
-        return parent == null ? numbered() : parent.numberedPath() + "/" + numbered();
+    /** The whole path, by names and numbers: it stays the same when texts change. */
+    String lastingPath() {
+        String own = isNameAlone ? namedStep() : numbered();
+        return parent == null ? own : parent.lastingPath() + "/" + own;
     }
 }

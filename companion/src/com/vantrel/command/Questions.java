@@ -7,7 +7,8 @@ final class Questions {
     private Questions() {
     }
 
-    private static String query(List<String> words, int at) {
+    /** A word that may be empty, and is not there then if it would be the last. */
+    private static String word(List<String> words, int at) {
         return words.size() > at ? words.get(at) : "";
     }
 
@@ -18,7 +19,17 @@ final class Questions {
                 case "about":
                     return About.program();
                 case "tree":
-                    return Trees.answer(words.get(1).equals("json"), Integer.parseInt(words.get(2)), query(words, 3));
+                    return Trees.answer(words.get(1).equals("json"), Integer.parseInt(words.get(2)), word(words, 3));
+                case "show":
+                    return Shown.answer(word(words, 1));
+                case "picture":
+                    return Pictures.answer(word(words, 1));
+                case "select":
+                    return Selected.select(word(words, 1));
+                case "selection":
+                    return Selected.answer();
+                case "snapshot":
+                    return Snapshots.answer();
                 default:
                     throw new Refusal(Answer.NONE,
                             "the program's agent does not know the question '" + words.get(0)

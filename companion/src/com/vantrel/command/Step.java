@@ -32,7 +32,7 @@ final class Step {
             throw new Refusal(Answer.NOTHING,
                     "the step '" + typed + "' makes no sense; it may be button0, button[text=OK] or button[name=ok]");
         }
-        value = unescaped(typed.substring(equals + 1, typed.length() - 1));
+        value = Escapes.read(typed.substring(equals + 1, typed.length() - 1));
     }
 
     /** The steps of a path; slashes in brackets separate none. */
@@ -75,46 +75,9 @@ final class Step {
         return key.equals(NAME) ? place.hasName(value) : place.hasText(value);
     }
 
+    /** A value as it stands in brackets. */
     static String escaped(String value) {
-        StringBuilder text = new StringBuilder();
-        for (int i = 0; i < value.length(); i++) {
-            char c = value.charAt(i);
-            boolean isPair = Character.isHighSurrogate(c) && i + 1 < value.length()
-                    && Character.isLowSurrogate(value.charAt(i + 1));
-            if (isPair) {
-                text.append(c).append(value.charAt(++i));
-            } else if (c == '\\' || c == ']') {
-                text.append('\\').append(c);
-            } else if (c == '\n' || c == '\t' || c == '\r') {
-                text.append('\\').append(c == '\n' ? 'n' : c == '\t' ? 't' : 'r');
-            } else if (Character.isISOControl(c) || Character.isSurrogate(c) || Character.getType(c) == Character.FORMAT
-                    || Character.getType(c) == Character.LINE_SEPARATOR
-                    || Character.getType(c) == Character.PARAGRAPH_SEPARATOR) {
-                text.append(String.format("\\u%04x", (int) c));
-            } else {
-                text.append(c);
-            }
-        }
-        return text.toString();
-    }
-
-    private static String unescaped(String text) {
-        StringBuilder value = new StringBuilder();
-        for (int i = 0; i < text.length(); i++) {
-            char c = text.charAt(i);
-            if (c != '\\' || i + 1 == text.length()) {
-                value.append(c);
-                continue;
-            }
-            c = text.charAt(++i);
-            if (c == 'u' && text.substring(i + 1).matches("(?s)[0-9a-fA-F]{4}.*")) {
-                value.append((char) Integer.parseInt(text.substring(i + 1, i + 5), 16));
-                i += 4;
-            } else {
-                value.append(c == 'n' ? '\n' : c == 't' ? '\t' : c == 'r' ? '\r' : c);
-            }
-        }
-        return value.toString();
+        return Escapes.line(value).replace("]", "\\]");
     }
 
     @Override

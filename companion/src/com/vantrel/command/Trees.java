@@ -44,13 +44,17 @@ final class Trees {
             for (int i = 0; i < level; i++) {
                 text.append("  ");
             }
-            text.append(place.step()).append("  ").append(place.node().look());
+            text.append(place.step()).append("  ").append(look(place));
             if (level == depth && !place.children().isEmpty()) {
                 text.append(" \u2026");
             }
             text.append('\n');
         }
         return text.toString();
+    }
+
+    static String look(Place place) {
+        return Escapes.line(place.node().look().toString());
     }
 
     private static String whole(int depth) {
@@ -88,7 +92,7 @@ final class Trees {
         for (TreeNode node : paths.tree().rows()) {
             Place place = paths.of(node.component());
             if (node.isMatch() && place != null) {
-                text.append(paths.shortPath(place)).append("  ").append(node.look()).append('\n');
+                text.append(paths.shortPath(place)).append("  ").append(look(place)).append('\n');
             }
         }
         if (text.length() == 0) {
