@@ -126,6 +126,127 @@ TEST_P(Outside, FindsComponentsAndTheirPaths) {
     EXPECT_THAT(refused(1, "tree", {"--find", "nowhere-at-all"}), HasSubstr("no component is found"));
 }
 
+TEST_P(Outside, ShowsWhatThereIsToSayOfAComponent) {
+    start({"-Dvantrel.record=changes"});
+    ask("set amount editable false");
+    const std::string added = "MainFrame.java:" + std::to_string(line_of("MainFrame.java", "form.add(right,"));
+    const std::string set = "Commands.java:" + std::to_string(line_of("Commands.java", ".invoke(component"));
+    const std::string shown = told("show", {"field[name=amount]"});
+    EXPECT_THAT(shown, StartsWith("path: frame[name=main]/\u2026/field[name=amount]\nclass: javax.swing.JTextField\n"));
+    EXPECT_THAT(shown, AllOf(HasSubstr(added), HasSubstr("  editable: false\n    Set by "), HasSubstr(set)));
+}
+
+// What a path may be, and what is said of one that leads nowhere or to too much.
+TEST_P(Outside, FollowsPaths) {
+    start();
+    ask("text amount.label a/b [c]\\d \u00fc\U0001F600");
+    const std::string path = "frame[name=main]/\u2026/label[text=a/b [c\\]\\\\d \u00fc\U0001F600]";
+    const auto leads = [&](const std::string& to) { return lines_of(told("show", {to})).front(); };
+    const std::string expected = "path: frame[name=main]/\u2026/label[name=amount.label]";
+    for (const std::string& each :
+         {path, std::string("label[text=a/b [c\\]\\\\d \u00fc\U0001F600]"), std::string("JLabel[name=amount.label]"),
+          std::string("frame0/.../[name=amount.label]"), std::string("/frame0/\u2026/label[name=amount.label]/")}) {
+        EXPECT_EQ(leads(each), expected) << each;
+    }
+    // Every line of the tree is a step from the line that it is indented under.
+    std::vector<std::string> steps;
+    for (const std::string& line : lines_of(told("tree"))) {
+        const size_t indent = line.find_first_not_of(' ');
+        steps.resize(indent / 2);
+        steps.push_back(line.substr(indent, line.find("  ", indent) - indent));
+    }
+    std::string last;
+    for (const std::string& step : steps) {
+        last += "/" + step;
+    }
+    EXPECT_THAT(told("show", {last}), HasSubstr(steps.back()));
+
+    EXPECT_THAT(refused(1, "show", {"field[name=amuont]"}),
+                HasSubstr("the nearest is frame[name=main]/\u2026/field[name=amount]\n"));
+    EXPECT_THAT(refused(1, "show", {"label0"}), HasSubstr("components: frame[name=main]/"));
+    EXPECT_THAT(refused(1, "show", {"button[colour=red]"}), HasSubstr("makes no sense"));
+    EXPECT_THAT(refused(1, "show", {"//"}), HasSubstr("the path is empty"));
+}
+
+TEST_P(Outside, MakesPicturesOfTheWindowsPixels) {
+    start();
+    ask("find root JRootPane ");
+    for (const char* name : {"root", "amount"}) {
+        const std::string file = folder.path / (std::string(name) + ".png");
+        Words words{"-o", file};
+        if (name == std::string("amount")) {
+            words.insert(words.begin(), "field[name=amount]");
+        }
+        const Place area = where(name);
+        EXPECT_TRUE(eventually([&] {  // a caret blinks
+            told("picture", words);
+            const Picture screen = picture(area);
+            EXPECT_EQ(run({"convert", file, "-depth", "8", "RGB:" + file + ".rgb"}).status, 0);
+            const std::string rgb = contents(file + ".rgb");
+            EXPECT_EQ(rgb.size(), 3 * area.width * area.height);
+            for (size_t pixel = 0; pixel < rgb.size() / 3; ++pixel) {
+                char colour[7];
+                const auto part = [&](size_t at) { return static_cast<unsigned char>(rgb[3 * pixel + at]); };
+                snprintf(colour, sizeof colour, "%02X%02X%02X", part(0), part(1), part(2));
+                const int at = static_cast<int>(pixel);
+                if (screen.at(at % area.width, at / area.width) != colour) {
+                    return false;
+                }
+            }
+            return true;
+        })) << name;
+    }
+    EXPECT_THAT(refused(125, "picture", {"-o", "/nowhere/at/all.png"}), HasSubstr("cannot write /nowhere/at/all.png"));
+}
+
+TEST_P(Outside, SelectsInTheInspector) {
+    start();
+    EXPECT_THAT(refused(1, "selection"), HasSubstr("nothing is selected"));
+    const std::string selected = "frame[name=main]/\u2026/field[name=amount]  JTextField amount \"12.50\"\n";
+    EXPECT_EQ(told("select", {"field[name=amount]"}), selected);
+    EXPECT_TRUE(eventually([this] { return inspector_is_open() && ask("selected") == "amount"; }));
+    EXPECT_EQ(told("selection"), selected);
+    EXPECT_THAT(told("tree"), testing::Not(HasSubstr("vantrel"))) << "the inspector is not part of the program";
+}
+
+TEST_P(Outside, TakesSnapshotsThatDifferInWhatHasChanged) {
+    start();
+    const auto snapshot = [this](const std::string& name) {
+        told("snapshot", {"-o", folder.path / name});
+        return (folder.path / name).string();
+    };
+    const std::string before = snapshot("before");
+    EXPECT_TRUE(eventually([&] {  // the program comes to rest
+        fs::rename(before, folder.path / "last");
+        snapshot("before");
+        const Finished same = run({kCommand, "diff", folder.path / "last", before});
+        EXPECT_EQ(same.out.empty(), same.status == 0);
+        return same.status == 0;
+    }));
+    ask("set cancel focusPainted false");
+    ask("set amount.label enabled false");
+    ask("set room opaque false");
+    const Finished changed = run({kCommand, "diff", before, snapshot("after")});
+    EXPECT_EQ(changed.status, 1);
+    const std::string top = "  frame[name=main]/split[name=split]/panel[name=top]/";
+    EXPECT_EQ(changed.out, top + "panel[name=form]/label[name=amount.label]\n    enabled: true -> false\n" + top +
+                               "panel[name=form]/button[name=cancel]\n    focusPainted: true -> false\n" + top +
+                               "panel[name=right]/panel[name=room]\n    opaque: true -> false\n");
+    ask("add room newcomer");
+    const Finished added = run({kCommand, "diff", before, snapshot("later")});
+    EXPECT_THAT(added.out, HasSubstr("+ frame[name=main]/"));
+
+    const std::string text = contents(before);
+    std::ofstream(folder.path / "cut") << text.substr(0, text.size() / 2).substr(0, text.rfind('\t', text.size() / 2));
+    for (const auto& [file, says] : {std::pair<std::string, std::string>{"cut", "changed or cut"},
+                                     {"none", "cannot read"},
+                                     {"commands", "is no snapshot"}}) {
+        const Finished refusal = run({kCommand, "diff", before, folder.path / file});
+        EXPECT_EQ(refusal.status, 125);
+        EXPECT_THAT(refusal.err, HasSubstr(says));
+    }
+}
+
 // The answer comes in time, and says where the event thread is; two that ask at once do not wait for each other.
 TEST_P(Outside, AnswersForAProgramThatHangs) {
     start();
@@ -165,6 +286,38 @@ TEST_P(Outside, AnswersWhenTheProgramEndsOrIsStopped) {
     EXPECT_EQ(command.wait(), 2);
     EXPECT_THAT(command.err(), HasSubstr("(scenario.Scenario) has ended\n"));
     EXPECT_TRUE(nothing_is_left_since(before));
+}
+
+// As `vantrel run` starts it: nothing that is asked shows in what the program writes, nor in how it ends.
+TEST_P(Outside, LeavesARealProgramAsItWas) {
+    const fs::path editor = "/usr/share/jedit/jedit.jar";
+    if (!fs::exists(editor)) {
+        GTEST_SKIP() << "jEdit is not installed";
+    }
+    manager.emplace(x);
+    std::string written[2];
+    for (const bool is_asked : {false, true}) {
+        const fs::path settings = folder.path / (is_asked ? "asked" : "alone");
+        fs::create_directory(settings);
+        std::ofstream(settings / "properties") << "tip.show=false\n";
+        program.emplace(Words{kCommand, "run", *find_jdk(GetParam()) / "bin" / "java", "-cp", editor,
+                              "org.gjt.sp.jedit.jEdit", "-noserver", "-nobackground", "-settings=" + settings.string()},
+                        ProcessOptions{.folder = folder.path, .environment = {x.display()}});
+        ASSERT_TRUE(program->reaches([this] { return x.shows("jEdit - Untitled-1"); })) << program->err();
+        for (int time = 0; is_asked && time < 5; ++time) {
+            Process tree({kCommand, "tree", id(), "--json"});
+            EXPECT_THAT(told("list"), HasSubstr("\"jEdit - Untitled-1\""));
+            EXPECT_THAT(told("show", {"TextAreaPainter0"}), HasSubstr("\nadded: TextArea.<init>(TextArea.java:"));
+            told("picture", {"-o", folder.path / "picture.png"});
+            EXPECT_EQ(tree.wait(), 0);
+            EXPECT_THAT(tree.out(), EndsWith("]}\n"));
+        }
+        std::this_thread::sleep_for(milliseconds(is_asked ? 0 : 2000));
+        program->signal(SIGTERM);
+        EXPECT_EQ(program->wait(), 128 + SIGTERM);
+        written[static_cast<int>(is_asked)] = program->out() + program->err();
+    }
+    EXPECT_EQ(written[0], written[1]);
 }
 
 TEST_P(Outside, SaysWhatCannotBeAsked) {

@@ -2,6 +2,7 @@ package com.vantrel.command;
 
 import java.awt.Component;
 import java.awt.Container;
+import java.awt.Graphics;
 import java.awt.Graphics2D;
 import java.awt.Insets;
 import java.awt.Point;
@@ -24,6 +25,8 @@ import com.vantrel.model.ProgramWindows;
  * the screen, so that what lies in front of a window does not matter.
  */
 final class Pictures {
+    private static final Component[] NONE = new Component[0];
+
     private Pictures() {
     }
 
@@ -90,11 +93,8 @@ final class Pictures {
             graphics.fillRect(area.x, area.y, area.width, area.height);
             graphics.setColor(painter.getForeground());
             graphics.setFont(painter.getFont());
-            if (hasPeersInside(painter)) {
-                painter.printAll(graphics); // which the AWT's widgets need, that are painted by nobody but themselves
-            } else {
-                painter.paint(graphics);
-            }
+            painter.paint(graphics);
+            paintPeers(painter, graphics);
         } finally {
             graphics.dispose();
         }
@@ -112,13 +112,20 @@ final class Pictures {
         return new Rectangle(corner.x, corner.y, component.getWidth(), component.getHeight());
     }
 
-    private static boolean hasPeersInside(Component component) {
-        boolean has = !(component instanceof Window) && !component.isLightweight();
-        if (!has && component instanceof Container) {
-            for (Component child : ((Container) component).getComponents()) {
-                has |= child.isVisible() && hasPeersInside(child);
+    /** The AWT's widgets, which are painted by nobody but themselves. */
+    private static void paintPeers(Component component, Graphics graphics) {
+        Component[] children = component instanceof Container ? ((Container) component).getComponents() : NONE;
+        for (int i = children.length - 1; i >= 0; i--) {
+            Component child = children[i];
+            if (child.isVisible()) {
+                Graphics inChild = graphics.create(child.getX(), child.getY(), child.getWidth(), child.getHeight());
+                if (child.isLightweight()) {
+                    paintPeers(child, inChild);
+                } else {
+                    child.printAll(inChild);
+                }
+                inChild.dispose();
             }
         }
-        return has;
     }
 }
