@@ -59,6 +59,23 @@ TEST_P(Run, BecomesJava) {
     EXPECT_EQ(program.err(), kNoDisplay) << "the VM has picked nothing up";
 }
 
+// A VM that warns of agents is told not to, unless somebody wants it to refuse them.
+TEST_P(Run, LetsTheProgramBeAskedWithoutAWarning) {
+    const auto flag = [&](const Words& options) {
+        const Finished program =
+            run(Words{kCommand, "run", java()} + options + Words{"-XX:+PrintFlagsFinal", "-jar", kStartedJar});
+        for (const std::string& line : lines_of(program.out)) {
+            if (line.find(" EnableDynamicAgentLoading ") != std::string::npos) {
+                return std::string(line.find("= true ") != std::string::npos ? "on " : "off ") +
+                       (line.find("{command line}") != std::string::npos ? "as told" : "by itself");
+            }
+        }
+        return program.err;
+    };
+    EXPECT_EQ(flag({}), GetParam() < 21 ? "on by itself" : "on as told");
+    EXPECT_EQ(flag({"-XX:-EnableDynamicAgentLoading"}), "off as told");
+}
+
 // An agent in Java that is started after ours would miss classes.
 TEST_P(Run, ComesBehindAgentsInJava) {
     const std::string agent = "-javaagent:" + kStartedJar.string();
@@ -179,7 +196,8 @@ TEST(RunRefuses, AnAgentThatNoVmCouldLoad) {
 }
 
 TEST(RunHelp, GoesToStdoutAndIsInTheManual) {
-    for (const Words& words : {Words{"--help"}, Words{"run", "--help"}}) {
+    for (const Words& words :
+         {Words{"--help"}, Words{"run", "--help"}, Words{"tree", "--help"}, Words{"picture", "--help"}}) {
         const Finished help = run(Words{kCommand} + words);
         EXPECT_EQ(help.status, 0);
         EXPECT_EQ(help.err, "");

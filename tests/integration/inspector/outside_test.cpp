@@ -247,6 +247,29 @@ TEST_P(Outside, TakesSnapshotsThatDifferInWhatHasChanged) {
     }
 }
 
+TEST_P(Outside, AnswersTheExamplesOfTheManual) {
+    start();
+    const std::string before = "For instance, for a program with a button";
+    const std::string manual = contents(VANTREL_COMMAND_MANUAL);
+    const std::string examples = manual.substr(manual.find(before), manual.find("### Paths") - manual.find(before));
+    std::ofstream script(folder.path / "examples");
+    int number = 0;
+    for (const std::string& line : lines_of(examples)) {
+        if (line.starts_with("    vantrel ")) {
+            script << std::regex_replace(line, std::regex("com\\.x\\.Main"), id()) << "\n";
+            ++number;
+        }
+    }
+    script.close();
+    EXPECT_EQ(number, 10);
+    const Finished told =
+        run({"bash", "-e", "examples"},
+            {.folder = folder.path, .environment = {"PATH=" + kCommand.parent_path().string() + ":/usr/bin:/bin"}});
+    EXPECT_TRUE(told.status == 0 || told.status == 1) << told.err;  // selecting may have moved the focus meanwhile
+    EXPECT_EQ(told.err, "");
+    EXPECT_TRUE(fs::exists(folder.path / "after"));
+}
+
 // The answer comes in time, and says where the event thread is; two that ask at once do not wait for each other.
 TEST_P(Outside, AnswersForAProgramThatHangs) {
     start();
