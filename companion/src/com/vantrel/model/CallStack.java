@@ -79,6 +79,11 @@ public final class CallStack {
         return null;
     }
 
+    /** All of it, innermost call first. */
+    public List<StackTraceElement> lines() {
+        return Collections.unmodifiableList(Arrays.asList(trace));
+    }
+
     /** The whole stack as a program would print it, a line each; empty if there is none. */
     public String text() {
         StringBuilder text = new StringBuilder();

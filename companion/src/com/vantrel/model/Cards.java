@@ -5,14 +5,14 @@ import java.awt.Component;
 import java.lang.reflect.Field;
 
 /** The names that the cards of a CardLayout were given, which it keeps to itself. For the event thread. */
-final class Cards {
+public final class Cards {
     private static final Field ALL = Members.field(CardLayout.class, "vector");
 
     private Cards() {
     }
 
     /** The name of a component's card; null where it has none, or the toolkit's module is closed to us. */
-    static String name(CardLayout layout, Component child) throws IllegalAccessException {
+    public static String name(CardLayout layout, Component child) throws IllegalAccessException {
         if (ALL == null) {
             return null;
         }

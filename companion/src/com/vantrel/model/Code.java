@@ -91,7 +91,7 @@ public final class Code {
      * The program's class that overrides one of the getters that the toolkit computes with, or null. Whoever asks such
      * an object for its size may be asking the program for anything.
      */
-    static Class<?> getterOverrider(Class<?> type) {
+    public static Class<?> getterOverrider(Class<?> type) {
         return getterOverrider(type, Collections.emptySet());
     }
 

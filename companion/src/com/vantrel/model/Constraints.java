@@ -20,7 +20,7 @@ import javax.swing.JLayeredPane;
  * What a component's parent was told about where to put it, for those layout managers that can be asked: as text, and
  * changed. For the event thread.
  */
-final class Constraints {
+public final class Constraints {
     private static final List<String> REGIONS = Arrays.asList(BorderLayout.CENTER, BorderLayout.NORTH,
             BorderLayout.SOUTH, BorderLayout.WEST, BorderLayout.EAST, BorderLayout.PAGE_START, BorderLayout.PAGE_END,
             BorderLayout.LINE_START, BorderLayout.LINE_END);
@@ -65,7 +65,7 @@ final class Constraints {
     }
 
     /** A component's constraints; null if it has none. */
-    static Object of(Component component) throws Throwable {
+    public static Object of(Component component) throws Throwable {
         Container parent = component.getParent();
         LayoutManager layout = parent == null ? null : parent.getLayout();
         if (layout instanceof BorderLayout) {

@@ -1,10 +1,14 @@
 package com.vantrel.model;
 
 import java.awt.Component;
+import java.awt.Container;
 import java.awt.KeyboardFocusManager;
 import java.awt.Rectangle;
+import java.awt.Window;
 import java.util.ArrayList;
 import java.util.List;
+
+import javax.swing.JPanel;
 
 import com.vantrel.stacktrace.StackTraceManager;
 
@@ -45,6 +49,36 @@ public final class Description {
             }
         }
         return text.toString();
+    }
+
+    /**
+     * A component in as few words as tell it from others: {@code JPanel "form"}, or {@code JPanel "form" > JLabel[2]}
+     * where it has no name itself; a window by its title, and its content pane as that.
+     */
+    public static String shortPath(Component component) {
+        Container parent = Facts.parent(component);
+        String title = component instanceof Window && Facts.name(component) == null ? Facts.text(component) : null;
+        if (title != null) {
+            return label(component) + " titled \"" + title + "\"";
+        }
+        if (component instanceof Window || parent == null) {
+            return label(component);
+        }
+        if (Machinery.of(component, parent) == Machinery.BETWEEN && component instanceof JPanel) {
+            return "the content pane of " + shortPath(owner(component));
+        }
+        String own = label(component);
+        return Facts.name(component) == null ? shortPath(owner(component)) + " > " + own + '[' + number(component) + ']'
+                                             : own;
+    }
+
+    /** The nearest container around a component that is not machinery. */
+    private static Component owner(Component component) {
+        Container at = Facts.parent(component);
+        while (Facts.parent(at) != null && Machinery.of(at, Facts.parent(at)) != Machinery.NO) {
+            at = Facts.parent(at);
+        }
+        return at;
     }
 
     private static int number(Component component) {

@@ -1,5 +1,6 @@
 package com.vantrel.model;
 
+import java.awt.AWTEvent;
 import java.awt.Button;
 import java.awt.Checkbox;
 import java.awt.Component;
@@ -33,6 +34,8 @@ import javax.swing.text.JTextComponent;
  */
 public final class Facts {
     private static final Component[] NONE = new Component[0];
+    private static final long MOUSE =
+            AWTEvent.MOUSE_EVENT_MASK | AWTEvent.MOUSE_MOTION_EVENT_MASK | AWTEvent.MOUSE_WHEEL_EVENT_MASK;
     /** Nobody reads more in a row, and a document may hold a book. */
     private static final int LONGEST_TEXT = 200;
 
@@ -99,6 +102,18 @@ public final class Facts {
 
     public static boolean isVisible(Component component) {
         return toolkits(component, "isVisible") ? component.isVisible() : (Boolean) Fields.VISIBLE.of(component, true);
+    }
+
+    /** Whether nothing in a container has changed since it was laid out. */
+    public static boolean isValid(Component component) {
+        return toolkits(component, "isValid") ? component.isValid() : (Boolean) Fields.VALID.of(component, true);
+    }
+
+    /** Whether a component takes events of the mouse, which would otherwise go to what lies below it. */
+    public static boolean takesMouse(Component component) {
+        long mask = (Long) Fields.EVENT_MASK.of(component, 0L);
+        return (mask & MOUSE) != 0 || Fields.MOUSE.of(component, null) != null
+                || Fields.MOUSE_MOTION.of(component, null) != null || Fields.MOUSE_WHEEL.of(component, null) != null;
     }
 
     public static boolean isEnabled(Component component) {

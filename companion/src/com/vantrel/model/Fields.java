@@ -14,6 +14,11 @@ final class Fields {
     static final Fields PARENT = new Fields(Component.class, "parent");
     static final Fields VISIBLE = new Fields(Component.class, "visible");
     static final Fields ENABLED = new Fields(Component.class, "enabled");
+    static final Fields VALID = new Fields(Component.class, "valid");
+    static final Fields EVENT_MASK = new Fields(Component.class, "eventMask");
+    static final Fields MOUSE = new Fields(Component.class, "mouseListener");
+    static final Fields MOUSE_MOTION = new Fields(Component.class, "mouseMotionListener");
+    static final Fields MOUSE_WHEEL = new Fields(Component.class, "mouseWheelListener");
     static final Fields X = new Fields(Component.class, "x");
     static final Fields Y = new Fields(Component.class, "y");
     static final Fields WIDTH = new Fields(Component.class, "width");

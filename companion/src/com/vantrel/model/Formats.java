@@ -22,7 +22,7 @@ import java.util.regex.Pattern;
 import javax.swing.border.Border;
 
 /** The formats of the types that can be typed or chosen. Stateless, for any thread. */
-final class Formats {
+public final class Formats {
     private static final Pattern NUMBER = Pattern.compile("[+-]?\\d+");
     private static final Pattern NUMBERS = Pattern.compile("[\\s,;x\u00d7+\\d-]+");
     private static final Pattern HEX = Pattern.compile("#?([0-9a-fA-F]{3}|[0-9a-fA-F]{6}|[0-9a-fA-F]{8})");
@@ -138,15 +138,15 @@ final class Formats {
         return insets.top + ", " + insets.left + ", " + insets.bottom + ", " + insets.right;
     }
 
-    static String write(Dimension size) {
+    public static String write(Dimension size) {
         return size(size.width, size.height);
     }
 
-    static String write(Rectangle at) {
+    public static String write(Rectangle at) {
         return at.x + ", " + at.y + ", " + size(at.width, at.height);
     }
 
-    static String size(int width, int height) {
+    public static String size(int width, int height) {
         return extent(width) + " \u00d7 " + extent(height);
     }
 

@@ -27,7 +27,7 @@ import javax.swing.plaf.UIResource;
  * What there is to know of a layout manager: what it was set to, and what it was told of one child. For the event
  * thread.
  */
-final class Managers {
+public final class Managers {
     private static final List<String> ALIGNMENTS = Arrays.asList("LEFT", "CENTER", "RIGHT", "LEADING", "TRAILING");
     private static final List<String> REGIONS = Arrays.asList(BorderLayout.NORTH, BorderLayout.SOUTH, BorderLayout.WEST,
             BorderLayout.EAST, BorderLayout.CENTER, BorderLayout.PAGE_START, BorderLayout.PAGE_END,
@@ -61,7 +61,7 @@ final class Managers {
      * A manager's class as people say it. Those inside of the toolkit's classes have names that say little by
      * themselves, such as "Handler"; what is only marked as a look and feel's is called by what it is.
      */
-    static String name(LayoutManager layout) {
+    public static String name(LayoutManager layout) {
         Class<?> type = layout.getClass();
         if (layout instanceof UIResource && Code.isToolkit(type)) {
             type = type.getSuperclass() == Object.class ? type : type.getSuperclass();
@@ -145,7 +145,7 @@ final class Managers {
     }
 
     /** Whether a BoxLayout lays out from left to right or the other way. */
-    static boolean isHorizontal(BoxLayout layout, Container of) {
+    public static boolean isHorizontal(BoxLayout layout, Container of) {
         boolean leftToRight = of.getComponentOrientation().isHorizontal();
         switch (layout.getAxis()) {
             case BoxLayout.LINE_AXIS:
@@ -197,7 +197,7 @@ final class Managers {
     }
 
     /** Whether a component can be asked for its alignment: its own layout may ask all that is in it. */
-    private static boolean canTellAlignment(Component child) {
+    public static boolean canTellAlignment(Component child) {
         if (Code.getterOverrider(child.getClass()) != null) {
             return false;
         }

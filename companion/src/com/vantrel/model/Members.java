@@ -9,7 +9,7 @@ import java.lang.reflect.Modifier;
 import com.vantrel.hooks.DesktopModule;
 
 /** Members of classes that are called or read by reflection. For any thread; who calls decides on which. */
-final class Members {
+public final class Members {
     static {
         DesktopModule.open("java.awt", "javax.accessibility", "javax.swing");
     }
@@ -35,7 +35,7 @@ final class Members {
      *
      * @return null where there is no such field, or where the toolkit's module keeps it to itself
      */
-    static Field field(Class<?> type, String name) {
+    public static Field field(Class<?> type, String name) {
         try {
             Field field = type.getDeclaredField(name);
             return open(field) ? field : null;

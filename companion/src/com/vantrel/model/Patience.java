@@ -8,7 +8,7 @@ import java.util.WeakHashMap;
  * Which properties of which classes take long to read, and are not read unasked any more: each of them is met once and
  * not with every component that is selected. Belongs to the event thread; holds no class.
  */
-final class Patience {
+public final class Patience {
     /** The JDK's own getters take a thousandth of it. */
     private static final long SLOW_NANOS = 50_000_000;
 
@@ -24,7 +24,7 @@ final class Patience {
     }
 
     /** Whether a property is not to be read unasked. */
-    static boolean isLost(Class<?> type, String property) {
+    public static boolean isLost(Class<?> type, String property) {
         Map<String, Integer> strikes = STRIKES.get(type);
         return strikes != null && strikes.getOrDefault(property, 0) >= CHANCES;
     }
@@ -34,7 +34,7 @@ final class Patience {
      *
      * @return whether it is not to be read unasked from now on
      */
-    static boolean took(Class<?> type, String property, long nanos) {
+    public static boolean took(Class<?> type, String property, long nanos) {
         if (nanos > SLOW_NANOS) {
             int strikes = nanos > TOO_SLOW_NANOS ? CHANCES : 1;
             STRIKES.computeIfAbsent(type, key -> new HashMap<>()).merge(property, strikes, Integer::sum);

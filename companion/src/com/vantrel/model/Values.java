@@ -28,7 +28,7 @@ import javax.swing.border.Border;
  * Values of any kind as one line of text. Calls no method that a program may have written: of an object of the
  * program's there is the class, and nothing else, for even its {@code toString} may do anything. For the event thread.
  */
-final class Values {
+public final class Values {
     /** What is longer than this is cut: nobody reads it in a cell, and measuring it takes time with every paint. */
     static final int LONGEST = 1000;
 
@@ -138,7 +138,7 @@ final class Values {
     }
 
     /** What was thrown, in one line; asks an exception of the program's for nothing but its class. */
-    static String error(Throwable thrown) {
+    public static String error(Throwable thrown) {
         String name = Code.shortName(thrown.getClass());
         if (Code.overrider(thrown.getClass(), "getMessage") != null) {
             return name;

@@ -18,6 +18,7 @@ import javax.swing.Timer;
 
 import com.vantrel.hooks.EventFilter;
 import com.vantrel.hooks.Hooks;
+import com.vantrel.model.Modality;
 import com.vantrel.model.Ours;
 import com.vantrel.model.Selection;
 
@@ -337,7 +338,7 @@ public final class Picker {
         }
         lastPointer = at;
         Window window = WindowAt.program(at);
-        if (window != null && (Modality.isBlocked(window) || hasLeft && isUnderPointer(window))) {
+        if (window != null && (Modality.blocker(window) != null || hasLeft && isUnderPointer(window))) {
             followOnScreen(window, at);
         } else if (hasLeft || window == null) {
             leave();
