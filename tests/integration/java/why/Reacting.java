@@ -24,7 +24,9 @@ import javax.swing.JPanel;
 import javax.swing.JTextField;
 import javax.swing.plaf.LayerUI;
 
-/** Components that do not react to the mouse or the keyboard. They lie in a FlowLayout, in the size that they prefer. */
+/**
+ * Components that do not react to the mouse or the keyboard. They lie in a FlowLayout, in the size that they prefer.
+ */
 final class Reacting {
     private Reacting() {
     }

@@ -12,6 +12,7 @@ import java.awt.Dimension;
 import java.awt.FlowLayout;
 import java.awt.Frame;
 import java.awt.GridLayout;
+import java.awt.Window;
 import java.beans.PropertyVetoException;
 import java.util.Map;
 import java.util.function.Function;
@@ -303,6 +304,7 @@ final class Seen {
         JWindow away = named("away", new JWindow(stage.frame));
         JLabel label = sized(named("label", new JLabel("text")));
         away.add(label);
+        away.setType(Window.Type.POPUP); // which window managers leave alone
         away.setBounds(9000, 10, 60, 20);
         stage.then(() -> away.setVisible(true));
         return label;

@@ -23,9 +23,9 @@ final class Closed {
         for (Component at = component; at != null; at = Around.parent(at)) {
             if (at instanceof JPopupMenu && !Facts.isVisible(at)) {
                 Component menu = menu((JPopupMenu) at);
-                return at == component && menu == null ? Sentence.of("It is closed.")
-                                                       : Sentence.of("It is in ", menu == null ? at : menu,
-                                                               ", which is closed.");
+                return at == component && menu == null
+                        ? Sentence.of("It is closed.")
+                        : Sentence.of("It is in ", menu == null ? at : menu, ", which is closed.");
             }
         }
         return null;

@@ -27,8 +27,8 @@ final class Covered {
             }
             Component over = over(at, parent, rest);
             if (over != null) {
-                return Sentence.of(over, " covers it: it is opaque, and lies in front of ",
-                        at == component ? "it" : at, " in ", parent, ".");
+                return Sentence.of(over, " covers it: it is opaque, and lies in front of ", at == component ? "it" : at,
+                        " in ", parent, ".");
             }
             Rectangle bounds = Facts.bounds(at);
             rest.translate(-bounds.x, -bounds.y);

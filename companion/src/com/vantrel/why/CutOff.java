@@ -34,8 +34,8 @@ final class CutOff {
         boolean isFlow = Facts.parent(component) == cutter && Managed.layout(cutter) instanceof FlowLayout;
         int height = Facts.bounds(cutter).height;
         if (isFlow && sight.inCutter.y >= height) {
-            return Sentence.of("It is cut off: FlowLayout has begun a new line for it, " + sight.inCutter.y
-                            + " below the top of ",
+            return Sentence.of(
+                    "It is cut off: FlowLayout has begun a new line for it, " + sight.inCutter.y + " below the top of ",
                     cutter, ", which is " + height + " high.");
         }
         return Sentence.of("It is cut off: it lies at " + sight.inCutter.x + ", " + sight.inCutter.y + " in ", cutter,

@@ -20,6 +20,7 @@ final class Detached {
         if (added.stack().isEmpty()) {
             return Sentence.of(Around.subject(top, component), " was added to nothing.");
         }
-        return Sentence.of(Around.subject(top, component), " was removed after ", Who.of(added.stack()), " had added it.");
+        return Sentence.of(
+                Around.subject(top, component), " was removed after ", Who.of(added.stack()), " had added it.");
     }
 }

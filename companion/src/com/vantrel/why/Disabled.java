@@ -24,8 +24,9 @@ final class Disabled {
             return Sentence.of("It is disabled", who, ".");
         }
         Object name = action.getValue(Action.NAME);
-        return Sentence.of("It is disabled, as its action" + (name instanceof String ? " \"" + name + "\"" : "") + " is",
-                who, ".");
+        return Sentence.of(
+                "It is disabled, as its action" + (name instanceof String ? " \"" + name + "\"" : "") + " is", who,
+                ".");
     }
 
     /** A component's action, where that can be asked; null for none. */

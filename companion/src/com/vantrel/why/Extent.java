@@ -50,8 +50,8 @@ final class Extent {
         if (wants == null) {
             return new Object[] {is};
         }
-        return new Object[] {is + (wants == Wants.PREFERRED ? ", as it prefers" : ", its " + wants.word),
-                wants.origin(component)};
+        return new Object[] {
+                is + (wants == Wants.PREFERRED ? ", as it prefers" : ", its " + wants.word), wants.origin(component)};
     }
 
     /** "as high as it prefers, 20, set by X", where the manager gives what is preferred. */

@@ -22,8 +22,8 @@ final class GridBags {
     static Sentence of(Component component, Container parent, GridBagLayout layout) throws IllegalAccessException {
         GridBagConstraints at = layout.getConstraints(component);
         Dimension is = Extent.size(component);
-        Object[] where = {Managed.of(layout, parent), "has it in column " + place(COLUMN, at, at.gridx) + ", row "
-                                                              + place(ROW, at, at.gridy) + ": "};
+        Object[] where = {Managed.of(layout, parent),
+                "has it in column " + place(COLUMN, at, at.gridx) + ", row " + place(ROW, at, at.gridy) + ": "};
         switch (at.fill) {
             case GridBagConstraints.BOTH:
                 return Sentence.of(where, "as large as its cell, ", Formats.write(is), ", by fill=BOTH.");

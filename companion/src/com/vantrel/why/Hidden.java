@@ -12,7 +12,9 @@ import com.vantrel.model.Cards;
 import com.vantrel.model.Code;
 import com.vantrel.model.Facts;
 
-/** Of what is invisible, or in something that is: the outermost of what is around it counts, for that hides the rest. */
+/**
+ * Of what is invisible, or in something that is: the outermost of what is around it counts, for that hides the rest.
+ */
 final class Hidden {
     private Hidden() {
     }
@@ -55,7 +57,8 @@ final class Hidden {
             int index = tabs.indexOfComponent(invisible);
             int front = tabs.getSelectedIndex();
             if (index >= 0 && front >= 0 && index != front) {
-                return Sentence.of(subject, " is ", tab(tabs, index), " of ", tabs, ", which shows ", tab(tabs, front), ".");
+                return Sentence.of(
+                        subject, " is ", tab(tabs, index), " of ", tabs, ", which shows ", tab(tabs, front), ".");
             }
         }
         return Sentence.of(subject, " is invisible", who, ".");

@@ -47,7 +47,9 @@ final class Intercepted {
         return null;
     }
 
-    /** What takes the mouse's events at a point of a component's container: it, or something in it; null for neither. */
+    /**
+     * What takes the mouse's events at a point of a component's container: it, or something in it; null for neither.
+     */
     private static Component taker(Component component, Point inParent) {
         Rectangle bounds = Facts.bounds(component);
         // What says itself where it is cannot be asked unasked.
@@ -69,8 +71,8 @@ final class Intercepted {
     }
 
     private static Object[] reason(Component taker) {
-        EventListener[][] all = {taker.getMouseListeners(), taker.getMouseMotionListeners(),
-                taker.getMouseWheelListeners()};
+        EventListener[][] all = {
+                taker.getMouseListeners(), taker.getMouseMotionListeners(), taker.getMouseWheelListeners()};
         for (EventListener[] listeners : all) {
             for (EventListener listener : listeners) {
                 if (!Code.isMachinery(listener.getClass())) {

@@ -64,8 +64,8 @@ final class Managed {
                     Extent.doesNotCount(component), ".");
         }
         if (layout instanceof BoxLayout) {
-            String axis = Managers.isHorizontal((BoxLayout) layout, parent) ? "from side to side"
-                                                                           : "from top to bottom";
+            String axis =
+                    Managers.isHorizontal((BoxLayout) layout, parent) ? "from side to side" : "from top to bottom";
             return Sentence.of("BoxLayout of ", parent, ", " + axis + ", ", Extent.clause(component), ".");
         }
         if (layout instanceof GroupLayout) {
@@ -106,7 +106,7 @@ final class Managed {
     /** The manager of a container; null for none, or where only the program's own code could tell. */
     static LayoutManager layout(Container container) {
         return container == null || Code.overrider(container.getClass(), "getLayout") != null ? null
-                                                                                             : container.getLayout();
+                                                                                              : container.getLayout();
     }
 
     /** Whether a manager lays out, or answers, by code of the program's. */

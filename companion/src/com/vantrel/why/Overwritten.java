@@ -20,7 +20,8 @@ final class Overwritten {
     static Sentence before(Component component) {
         LayoutManager layout = layout(component);
         boolean isLast = true;
-        for (Change change : layout == null ? java.util.Collections.<Change>emptyList() : ChangeRecorder.of(component)) {
+        for (Change change :
+                layout == null ? java.util.Collections.<Change>emptyList() : ChangeRecorder.of(component)) {
             if (change.what().equals(BOUNDS)) {
                 Who who = Who.of(change);
                 if (who.isSetter()) {

@@ -11,8 +11,8 @@ import java.util.Locale;
 /** BorderLayout: its regions, and what happens to a component whose region another one has taken. */
 final class Regions {
     /** Those that go from side to side, those that go from top to bottom, and what is left. */
-    private static final List<String> WIDE = Arrays.asList(
-            BorderLayout.NORTH, BorderLayout.SOUTH, BorderLayout.PAGE_START, BorderLayout.PAGE_END);
+    private static final List<String> WIDE =
+            Arrays.asList(BorderLayout.NORTH, BorderLayout.SOUTH, BorderLayout.PAGE_START, BorderLayout.PAGE_END);
     private static final List<String> HIGH =
             Arrays.asList(BorderLayout.WEST, BorderLayout.EAST, BorderLayout.LINE_START, BorderLayout.LINE_END);
     /** What the constants are called whose values are others. */
@@ -48,8 +48,8 @@ final class Regions {
 
     private static Object[] notLaidOut(Container parent, BorderLayout layout) {
         List<Object> parts = new ArrayList<>();
-        parts.addAll(Arrays.asList("is in no region of BorderLayout in ", parent,
-                ". Each holds only the last one that was added"));
+        parts.addAll(Arrays.asList(
+                "is in no region of BorderLayout in ", parent, ". Each holds only the last one that was added"));
         String separator = ": ";
         for (List<String> regions : Arrays.asList(WIDE, HIGH, Arrays.asList(BorderLayout.CENTER))) {
             for (String region : regions) {

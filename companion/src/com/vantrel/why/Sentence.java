@@ -48,7 +48,8 @@ public final class Sentence {
     /**
      * Makes a sentence of its parts, in their order.
      *
-     * @param parts components, which are told by their short path, {@link Who}, arrays of such parts, and other objects,
+     * @param parts components, which are told by their short path, {@link Who}, arrays of such parts, and other
+     *         objects,
      *              which are told by their own text
      */
     static Sentence of(Object... parts) {

@@ -21,7 +21,7 @@ final class Splits {
             return Sentence.of("It is the divider of ", split, ", which is at " + split.getDividerLocation() + ".");
         }
         String side = across ? first ? "left of" : "right of" : first ? "above" : "below";
-        return Sentence.of(
-                split, " gives it all that lies " + side + " its divider, which is at " + split.getDividerLocation() + ".");
+        return Sentence.of(split,
+                " gives it all that lies " + side + " its divider, which is at " + split.getDividerLocation() + ".");
     }
 }

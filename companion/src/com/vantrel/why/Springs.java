@@ -39,7 +39,8 @@ final class Springs {
         }
         String size = Extent.text(component);
         return parts.isEmpty()
-                ? Sentence.of(Managed.of(layout, parent), "makes it ", size, ": it tells only the values of its springs.")
+                ? Sentence.of(
+                        Managed.of(layout, parent), "makes it ", size, ": it tells only the values of its springs.")
                 : Sentence.of(Managed.of(layout, parent), "ties ", parts.toArray(), ", which makes it ", size, ".");
     }
 

@@ -11,7 +11,9 @@ import javax.swing.GroupLayout;
 import com.vantrel.model.Groups;
 import com.vantrel.model.MigLayouts;
 
-/** Managers that work out sizes from much that they were told: GroupLayout and MigLayout. What they were told is said. */
+/**
+ * Managers that work out sizes from much that they were told: GroupLayout and MigLayout. What they were told is said.
+ */
 final class Told {
     private Told() {
     }
@@ -21,8 +23,7 @@ final class Told {
                 group(layout, component, false), ".");
     }
 
-    private static Object[] group(GroupLayout layout, Component component, boolean wide)
-            throws IllegalAccessException {
+    private static Object[] group(GroupLayout layout, Component component, boolean wide) throws IllegalAccessException {
         String told = Groups.told(layout, component, wide);
         String is = Extent.along(Extent.size(component), wide) + (wide ? " wide" : " high");
         return told.isEmpty() ? Extent.clause(component, wide) : new Object[] {is + ", for which it was told " + told};

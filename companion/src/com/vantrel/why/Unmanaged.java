@@ -15,7 +15,7 @@ final class Unmanaged {
     static Sentence of(Component component, Container parent) {
         Who who = Who.last(component, "bounds");
         return who == null ? Sentence.of(parent, " has no layout manager: its bounds were set, to ",
-                                     Formats.write(Facts.bounds(component)), ".")
+                       Formats.write(Facts.bounds(component)), ".")
                            : Sentence.of(parent, " has no layout manager: ", who, " set its bounds.");
     }
 

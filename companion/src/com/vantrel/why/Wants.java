@@ -95,8 +95,7 @@ enum Wants {
         }
         boolean isFilled = component instanceof Container && Facts.children(component).length > 0;
         boolean hasLayout = isFilled && Managed.layout((Container) component) != null;
-        return new Object[] {hasLayout
-                        ? ", computed by its own " + Managers.name(Managed.layout((Container) component))
-                        : ", computed"};
+        return new Object[] {hasLayout ? ", computed by its own " + Managers.name(Managed.layout((Container) component))
+                                       : ", computed"};
     }
 }

@@ -23,7 +23,7 @@ final class Weights {
                 }
             }
         }
-        return Sentence.of("All weights of GridBagLayout in ", parent,
-                " are 0, so that its cells stay together in the middle.");
+        return Sentence.of(
+                "All weights of GridBagLayout in ", parent, " are 0, so that its cells stay together in the middle.");
     }
 }

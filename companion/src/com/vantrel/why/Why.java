@@ -13,17 +13,17 @@ import com.vantrel.model.Values;
  */
 public final class Why {
     /** Why it is not there to be seen. What is not there needs no other reason for anything. */
-    private static final List<Rule> HIDDEN =
-            Arrays.asList(Rule.first(Renderers::of, Closed::of, Detached::of, Hidden::of, Minimised::of), Hidden::itself);
+    private static final List<Rule> HIDDEN = Arrays.asList(
+            Rule.first(Renderers::of, Closed::of, Detached::of, Hidden::of, Minimised::of), Hidden::itself);
 
     /** Why there is nothing of it to be seen, and with that why it has this size. */
     private static final List<Rule> EMPTY = Arrays.asList(NoSize::of);
 
     /** The rest: what keeps it out of sight or from reacting, and what decides its size and place. */
-    private static final List<Rule> OTHERS = Arrays.asList(Modal::of,
-            Rule.first(OffScreen::of, CutOff::of, Covered::of, Intercepted::of), Layers::of, Disabled::of,
-            NobodyListens::of, NotEditable::of, NotFocusable::of, Overwritten::before,
-            Rule.first(Overwritten::after, Managed::of), Weights::of, Alignments::of);
+    private static final List<Rule> OTHERS =
+            Arrays.asList(Modal::of, Rule.first(OffScreen::of, CutOff::of, Covered::of, Intercepted::of), Layers::of,
+                    Disabled::of, NobodyListens::of, NotEditable::of, NotFocusable::of, Overwritten::before,
+                    Rule.first(Overwritten::after, Managed::of), Weights::of, Alignments::of);
 
     private Why() {
     }
