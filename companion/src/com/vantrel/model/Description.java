@@ -8,7 +8,7 @@ import java.awt.Window;
 import java.util.ArrayList;
 import java.util.List;
 
-import javax.swing.JPanel;
+import javax.swing.JLayeredPane;
 
 import com.vantrel.stacktrace.StackTraceManager;
 
@@ -53,7 +53,8 @@ public final class Description {
 
     /**
      * A component in as few words as tell it from others: {@code JPanel "form"}, or {@code JPanel "form" > JLabel[2]}
-     * where it has no name itself; a window by its title, and its content pane as that.
+     * where it has no name itself and is of no class of the program; a window by its title, and its content pane as
+     * that.
      */
     public static String shortPath(Component component) {
         Container parent = Facts.parent(component);
@@ -64,12 +65,15 @@ public final class Description {
         if (component instanceof Window || parent == null) {
             return label(component);
         }
-        if (Machinery.of(component, parent) == Machinery.BETWEEN && component instanceof JPanel) {
+        if (Machinery.of(component, parent) == Machinery.BETWEEN && parent instanceof JLayeredPane) {
             return "the content pane of " + shortPath(owner(component));
         }
-        String own = label(component);
-        return Facts.name(component) == null ? shortPath(owner(component)) + " > " + own + '[' + number(component) + ']'
-                                             : own;
+        if (Facts.name(component) != null) {
+            return label(component);
+        }
+        String own = label(component) + '[' + number(component) + ']';
+        boolean saysMuch = ClassFacts.of(component.getClass()).isPrograms();
+        return saysMuch ? own : shortPath(owner(component)) + " > " + own;
     }
 
     /** The nearest container around a component that is not machinery. */

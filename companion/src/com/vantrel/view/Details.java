@@ -30,11 +30,13 @@ import com.vantrel.model.Selection;
 import com.vantrel.model.SetBy;
 import com.vantrel.model.Target;
 import com.vantrel.record.SetBys;
+import com.vantrel.why.Sentence;
+import com.vantrel.why.Why;
 
 /**
- * All that there is to know of the selected component, on the right of the window: a header, and a tab each for its
- * properties, layout, where it was added, changes, listeners and keys. Reads while it shows, and only what is selected
- * and in front; drops all of it when the selection is cleared. Belongs to the event thread.
+ * All that there is to know of the selected component, on the right of the window: a header, why it is so, and a tab
+ * each for its properties, layout, where it was added, changes, listeners and keys. Reads while it shows, and only what
+ * is selected and in front; drops all of it when the selection is cleared. Belongs to the event thread.
  */
 public final class Details extends JPanel {
     private static final long serialVersionUID = 1L;
@@ -52,12 +54,15 @@ public final class Details extends JPanel {
     private final RowsPanel listeners = new RowsPanel("vantrel.listeners", "Filter listeners");
     private final KeysPanel keys;
     private final ChangesPanel changes;
+    private final WhyPane why;
+    private transient Consumer<Editor.Outcome> elsewhere = outcome -> {};
     private final JButton readAll = new JButton("Read all");
     private final Timer readings = new Timer(MILLIS_BETWEEN_READINGS, event -> read());
     private transient Reading reading;
     /** Whether what is shown is the selection's from before, so that what differs has changed. */
     private boolean shown;
     private int count;
+    private int whyCount;
 
     /**
      * @param selection what is shown, and written to by a click on a sibling
@@ -69,6 +74,8 @@ public final class Details extends JPanel {
         this.selection = selection;
         this.edits = edits;
         header = new Header(openWhere);
+        why = new WhyPane(selection::select, line -> OpenLine.open(line, outcome -> elsewhere.accept(outcome)));
+        header.addBelow(why);
         layout = new LayoutPanel(selection, () -> reading, edits, this::showReading);
         keys = new KeysPanel(selection);
         changes = new ChangesPanel(selection);
@@ -103,6 +110,7 @@ public final class Details extends JPanel {
 
     /** Has what became of an attempt to open a line told to somebody else, too, while its tab does not show. */
     void onOutcome(Consumer<Editor.Outcome> listener) {
+        elsewhere = listener;
         changes.onOutcome(listener);
     }
 
@@ -155,6 +163,7 @@ public final class Details extends JPanel {
         reading = target == null ? null : new Reading(target);
         shown = false;
         count = 0;
+        whyCount = 0;
         keys.forget();
         listeners.show(Collections.emptyList(), false);
         readAll.setEnabled(false);
@@ -186,6 +195,10 @@ public final class Details extends JPanel {
 
     private void showReading() {
         header.show(reading);
+        if (reading == null || whyCount++ % READINGS_BETWEEN_SEARCHES == 0) {
+            Component component = reading == null || reading.target().isCell() ? null : selection.component();
+            why.show(component == null ? Collections.<Sentence>emptyList() : Why.of(component));
+        }
         readAll.setEnabled(reading != null && !reading.unasked().isEmpty());
         showInFront(shown);
         shown = reading != null;

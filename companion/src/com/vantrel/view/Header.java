@@ -72,6 +72,11 @@ final class Header extends JPanel {
         }
     }
 
+    /** Adds something below the lines. */
+    void addBelow(Component part) {
+        add(part, BorderLayout.SOUTH);
+    }
+
     /** @param reading null for nothing */
     void show(Reading reading) {
         Component component = reading == null ? null : reading.target().component();

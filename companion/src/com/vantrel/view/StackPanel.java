@@ -189,10 +189,8 @@ final class StackPanel extends JPanel {
     private void open(StackTraceElement line) {
         if (line == null) {
             tell(new Editor.Outcome(whyNoWhere, true));
-        } else if (Editor.isSet()) {
-            Editor.open(line, outcome -> SwingUtilities.invokeLater(() -> tell(outcome)));
         } else {
-            copy(CallSite.link(line), "no editor is set, so the line was copied");
+            OpenLine.open(line, this::tell);
         }
     }
 
@@ -211,8 +209,7 @@ final class StackPanel extends JPanel {
     }
 
     private void copy(String text, String done) {
-        boolean works = Clip.copy(text);
-        tell(new Editor.Outcome(works ? done : "the clipboard is busy: another program holds it; try again", !works));
+        OpenLine.copy(text, done, this::tell);
     }
 
     private void tell(Editor.Outcome outcome) {

@@ -21,6 +21,6 @@ final class Detached {
             return Sentence.of(Around.subject(top, component), " was added to nothing.");
         }
         return Sentence.of(
-                Around.subject(top, component), " was removed after ", Who.of(added.stack()), " had added it.");
+                Around.subject(top, component), " was removed after ", Who.of(top, added.stack()), " had added it.");
     }
 }

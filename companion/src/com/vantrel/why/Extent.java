@@ -40,6 +40,9 @@ final class Extent {
         if (width != null && width == wanted(component, false)) {
             return new Object[] {"gives it its " + width.word + " size, " + text(component), width.origin(component)};
         }
+        if (width == null && wanted(component, false) == null) {
+            return new Object[] {"makes it ", text(component)};
+        }
         return new Object[] {"makes it ", clause(component, true), ", and ", clause(component, false)};
     }
 

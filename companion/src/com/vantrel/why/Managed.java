@@ -12,6 +12,7 @@ import java.awt.Window;
 
 import javax.swing.BoxLayout;
 import javax.swing.GroupLayout;
+import javax.swing.JLayer;
 import javax.swing.JScrollPane;
 import javax.swing.JSplitPane;
 import javax.swing.JTabbedPane;
@@ -35,6 +36,10 @@ final class Managed {
         LayoutManager layout = layout(parent);
         if (parent == null) {
             return null;
+        }
+        if (parent instanceof JLayer) {
+            return Sentence.of(
+                    parent, " gives it all its room, ", Extent.text(component), Extent.doesNotCount(component), ".");
         }
         if (layout == null) {
             return Unmanaged.of(component, parent);

@@ -23,7 +23,7 @@ final class Overwritten {
         for (Change change :
                 layout == null ? java.util.Collections.<Change>emptyList() : ChangeRecorder.of(component)) {
             if (change.what().equals(BOUNDS)) {
-                Who who = Who.of(change);
+                Who who = Who.of(component, change);
                 if (who.isSetter()) {
                     return isLast ? null
                                   : Sentence.of(who, " set its bounds, and ", Managers.name(layout), " of ",

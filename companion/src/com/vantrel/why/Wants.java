@@ -3,6 +3,16 @@ package com.vantrel.why;
 import java.awt.Component;
 import java.awt.Container;
 import java.awt.Dimension;
+import java.awt.LayoutManager;
+
+import javax.swing.Box;
+import javax.swing.JComponent;
+import javax.swing.JInternalFrame;
+import javax.swing.JMenuBar;
+import javax.swing.JPanel;
+import javax.swing.JRootPane;
+import javax.swing.JScrollPane;
+import javax.swing.JToolBar;
 
 import com.vantrel.model.Code;
 import com.vantrel.model.Facts;
@@ -45,6 +55,9 @@ enum Wants {
         }
     };
 
+    private static final Class<?>[] LEFT_TO_LAYOUT = {JPanel.class, Box.class, JScrollPane.class, JRootPane.class,
+            JToolBar.class, JMenuBar.class, JInternalFrame.class};
+
     final String word;
     private final String property;
     private final String getter;
@@ -83,6 +96,15 @@ enum Wants {
         return Code.overrider(component.getClass(), asked) == null && asksSet(component);
     }
 
+    /** Whether a component leaves its sizes to its layout, and not to what the look and feel makes of its class. */
+    private static boolean isComputedByLayout(Component component) {
+        boolean isPlain = !(component instanceof JComponent);
+        for (Class<?> type : LEFT_TO_LAYOUT) {
+            isPlain |= type.isInstance(component);
+        }
+        return isPlain && component instanceof Container && Facts.children(component).length > 0;
+    }
+
     /** Parts that say where it comes from, such as ", set by X"; for the end of a clause. */
     Object[] origin(Component component) {
         Class<?> overrider = Code.overrider(component.getClass(), getter);
@@ -93,9 +115,7 @@ enum Wants {
             Who who = Who.last(component, property);
             return who == null ? new Object[] {", which was set"} : new Object[] {", set by ", who};
         }
-        boolean isFilled = component instanceof Container && Facts.children(component).length > 0;
-        boolean hasLayout = isFilled && Managed.layout((Container) component) != null;
-        return new Object[] {hasLayout ? ", computed by its own " + Managers.name(Managed.layout((Container) component))
-                                       : ", computed"};
+        LayoutManager layout = isComputedByLayout(component) ? Managed.layout((Container) component) : null;
+        return new Object[] {layout == null ? ", computed" : ", computed by its own " + Managers.name(layout)};
     }
 }

@@ -16,29 +16,31 @@ final class Who {
     /** The methods of the toolkit through which all calls that set bounds go. */
     private static final Set<String> SETTERS = new HashSet<>(Arrays.asList(
             "reshape", "setBounds", "setSize", "resize", "setLocation", "move", "setVisible", "setLocationRelativeTo"));
-    private static final Set<String> LAYOUTS = new HashSet<>(Arrays.asList("layoutContainer", "doLayout"));
+    private static final Set<String> LAYING_OUT = new HashSet<>(Arrays.asList("layoutContainer", "doLayout"));
 
+    private final Class<?> type;
     private final CallStack stack;
     private final boolean isOurs;
 
-    private Who(CallStack stack, boolean isOurs) {
+    private Who(Component of, CallStack stack, boolean isOurs) {
+        type = of.getClass();
         this.stack = stack;
         this.isOurs = isOurs;
     }
 
     /** @param stack of the thread that has done it */
-    static Who of(CallStack stack) {
-        return new Who(stack, false);
+    static Who of(Component component, CallStack stack) {
+        return new Who(component, stack, false);
     }
 
-    static Who of(Change change) {
-        return new Who(change.stack(), change.isOurs());
+    static Who of(Component component, Change change) {
+        return new Who(component, change.stack(), change.isOurs());
     }
 
     /** Who has set a property last; null if that was not recorded. */
     static Who last(Component component, String property) {
         Change change = ChangeRecorder.last(component, property);
-        return change == null ? null : of(change);
+        return change == null ? null : of(component, change);
     }
 
     /** Parts that add to a sentence who has done it, such as ": X hid it"; none if it was not recorded. */
@@ -47,15 +49,53 @@ final class Who {
         return who == null ? new Object[0] : new Object[] {": ", who, " " + what};
     }
 
-    /** The line of the program; null if it was somebody else's doing. */
+    /**
+     * The line of the program; null if it was somebody else's doing, or that of a layout which the program had done.
+     */
     StackTraceElement line() {
-        return isOurs ? null : stack.where();
+        if (isOurs || manager() != null) {
+            return null;
+        }
+        String inner = "";
+        for (StackTraceElement call : stack.lines()) {
+            if (CallSite.isProgram(call) && !(call.getMethodName().equals(inner) && isOwn(call))) {
+                return call;
+            }
+            inner = call.getMethodName();
+        }
+        return stack.where();
+    }
+
+    /**
+     * Whether a call is of the component's own class: a setter there that hands on to the one that it overrides has not
+     * thought of it itself.
+     */
+    private boolean isOwn(StackTraceElement call) {
+        for (Class<?> at = type; at != null; at = at.getSuperclass()) {
+            if (at.getName().equals(call.getClassName())) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    /** The call of the toolkit's manager that has done it while it laid out; null for none. */
+    private StackTraceElement manager() {
+        for (StackTraceElement call : stack.lines()) {
+            if (CallSite.isProgram(call)) {
+                return null;
+            }
+            if (LAYING_OUT.contains(call.getMethodName())) {
+                return call;
+            }
+        }
+        return null;
     }
 
     /** Whether the program has set bounds itself, as against a layout that it has had done. */
     boolean isSetter() {
         List<StackTraceElement> calls = stack.lines();
-        if (line() == null || calls.stream().anyMatch(call -> LAYOUTS.contains(call.getMethodName()))) {
+        if (line() == null || calls.stream().anyMatch(call -> LAYING_OUT.contains(call.getMethodName()))) {
             return false;
         }
         for (StackTraceElement call : calls) {
@@ -77,6 +117,13 @@ final class Who {
 
     @Override
     public String toString() {
-        return line() != null ? CallSite.summary(line()) : isOurs ? "you, in this window," : "the toolkit";
+        if (isOurs) {
+            return "you, in this window,";
+        }
+        if (manager() != null) {
+            String type = manager().getClassName();
+            return type.substring(type.lastIndexOf('.') + 1).replace('$', '.');
+        }
+        return line() != null ? CallSite.summary(line()) : "the toolkit";
     }
 }
