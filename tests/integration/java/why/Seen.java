@@ -8,6 +8,7 @@ import static why.Stage.sized;
 import java.awt.BorderLayout;
 import java.awt.CardLayout;
 import java.awt.Component;
+import java.awt.Container;
 import java.awt.Dimension;
 import java.awt.FlowLayout;
 import java.awt.Frame;
@@ -19,6 +20,7 @@ import java.util.function.Function;
 
 import javax.swing.CellRendererPane;
 import javax.swing.JButton;
+import javax.swing.JComboBox;
 import javax.swing.JDesktopPane;
 import javax.swing.JDialog;
 import javax.swing.JInternalFrame;
@@ -51,6 +53,7 @@ final class Seen {
         cases.put("on another tab", Seen::tab);
         cases.put("in a closed menu", Seen::menu);
         cases.put("in a closed popup", Seen::popup);
+        cases.put("in a closed combo box", Seen::comboBox);
         cases.put("in an icon", Seen::icon);
         cases.put("never added", Seen::neverAdded);
         cases.put("removed", Seen::removed);
@@ -171,6 +174,14 @@ final class Seen {
         popup.add(item);
         stage.panel.setComponentPopupMenu(popup);
         return item;
+    }
+
+    private static Component comboBox(Stage stage) {
+        JComboBox<String> box = named("box", new JComboBox<>(new String[] {"one"}));
+        stage.set(new FlowLayout(), box);
+        stage.then(box::showPopup);
+        stage.then(box::hidePopup);
+        return ((Container) box.getUI().getAccessibleChild(box, 0)).getComponent(0);
     }
 
     private static Component icon(Stage stage) {

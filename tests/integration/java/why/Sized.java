@@ -43,6 +43,7 @@ final class Sized {
         cases.put("flow, set too late", Sized::flowLate);
         cases.put("flow, bounds overwritten", Sized::overwritten);
         cases.put("border, north", Sized::north);
+        cases.put("border, set too late", Sized::northLate);
         cases.put("border, center", Sized::center);
         cases.put("grid", Sized::grid);
         cases.put("card", Sized::card);
@@ -117,6 +118,12 @@ final class Sized {
         JButton button = sized(button("ok"));
         stage.panel.setLayout(new BorderLayout());
         stage.panel.add(button, BorderLayout.NORTH);
+        return button;
+    }
+
+    private static Component northLate(Stage stage) {
+        Component button = north(stage);
+        stage.then(() -> button.setPreferredSize(new Dimension(90, 40)));
         return button;
     }
 

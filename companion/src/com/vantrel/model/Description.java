@@ -15,6 +15,7 @@ import com.vantrel.stacktrace.StackTraceManager;
 /** A component in words, to paste into a report or a script. Runs nothing of the program. For the event thread. */
 public final class Description {
     private static final int MOST_FRAMES = 12;
+    private static final int MOST_WORDS = 4;
 
     private Description() {
     }
@@ -57,23 +58,40 @@ public final class Description {
      * that.
      */
     public static String shortPath(Component component) {
+        List<String> words = new ArrayList<>();
+        Component at = component;
+        while (!saysEnough(at)) {
+            words.add(0, label(at) + '[' + number(at) + ']');
+            at = owner(at);
+        }
+        words.add(0, words(at));
+        if (words.size() > MOST_WORDS) {
+            words.subList(1, words.size() - MOST_WORDS + 2).clear();
+            words.add(1, "\u2026");
+        }
+        return String.join(" > ", words);
+    }
+
+    /** Whether a component need not be told from its siblings by what it is in. */
+    private static boolean saysEnough(Component component) {
+        return component instanceof Window || Facts.parent(component) == null || Facts.name(component) != null
+                || ClassFacts.of(component.getClass()).isPrograms();
+    }
+
+    private static String words(Component component) {
         Container parent = Facts.parent(component);
-        String title = component instanceof Window && Facts.name(component) == null ? Facts.text(component) : null;
+        boolean isWindow = component instanceof Window;
+        String title = isWindow && Facts.name(component) == null ? Facts.text(component) : null;
         if (title != null) {
             return label(component) + " titled \"" + title + "\"";
         }
-        if (component instanceof Window || parent == null) {
+        if (isWindow || parent == null) {
             return label(component);
         }
         if (Machinery.of(component, parent) == Machinery.BETWEEN && parent instanceof JLayeredPane) {
             return "the content pane of " + shortPath(owner(component));
         }
-        if (Facts.name(component) != null) {
-            return label(component);
-        }
-        String own = label(component) + '[' + number(component) + ']';
-        boolean saysMuch = ClassFacts.of(component.getClass()).isPrograms();
-        return saysMuch ? own : shortPath(owner(component)) + " > " + own;
+        return Facts.name(component) != null ? label(component) : label(component) + '[' + number(component) + ']';
     }
 
     /** The nearest container around a component that is not machinery. */

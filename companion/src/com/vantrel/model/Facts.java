@@ -8,6 +8,7 @@ import java.awt.Container;
 import java.awt.Dialog;
 import java.awt.Frame;
 import java.awt.Label;
+import java.awt.LayoutManager;
 import java.awt.Rectangle;
 import java.awt.TextComponent;
 import java.awt.Window;
@@ -102,6 +103,12 @@ public final class Facts {
 
     public static boolean isVisible(Component component) {
         return toolkits(component, "isVisible") ? component.isVisible() : (Boolean) Fields.VISIBLE.of(component, true);
+    }
+
+    /** A container's layout manager; null for none. */
+    public static LayoutManager layout(Container container) {
+        return toolkits(container, "getLayout") ? container.getLayout()
+                                                : (LayoutManager) Fields.LAYOUT.of(container, null);
     }
 
     /** Whether nothing in a container has changed since it was laid out. */

@@ -24,6 +24,7 @@ final class Fields {
     static final Fields WIDTH = new Fields(Component.class, "width");
     static final Fields HEIGHT = new Fields(Component.class, "height");
     static final Fields CHILDREN = new Fields(java.awt.Container.class, "component");
+    static final Fields LAYOUT = new Fields(java.awt.Container.class, "layoutMgr");
     static final Fields LABEL_TEXT = new Fields(javax.swing.JLabel.class, "text");
     static final Fields BUTTON_TEXT = new Fields(javax.swing.AbstractButton.class, "text");
     static final Fields FRAME_TITLE = new Fields(java.awt.Frame.class, "title");

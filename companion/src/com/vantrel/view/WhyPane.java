@@ -38,6 +38,8 @@ import com.vantrel.why.Sentence;
  */
 final class WhyPane extends JPanel {
     private static final long serialVersionUID = 1L;
+    /** Always there, so that what lies below does not move with every other selection. */
+    private static final int LEAST_LINES = 2;
     private static final int MOST_LINES = 6;
 
     private final JTextPane text = new Text();
@@ -66,7 +68,6 @@ final class WhyPane extends JPanel {
         setOpaque(false);
         add(scroll);
         look();
-        setVisible(false);
         MouseInputAdapter mouse = new MouseInputAdapter() {
             @Override
             public void mouseMoved(MouseEvent event) {
@@ -112,10 +113,9 @@ final class WhyPane extends JPanel {
         }
     }
 
-    /** Shows sentences; none hide the pane. */
+    /** Shows sentences; none are shown by nothing. */
     void show(List<Sentence> sentences) {
         shown = sentences;
-        setVisible(!sentences.isEmpty());
         StringBuilder all = new StringBuilder();
         for (Sentence sentence : sentences) {
             all.append(all.length() == 0 ? "" : "\n").append(sentence);
@@ -202,9 +202,9 @@ final class WhyPane extends JPanel {
     public Dimension getPreferredSize() {
         int width = getWidth() > 0 ? getWidth() : getParent() == null ? 0 : getParent().getWidth();
         text.setSize(Math.max(1, width), Short.MAX_VALUE);
-        int most = MOST_LINES * text.getFontMetrics(Look.font()).getHeight();
-        int above = getInsets().top + getInsets().bottom;
-        return new Dimension(10, Math.min(text.getPreferredSize().height, most) + above);
+        int line = text.getFontMetrics(Look.font()).getHeight();
+        int height = Math.max(LEAST_LINES * line, Math.min(MOST_LINES * line, text.getPreferredSize().height));
+        return new Dimension(10, height + getInsets().top + getInsets().bottom);
     }
 
     @Override

@@ -2,6 +2,7 @@ package com.vantrel.why;
 
 import java.awt.Component;
 
+import javax.swing.JComboBox;
 import javax.swing.JInternalFrame;
 import javax.swing.JMenu;
 import javax.swing.JPopupMenu;
@@ -22,18 +23,24 @@ final class Closed {
         }
         for (Component at = component; at != null; at = Around.parent(at)) {
             if (at instanceof JPopupMenu && !Facts.isVisible(at)) {
-                Component menu = menu((JPopupMenu) at);
-                return at == component && menu == null
+                return at == component && invoker((JPopupMenu) at) == null
                         ? Sentence.of("It is closed.")
-                        : Sentence.of("It is in ", menu == null ? at : menu, ", which is closed.");
+                        : Sentence.of("It is in ", name((JPopupMenu) at), ", which is closed.");
             }
         }
         return null;
     }
 
-    /** The menu whose popup it is, which its user knows by that name; null for none. */
-    private static Component menu(JPopupMenu popup) {
+    /** What its user knows a popup by: the menu or combo box that opens it, or else itself. */
+    private static Object[] name(JPopupMenu popup) {
+        Component invoker = invoker(popup);
+        return invoker instanceof JMenu ? new Object[] {invoker}
+                : invoker == null       ? new Object[] {popup}
+                                        : new Object[] {"the popup of ", invoker};
+    }
+
+    private static Component invoker(JPopupMenu popup) {
         Component invoker = Code.overrider(popup.getClass(), "getInvoker") == null ? popup.getInvoker() : null;
-        return invoker instanceof JMenu ? invoker : null;
+        return invoker instanceof JMenu || invoker instanceof JComboBox ? invoker : null;
     }
 }

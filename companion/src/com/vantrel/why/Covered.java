@@ -53,6 +53,7 @@ final class Covered {
         if (component instanceof JComponent) {
             return Code.overrider(component.getClass(), "isOpaque") == null && component.isOpaque();
         }
-        return !(component instanceof Window) && !component.isLightweight();
+        return !(component instanceof Window) && Code.overrider(component.getClass(), "isLightweight") == null
+                && !component.isLightweight();
     }
 }

@@ -59,8 +59,15 @@ final class Extent {
 
     /** "as high as it prefers, 20, set by X", where the manager gives what is preferred. */
     static Object[] preferred(Component component, boolean wide) {
-        return new Object[] {(wide ? "as wide" : "as high") + " as it prefers, " + along(size(component), wide),
-                Wants.PREFERRED.origin(component)};
+        String how = wide ? "as wide" : "as high";
+        int is = along(size(component), wide);
+        Dimension preferred = Wants.PREFERRED.of(component);
+        if (preferred != null && along(preferred, wide) != is) {
+            return new Object[] {how + " as it preferred when it was laid out, " + is + ", where it prefers "
+                            + along(preferred, wide) + " now",
+                    Wants.PREFERRED.origin(component)};
+        }
+        return new Object[] {how + " as it prefers, " + is, Wants.PREFERRED.origin(component)};
     }
 
     /** "; its preferred size, 60 × 20, set by X, does not count"; nothing where the program has set none. */

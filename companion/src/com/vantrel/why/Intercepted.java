@@ -71,6 +71,9 @@ final class Intercepted {
     }
 
     private static Object[] reason(Component taker) {
+        if (Code.getterOverrider(taker.getClass()) != null) {
+            return new Object[0];
+        }
         EventListener[][] all = {
                 taker.getMouseListeners(), taker.getMouseMotionListeners(), taker.getMouseWheelListeners()};
         for (EventListener[] listeners : all) {

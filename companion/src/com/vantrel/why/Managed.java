@@ -20,6 +20,7 @@ import javax.swing.JViewport;
 import javax.swing.SpringLayout;
 
 import com.vantrel.model.Code;
+import com.vantrel.model.Facts;
 import com.vantrel.model.Managers;
 import com.vantrel.model.MigLayouts;
 
@@ -108,10 +109,9 @@ final class Managed {
         return new Object[] {Managers.name(layout), " of ", parent, " "};
     }
 
-    /** The manager of a container; null for none, or where only the program's own code could tell. */
+    /** The manager of a container; null for none. */
     static LayoutManager layout(Container container) {
-        return container == null || Code.overrider(container.getClass(), "getLayout") != null ? null
-                                                                                              : container.getLayout();
+        return container == null ? null : Facts.layout(container);
     }
 
     /** Whether a manager lays out, or answers, by code of the program's. */

@@ -6,6 +6,8 @@ import java.util.EventListener;
 
 import javax.swing.AbstractButton;
 import javax.swing.JMenu;
+import javax.swing.ButtonModel;
+import javax.swing.DefaultButtonModel;
 import javax.swing.JCheckBoxMenuItem;
 import javax.swing.JRadioButtonMenuItem;
 import javax.swing.JToggleButton;
@@ -29,16 +31,31 @@ final class NobodyListens {
         if (!canTell || button.getActionListeners().length != 0) {
             return null; // an action listens, too
         }
-        EventListener[][] others = {button.getChangeListeners(), button.getItemListeners(), button.getMouseListeners(),
-                button.getKeyListeners()};
-        for (EventListener[] listeners : others) {
-            for (EventListener listener : listeners) {
-                if (!Code.isMachinery(listener.getClass())) {
-                    return null;
-                }
-            }
+        if (hasPrograms(button.getChangeListeners()) || hasPrograms(button.getItemListeners())
+                || hasPrograms(button.getMouseListeners()) || hasPrograms(button.getKeyListeners())
+                || hasListeners(button.getModel())) {
+            return null;
         }
         return Sentence.of("Pressing it does nothing: it has no action, and nobody listens to it.");
+    }
+
+    private static boolean hasPrograms(EventListener[] listeners) {
+        for (EventListener listener : listeners) {
+            if (!Code.isMachinery(listener.getClass())) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    /** Whether the program listens to a button's model, or might, where the model is the program's own. */
+    private static boolean hasListeners(ButtonModel model) {
+        if (model == null || !Code.isToolkit(model.getClass()) || !(model instanceof DefaultButtonModel)) {
+            return model != null;
+        }
+        DefaultButtonModel all = (DefaultButtonModel) model;
+        return hasPrograms(all.getActionListeners()) || hasPrograms(all.getItemListeners())
+                || hasPrograms(all.getChangeListeners());
     }
 
     private static boolean isButton(Component component) {

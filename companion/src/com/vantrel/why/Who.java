@@ -14,8 +14,8 @@ import com.vantrel.record.ChangeRecorder;
 /** Who has changed something, as far as that was recorded: a line of the program, the toolkit, or the inspector. */
 final class Who {
     /** The methods of the toolkit through which all calls that set bounds go. */
-    private static final Set<String> SETTERS = new HashSet<>(Arrays.asList(
-            "reshape", "setBounds", "setSize", "resize", "setLocation", "move", "setVisible", "setLocationRelativeTo"));
+    private static final Set<String> SETTERS =
+            new HashSet<>(Arrays.asList("reshape", "setBounds", "setSize", "resize", "setLocation", "move"));
     private static final Set<String> LAYING_OUT = new HashSet<>(Arrays.asList("layoutContainer", "doLayout"));
 
     private final Class<?> type;
