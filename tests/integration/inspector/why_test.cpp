@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <map>
 #include <regex>
@@ -74,23 +75,29 @@ Table parse(std::istream& in, std::string (*complete)(std::string)) {
     return table;
 }
 
-class Why : public OnEachJdk {};
+class Why : public OnEachJdk {
+  protected:
+    // Plays cases under the agent, all if none is named, and returns what was told of each.
+    Table play(const Arguments& options, const Arguments& names = {}) {
+        const std::string class_path = (kTestFolder / "why-cases.jar").string() + ":" VANTREL_MIGLAYOUT_JARS;
+        const Arguments all = options + Arguments{"-XX:TieredStopAtLevel=1", "-cp", class_path, "why.Cases"} + names;
+        const Finished finished =
+            run(java_under_agent(GetParam(), all), {.folder = folder.path, .environment = {x.display()}});
+        EXPECT_EQ(finished.status, 0);
+        EXPECT_EQ(finished.err, kAgentErr);
+        EXPECT_TRUE(finished.out.starts_with(kAgentOut)) << finished.out;
+        std::istringstream out(finished.out.substr(std::min(kAgentOut.size(), finished.out.size())));
+        return parse(out, [](std::string sentence) { return with_code(sentence); });
+    }
+
+    const ScratchFolder folder;
+    const XServer x{{"-screen", "0", "1280x900x24"}};
+    const WindowManager manager{x};
+};
 ON_EACH_JDK(Why);
 
 TEST_P(Why, IsToldRightOfPreparedComponents) {
-    const ScratchFolder folder;
-    const XServer x{{"-screen", "0", "1280x900x24"}};
-    const WindowManager manager(x);
-    const std::string class_path = (kTestFolder / "why-cases.jar").string() + ":" VANTREL_MIGLAYOUT_JARS;
-    const Finished finished = run(java_under_agent(GetParam(), {"-XX:TieredStopAtLevel=1", "-Dvantrel.record=changes",
-                                                                "-cp", class_path, "why.Cases"}),
-                                  {.folder = folder.path, .environment = {x.display()}});
-    ASSERT_EQ(finished.status, 0) << finished.err;
-    EXPECT_EQ(finished.err, kAgentErr);
-    ASSERT_TRUE(finished.out.starts_with(kAgentOut)) << finished.out;
-
-    std::istringstream out(finished.out.substr(kAgentOut.size()));
-    const Table told = parse(out, [](std::string sentence) { return with_code(sentence); });
+    const Table told = play({"-Dvantrel.record=changes"});
     std::ifstream table(VANTREL_WHY_TABLE);
     const Table expected = parse(table, with_words);
     for (const auto& [name, sentences] : expected) {
@@ -98,6 +105,23 @@ TEST_P(Why, IsToldRightOfPreparedComponents) {
         EXPECT_EQ(found == told.end() ? Sentences{"not played"} : found->second, sentences) << name;
     }
     EXPECT_EQ(told.size(), expected.size());
+}
+
+// Nobody is named then, and nothing said that nobody knows; where components were added is known in any case.
+TEST_P(Why, IsToldWithoutARecord) {
+    const std::string flow = R"(FlowLayout of JPanel "stage" gives it its preferred size, 60 × 20, which was set.)";
+    const Table expected = {
+        {"invisible", {"It is invisible."}},
+        {"removed", {"It was removed after Stage.set(panel.add(component);) had added it."}},
+        {"disabled", {"It is disabled.", flow}},
+        {"flow, bounds overwritten", {flow}},
+        {"none", {R"(JPanel "stage" has no layout manager: its bounds were set, to 3, 4, 50 × 20.)"}},
+    };
+    Arguments names;
+    for (const auto& [name, sentences] : expected) {
+        names.push_back(name);
+    }
+    EXPECT_EQ(play({}, names), expected);
 }
 
 }  // namespace

@@ -34,6 +34,8 @@ final class Reacting {
     static void list(Map<String, Function<Stage, Component>> cases) {
         cases.put("disabled", Reacting::disabled);
         cases.put("disabled by its action", Reacting::byAction);
+        cases.put("in a disabled window", Reacting::windowDisabled);
+        cases.put("in a window without focus", Reacting::windowNotFocusable);
         cases.put("nobody listens", Reacting::nobodyListens);
         cases.put("not editable", Reacting::notEditable);
         cases.put("not focusable", Reacting::notFocusable);
@@ -62,6 +64,20 @@ final class Reacting {
         JButton button = sized(named("save", new JButton(save)));
         stage.set(new FlowLayout(), button);
         save.setEnabled(false);
+        return button;
+    }
+
+    private static Component windowDisabled(Stage stage) {
+        JButton button = sized(button("ok"));
+        stage.set(new FlowLayout(), button);
+        stage.frame.setEnabled(false);
+        return button;
+    }
+
+    private static Component windowNotFocusable(Stage stage) {
+        JButton button = sized(button("ok"));
+        stage.set(new FlowLayout(), button);
+        stage.frame.setFocusableWindowState(false);
         return button;
     }
 

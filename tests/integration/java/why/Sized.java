@@ -15,6 +15,8 @@ import java.awt.GridBagConstraints;
 import java.awt.GridBagLayout;
 import java.awt.GridLayout;
 import java.awt.Insets;
+import java.awt.LayoutManager;
+import java.awt.Rectangle;
 import java.util.Map;
 import java.util.function.Function;
 
@@ -60,6 +62,7 @@ final class Sized {
         cases.put("in a viewport, not following", Sized::notFollowing);
         cases.put("in a split pane", Sized::split);
         cases.put("a manager of the program's", Sized::own);
+        cases.put("in a panel that throws", Sized::cross);
         cases.put("a window", Sized::window);
         cases.put("a packed window", Sized::packed);
     }
@@ -277,6 +280,44 @@ final class Sized {
     private static Component own(Stage stage) {
         JButton button = sized(button("ok"));
         stage.set(new Spiral(), button);
+        return button;
+    }
+
+    /** Throws when it is asked for anything, once it is on the screen. */
+    private static final class Cross extends JPanel {
+        private static final long serialVersionUID = 1L;
+
+        private boolean isCross;
+
+        private <T> T answer(T answer) {
+            if (isCross) {
+                throw new IllegalStateException("asked on purpose");
+            }
+            return answer;
+        }
+
+        @Override
+        public Rectangle getBounds() {
+            return answer(super.getBounds());
+        }
+
+        @Override
+        public Component[] getComponents() {
+            return answer(super.getComponents());
+        }
+
+        @Override
+        public LayoutManager getLayout() {
+            return answer(super.getLayout());
+        }
+    }
+
+    private static Component cross(Stage stage) {
+        Cross cross = named("cross", new Cross());
+        JButton button = sized(button("ok"));
+        cross.add(button);
+        stage.set(new FlowLayout(), cross);
+        stage.then(() -> cross.isCross = true);
         return button;
     }
 

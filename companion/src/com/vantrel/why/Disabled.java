@@ -1,6 +1,7 @@
 package com.vantrel.why;
 
 import java.awt.Component;
+import java.awt.Window;
 
 import javax.swing.AbstractAction;
 import javax.swing.AbstractButton;
@@ -12,6 +13,15 @@ import com.vantrel.model.Facts;
 /** Of what is disabled, by itself or with its action. */
 final class Disabled {
     private Disabled() {
+    }
+
+    /** Of what is in a window that is disabled: that gets neither mouse nor keys, and nor does anything in it. */
+    static Sentence window(Component component) {
+        Component top = Around.top(component);
+        return top == component || !(top instanceof Window) || Facts.isEnabled(top)
+                ? null
+                : Sentence.of(Around.window((Window) top, component), " is disabled",
+                        Who.did(top, "enabled", "disabled it"), ".");
     }
 
     static Sentence of(Component component) {

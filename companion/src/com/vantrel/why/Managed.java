@@ -49,7 +49,8 @@ final class Managed {
             return Told.mig(component, parent, layout);
         }
         if (isPrograms(layout)) {
-            return Sentence.of(Managers.name(layout), " of ", parent, ", a manager of the program's own, makes it ",
+            String whose = Code.isMachinery(layout.getClass()) ? "look and feel's" : "program's own";
+            return Sentence.of(Managers.name(layout), " of ", parent, ", a manager of the " + whose + ", makes it ",
                     Extent.text(component), ", and tells nobody why.");
         }
         if (layout instanceof BorderLayout) {
@@ -70,9 +71,7 @@ final class Managed {
                     Extent.doesNotCount(component), ".");
         }
         if (layout instanceof BoxLayout) {
-            String axis =
-                    Managers.isHorizontal((BoxLayout) layout, parent) ? "from side to side" : "from top to bottom";
-            return Sentence.of("BoxLayout of ", parent, ", " + axis + ", ", Extent.clause(component), ".");
+            return BoxLayouts.of(component, parent, (BoxLayout) layout);
         }
         if (layout instanceof GroupLayout) {
             return Told.group(component, parent, (GroupLayout) layout);

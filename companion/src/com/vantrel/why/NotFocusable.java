@@ -1,6 +1,7 @@
 package com.vantrel.why;
 
 import java.awt.Component;
+import java.awt.Window;
 
 import javax.swing.AbstractButton;
 import javax.swing.JComboBox;
@@ -24,6 +25,13 @@ final class NotFocusable {
     }
 
     static Sentence of(Component component) {
+        Component top = Around.top(component);
+        if (isOne(component) && top instanceof Window
+                && Code.overrider(top.getClass(), "getFocusableWindowState") == null
+                && !((Window) top).getFocusableWindowState()) {
+            return Sentence.of(Around.window((Window) top, component), " never has the focus",
+                    Who.did(top, "focusableWindowState", "made it so"), ".");
+        }
         boolean canTell = isOne(component) && Code.overrider(component.getClass(), "isFocusable") == null
                 && Machinery.of(component, Facts.parent(component)) == Machinery.NO;
         return canTell && !component.isFocusable()

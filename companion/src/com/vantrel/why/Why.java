@@ -22,8 +22,8 @@ public final class Why {
     /** The rest: what keeps it out of sight or from reacting, and what decides its size and place. */
     private static final List<Rule> OTHERS =
             Arrays.asList(Modal::of, Rule.first(OffScreen::of, CutOff::of, Covered::of, Intercepted::of), Layers::of,
-                    Disabled::of, NobodyListens::of, NotEditable::of, NotFocusable::of, Overwritten::before,
-                    Rule.first(Overwritten::after, Managed::of), Weights::of, Alignments::of);
+                    Disabled::window, Disabled::of, NobodyListens::of, NotEditable::of, NotFocusable::of,
+                    Overwritten::before, Rule.first(Overwritten::after, Managed::of), Weights::of, BoxLayouts::aside);
 
     private Why() {
     }

@@ -9,14 +9,34 @@ import javax.swing.BoxLayout;
 import com.vantrel.model.Facts;
 import com.vantrel.model.Managers;
 
-/** That a BoxLayout puts a component beside the line of others, for it aligns all of them with each other. */
-final class Alignments {
+/** BoxLayout: how it shares out the room, and where it puts what is aligned otherwise than the rest. */
+final class BoxLayouts {
     private static final float LEAST_DIFFERENCE = 0.01f;
 
-    private Alignments() {
+    private BoxLayouts() {
     }
 
-    static Sentence of(Component component) {
+    static Sentence of(Component component, Container parent, BoxLayout layout) {
+        boolean along = Managers.isHorizontal(layout, parent);
+        Object[] which = {"BoxLayout of ", parent, along ? ", from side to side, " : ", from top to bottom, "};
+        Wants width = Extent.wanted(component, true);
+        if (width != null && width == Extent.wanted(component, false)) {
+            return Sentence.of(which, Extent.clause(component), ".");
+        }
+        return Sentence.of(
+                which, "makes it ", clause(component, true, along), ", and ", clause(component, false, !along), ".");
+    }
+
+    private static Object[] clause(Component component, boolean wide, boolean along) {
+        boolean isOwn = Extent.wanted(component, wide) != null;
+        return new Object[] {Extent.clause(component, wide),
+                isOwn           ? ""
+                        : along ? ", its share of the room"
+                                : ", as there is room"};
+    }
+
+    /** That it begins beside the line of others, for a BoxLayout aligns all of them with each other. */
+    static Sentence aside(Component component) {
         Container parent = Around.parent(component);
         LayoutManager layout = Managed.layout(parent);
         if (!(layout instanceof BoxLayout) || !Managers.canTellAlignment(component)) {
