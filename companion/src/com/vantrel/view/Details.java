@@ -17,6 +17,7 @@ import javax.swing.JPanel;
 import javax.swing.JScrollPane;
 import javax.swing.JTabbedPane;
 import javax.swing.JTable;
+import javax.swing.JTextPane;
 import javax.swing.KeyStroke;
 import javax.swing.SwingUtilities;
 import javax.swing.Timer;
@@ -95,6 +96,9 @@ public final class Details extends JPanel {
         tabs.addTab("Keys", keys);
         tabs.addChangeListener(event -> showInFront(false));
         leaveKeysToTabs(tabs);
+        leaveKeysToTabs(why);
+        goFromTabToTab("ctrl PAGE_UP", -1);
+        goFromTabToTab("ctrl PAGE_DOWN", 1);
         add(header, BorderLayout.NORTH);
         add(tabs, BorderLayout.CENTER);
         selection.onChange(this::selectionChanged);
@@ -136,7 +140,8 @@ public final class Details extends JPanel {
     /** Lets the keys that go from tab to tab through to the tabs: tables, lists and scroll panes would go sideways. */
     private static void leaveKeysToTabs(Container in) {
         for (Component child : in.getComponents()) {
-            if (child instanceof JTable || child instanceof JList || child instanceof JScrollPane) {
+            if (child instanceof JTable || child instanceof JList || child instanceof JScrollPane
+                    || child instanceof JTextPane) {
                 for (int condition : new int[] {WHEN_FOCUSED, WHEN_ANCESTOR_OF_FOCUSED_COMPONENT}) {
                     InputMap keys = ((JComponent) child).getInputMap(condition);
                     keys.put(KeyStroke.getKeyStroke("ctrl PAGE_UP"), "none");
@@ -147,6 +152,14 @@ public final class Details extends JPanel {
                 leaveKeysToTabs((Container) child);
             }
         }
+    }
+
+    /** Takes the keys of the tabs above them, too. */
+    private void goFromTabToTab(String key, int step) {
+        RowsPanel.bind(this, WHEN_ANCESTOR_OF_FOCUSED_COMPONENT, KeyStroke.getKeyStroke(key), () -> {
+            int count = tabs.getTabCount();
+            tabs.setSelectedIndex((tabs.getSelectedIndex() + step + count) % count);
+        });
     }
 
     private void showingChanged() {
