@@ -33,6 +33,7 @@ final class Reacting {
 
     static void list(Map<String, Function<Stage, Component>> cases) {
         cases.put("disabled", Reacting::disabled);
+        cases.put("disabled by way of its own method", Reacting::byOverride);
         cases.put("disabled by its action", Reacting::byAction);
         cases.put("in a disabled window", Reacting::windowDisabled);
         cases.put("in a window without focus", Reacting::windowNotFocusable);
@@ -42,11 +43,33 @@ final class Reacting {
         cases.put("behind a modal dialog", Reacting::modal);
         cases.put("below a glass pane", Reacting::glass);
         cases.put("below a label with a tooltip", Reacting::toolTip);
+        cases.put("below a transparent panel", Reacting::transparent);
         cases.put("in a layer", Reacting::layer);
     }
 
     private static Component disabled(Stage stage) {
         JButton button = sized(button("ok"));
+        stage.set(new FlowLayout(), button);
+        button.setEnabled(false);
+        return button;
+    }
+
+    private static final class Switch extends JButton {
+        private static final long serialVersionUID = 1L;
+
+        Switch() {
+            super("On");
+            addActionListener(event -> {});
+        }
+
+        @Override
+        public void setEnabled(boolean enabled) {
+            super.setEnabled(enabled);
+        }
+    }
+
+    private static Component byOverride(Stage stage) {
+        Switch button = sized(named("switch", new Switch()));
         stage.set(new FlowLayout(), button);
         button.setEnabled(false);
         return button;
@@ -132,6 +155,16 @@ final class Reacting {
         JButton button = button("ok");
         button.setBounds(10, 10, 60, 20);
         stage.set(null, hint, button);
+        return button;
+    }
+
+    private static Component transparent(Stage stage) {
+        JPanel over = named("over", new JPanel());
+        over.setOpaque(false);
+        over.setBounds(0, 0, 300, 200);
+        JButton button = button("ok");
+        button.setBounds(10, 10, 60, 20);
+        stage.set(null, over, button);
         return button;
     }
 

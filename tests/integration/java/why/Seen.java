@@ -46,6 +46,7 @@ final class Seen {
         cases.put("in an invisible panel", Seen::inInvisible);
         cases.put("in invisible panels, and invisible", Seen::inInvisibles);
         cases.put("in a panel without a name", Seen::inUnnamed);
+        cases.put("a scroll bar that is not needed", Seen::scrollBar);
         cases.put("in a window that is not shown", Seen::windowNotShown);
         cases.put("in a window that was hidden", Seen::windowHidden);
         cases.put("in a minimised window", Seen::minimised);
@@ -108,6 +109,12 @@ final class Seen {
         stage.set(new FlowLayout(), named("first", new JPanel()), unnamed);
         unnamed.setVisible(false);
         return unnamed.getComponent(0);
+    }
+
+    private static Component scrollBar(Stage stage) {
+        JScrollPane scroll = named("scroll", new JScrollPane(named("small", new JPanel())));
+        stage.set(new GridLayout(), scroll);
+        return named("bar", scroll.getVerticalScrollBar());
     }
 
     private static Component windowNotShown(Stage stage) {
