@@ -44,7 +44,8 @@ std::string with_code(const std::string& sentence) {
 }
 
 // What the table's words in capitals stand for.
-std::string with_words(std::string sentence) {
+std::string with_words(const std::string& line) {
+    std::string sentence = line;
     const std::pair<std::string, std::string> words[] = {
         {"FLOW", R"(FlowLayout of JPanel "stage" gives it its preferred size, 60 × 20, set by PREFERRED.)"},
         {"by PREFERRED", "by Stage.sized(component.setPreferredSize(new Dimension(60, 20));)"},
@@ -60,7 +61,7 @@ std::string with_words(std::string sentence) {
     return sentence;
 }
 
-Table parse(std::istream& in, std::string (*complete)(std::string)) {
+Table parse(std::istream& in, std::string (*complete)(const std::string&)) {
     const std::string indent = "    ";
     Table table;
     std::string name;
@@ -87,7 +88,7 @@ class Why : public OnEachJdk {
         EXPECT_EQ(finished.err, kAgentErr);
         EXPECT_TRUE(finished.out.starts_with(kAgentOut)) << finished.out;
         std::istringstream out(finished.out.substr(std::min(kAgentOut.size(), finished.out.size())));
-        return parse(out, [](std::string sentence) { return with_code(sentence); });
+        return parse(out, with_code);
     }
 
     const ScratchFolder folder;
