@@ -42,6 +42,7 @@ final class Sized {
         cases.put("flow, set", Sized::flow);
         cases.put("flow, computed", Sized::flowComputed);
         cases.put("flow, computed by the program", Sized::flowByProgram);
+        cases.put("flow, around what throws", Sized::aroundMoody);
         cases.put("flow, set too late", Sized::flowLate);
         cases.put("flow, bounds overwritten", Sized::overwritten);
         cases.put("border, north", Sized::north);
@@ -101,6 +102,18 @@ final class Sized {
         stage.set(new FlowLayout(), moody);
         stage.then(() -> moody.isCross = true);
         return moody;
+    }
+
+    private static Component aroundMoody(Stage stage) {
+        Moody moody = new Moody();
+        JPanel panel = named("around", new JPanel(new FlowLayout()));
+        panel.add(moody);
+        stage.set(new FlowLayout(), panel);
+        stage.then(() -> {
+            moody.isCross = true;
+            panel.invalidate(); // it forgets the sizes that were worked out
+        });
+        return panel;
     }
 
     private static Component flowLate(Stage stage) {

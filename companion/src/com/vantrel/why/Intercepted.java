@@ -52,7 +52,7 @@ final class Intercepted {
      */
     private static Component taker(Component component, Point inParent) {
         Rectangle bounds = Facts.bounds(component);
-        // What says itself where it is cannot be asked unasked.
+        // A class of the program that decides by itself which points are its own is not asked.
         boolean isThere = !(component instanceof Window) && Facts.isVisible(component) && bounds.contains(inParent)
                 && Code.overrider(component.getClass(), "contains", int.class, int.class) == null;
         if (!isThere) {

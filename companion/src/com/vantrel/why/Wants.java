@@ -73,8 +73,9 @@ enum Wants {
     abstract boolean asksSet(Component component);
 
     /**
-     * The size; null where only the program's own code could tell it, or it takes too long to tell. A component that
-     * has what the program has set tells it whatever else its class overrides.
+     * The size; null where only the program's own code could tell it, where it takes too long to tell, or where
+     * something in the component throws when it is asked. A component that has what the program has set tells it
+     * whatever else its class overrides.
      */
     Dimension of(Component component) {
         Class<?> type = component.getClass();
@@ -85,6 +86,8 @@ enum Wants {
         long start = System.nanoTime();
         try {
             return ask(component);
+        } catch (RuntimeException | LinkageError e) {
+            return null;
         } finally {
             Patience.took(type, property, System.nanoTime() - start);
         }

@@ -9,7 +9,8 @@ import com.vantrel.model.Values;
 
 /**
  * Why a component cannot be seen, does not react, or has the size and place that it has: in sentences that are true and
- * can be checked. This is the list of the rules that make them. For the event thread.
+ * can be checked. This is the list of the rules that make them, for whoever shows sentences, in a window or as text.
+ * For the event thread.
  */
 public final class Why {
     /** Why it is not there to be seen. What is not there needs no other reason for anything. */
