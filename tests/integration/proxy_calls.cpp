@@ -69,15 +69,9 @@ NATIVE(void, initialise)(JNIEnv* env, jclass) {
 }
 
 NATIVE(void, printMissingMembers)(JNIEnv* env, jclass) {
-#define PROXY(...)
 #define PROXY_FIELD(C, CLASS, KIND, NAME, DESCRIPTOR) print_if_missing(env, CLASS, KIND, #NAME, DESCRIPTOR);
-#define PROXY_WRAPPER(C, CLASS, KIND, NAME, DESCRIPTOR, ...) print_if_missing(env, CLASS, KIND, NAME, DESCRIPTOR);
-#define PROXY_UNWRAPPED(C, CLASS, KIND, NAME, DESCRIPTOR, ...) print_if_missing(env, CLASS, KIND, NAME, DESCRIPTOR);
+#define PROXY_METHOD(C, CLASS, KIND, NAME, DESCRIPTOR, ...) print_if_missing(env, CLASS, KIND, NAME, DESCRIPTOR);
 #include "members.inc"
-#undef PROXY
-#undef PROXY_FIELD
-#undef PROXY_WRAPPER
-#undef PROXY_UNWRAPPED
     fflush(stdout);
 }
 
