@@ -12,7 +12,7 @@
 
 struct RecordingCarbon {
     // By any thread, one at a time.
-    std::vector<std::string> calls;  // a name and arguments with a blank after each; whether handles are the right ones
+    std::vector<std::string> calls;  // function and arguments, with a blank after each; 1 for a handle that is the right one
     std::function<void(const std::string&)> on_call;  // is told of each; may be empty
 
     OSStatus status = noErr;              // of every call

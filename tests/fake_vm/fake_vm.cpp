@@ -12,10 +12,10 @@
 
 namespace {
 
-// The one FakeVm there is at a time: the function tables have no other way to it.
+// The one FakeVm that exists: nothing that the tables' functions are given leads to it.
 FakeVm* current = nullptr;
 
-// Slots that nothing is scripted for.
+// The names of a table's slots, in their order.
 
 template <typename Table>
 struct SlotNames;
@@ -114,7 +114,7 @@ std::string text(jfieldID value) {
     return member_text(value);
 }
 
-// Records a call; the code that it was told to fail with, if it was.
+// Records a call. Returns the code to fail with, if it is to fail.
 template <typename... Arguments>
 std::optional<jint> record(const char* function, const Arguments&... arguments) {
     std::string call = function;

@@ -51,7 +51,7 @@ struct FakeMember {
     jint modifiers;              // Java's access flags, as JVMTI gives them
 };
 
-// No result, or a zero of any type: `{}` would set but the first byte of the union.
+// No result, or a zero of any type: `{}` would only set the first byte of the union.
 constexpr jvalue kZero{.j = 0};
 
 struct FakeVm {
@@ -109,7 +109,7 @@ struct FakeVm {
 void record_call(std::string_view call);
 
 // While there is one, what the program writes to stdout goes to no file but to the record of the FakeVm there is:
-// "stdout TEXT" each time that the stream gives text away.
+// "stdout TEXT" each time that the stream is flushed.
 class RecordedStdout {
   public:
     // buffering   as setvbuf has it: by lines (_IOLBF), or until the stream is flushed (_IOFBF)

@@ -17,7 +17,7 @@ using std::chrono::steady_clock;
 
 namespace {
 
-// What a condition asks may be costly; the end of a process is not.
+// To try a condition may be costly; to ask whether a process has ended is not.
 constexpr auto kTryInterval = std::chrono::milliseconds(20);
 constexpr auto kEndInterval = std::chrono::milliseconds(2);
 

@@ -25,8 +25,8 @@ struct ProcessOptions {
     std::vector<std::string> environment;  // NAME=VALUE, beside what the test itself has
 };
 
-// A child process with no standard input whose output is collected. Killed, with no word, when it is destroyed and
-// still running; it dies with the test too.
+// A child process with no standard input whose output is collected. Killed silently if it still runs when this is
+// destroyed, and also when the test dies.
 class Process {
   public:
     explicit Process(const std::vector<std::string>& command, const ProcessOptions& options = {});

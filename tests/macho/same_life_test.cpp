@@ -87,7 +87,7 @@ void call_natives(FakeVm& vm) {
     opacity(vm.jni, nullptr, 50);
 }
 
-// Twice the same: a VM's whole life, and another one after it.
+// The calls of two lives of a VM, one after the other.
 Calls live(const Agent& agent) {
     FakeVm vm;
     add_proxied_classes(vm);

@@ -86,7 +86,7 @@ std::map<std::string, std::string> files_of(const fs::path& folder) {
     return files;
 }
 
-// A tool that somebody else wrote. Its classes are many, what it writes to its folder is the same both ways.
+// For a tool that somebody else wrote: it has many classes, and writes the same files both ways.
 void expect_same_work(int release, const Arguments& arguments, long least_classes, BothWays how = {}) {
     const ScratchFolder plain;
     const ScratchFolder rewritten;
@@ -136,7 +136,7 @@ TEST_P(AtLoad, JavacCompiles) {
 TEST_P(AtLoad, JEditOpensItsWindow) {
     SKIP_WITHOUT_JDK(GetParam());
     const XServer x;
-    const ScratchFolder home;  // for what the VM finds out about fonts, with the time
+    const ScratchFolder home;  // where the VM keeps what it finds out about fonts
     const std::string programs = kTestFolder / "rewriter-programs.jar";
     expect_same_work(GetParam(),
                      {"-Duser.home=" + home.path.string(), "-cp", programs + ":/usr/share/jedit/jedit.jar",

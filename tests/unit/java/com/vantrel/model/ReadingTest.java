@@ -22,7 +22,7 @@ import org.junit.Before;
 import org.junit.Test;
 
 public class ReadingTest {
-    /** A program's field that says which of its methods are called. */
+    /** A text field of the program's that notes which of its methods are called. */
     public static class Telling extends JTextField {
         private static final long serialVersionUID = 1L;
         final transient List<String> called = new ArrayList<>();
