@@ -648,12 +648,8 @@ jfieldID FakeVm::add_field(jclass owner, std::string_view name, std::string_view
     return reinterpret_cast<jfieldID>(&members.back());
 }
 
-void set_modifiers(jmethodID method, jint modifiers) {
-    member_of(method)->modifiers = modifiers;
-}
-
-void set_modifiers(jfieldID field, jint modifiers) {
-    member_of(field)->modifiers = modifiers;
+void FakeVm::add_member(jclass owner, std::string_view name, std::string_view descriptor, jint modifiers) {
+    members.push_back({owner, std::string(name), std::string(descriptor), kZero, nullptr, {}, modifiers});
 }
 
 void set_field(jobject object, std::string_view name, jobject value) {

@@ -68,6 +68,8 @@ struct FakeVm {
     jmethodID add_method(jclass owner, std::string_view name, std::string_view descriptor, jobject result);
     jmethodID add_throwing_method(jclass owner, std::string_view name, std::string_view descriptor, jobject thrown);
     jfieldID add_field(jclass owner, std::string_view name, std::string_view descriptor);
+    // A method or a field, as the descriptor has it, with access flags. Without this, members have none.
+    void add_member(jclass owner, std::string_view name, std::string_view descriptor, jint modifiers);
     void add_property(std::string_view name, std::string_view value);
 
     // GetClassFields and GetClassMethods list a class's members in the order in which they were added.
@@ -121,10 +123,6 @@ class RecordedStdout {
   private:
     FILE* before_;
 };
-
-// Gives a member of a FakeVm its access flags, which are none otherwise.
-void set_modifiers(jmethodID method, jint modifiers);
-void set_modifiers(jfieldID field, jint modifiers);
 
 // Gives an object of a FakeVm a value that GetObjectField reads.
 void set_field(jobject object, std::string_view name, jobject value);

@@ -27,12 +27,6 @@ fs::path new_folder() {
     return name;
 }
 
-std::string contents(const fs::path& file) {
-    std::ostringstream text;
-    text << std::ifstream(file).rdbuf();
-    return text.str();
-}
-
 [[noreturn]] void become(const std::vector<std::string>& command, const ProcessOptions& options,
                          const fs::path& output) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -129,6 +123,12 @@ Finished run(const std::vector<std::string>& command, const ProcessOptions& opti
     Process process(command, options);
     const int status = process.wait();
     return {status, process.out(), process.err()};
+}
+
+std::string contents(const fs::path& file) {
+    std::ostringstream text;
+    text << std::ifstream(file).rdbuf();
+    return text.str();
 }
 
 std::vector<std::string> lines_of(const std::string& text) {

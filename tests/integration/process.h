@@ -65,6 +65,9 @@ struct Finished {
 };
 Finished run(const std::vector<std::string>& command, const ProcessOptions& options = {});
 
+// What a file holds; nothing where there is no file.
+std::string contents(const std::filesystem::path& file);
+
 // The lines of what a program wrote, without their ends.
 std::vector<std::string> lines_of(const std::string& text);
 

@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <map>
 #include <sstream>
 #include <string>
@@ -78,9 +77,7 @@ std::map<std::string, std::string> files_of(const fs::path& folder) {
     std::map<std::string, std::string> files;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
         if (entry.is_regular_file()) {
-            std::ostringstream text;
-            text << std::ifstream(entry.path()).rdbuf();
-            files[fs::relative(entry.path(), folder)] = text.str();
+            files[fs::relative(entry.path(), folder)] = contents(entry.path());
         }
     }
     return files;
@@ -100,8 +97,8 @@ void expect_same_work(int release, const Arguments& arguments, long least_classe
     const auto expected = files_of(plain.path);
     const auto actual = files_of(rewritten.path);
     EXPECT_EQ(actual.size(), expected.size());
-    for (const auto& [name, contents] : expected) {
-        EXPECT_TRUE(actual.contains(name) && actual.at(name) == contents) << name << " is another file";
+    for (const auto& [name, text] : expected) {
+        EXPECT_TRUE(actual.contains(name) && actual.at(name) == text) << name << " is another file";
     }
     std::cout << expected.size() << " files, " << tracked.report.classes << " classes\n";
     for (const auto& [name, count] : tracked.report.counts) {

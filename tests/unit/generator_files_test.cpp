@@ -39,10 +39,10 @@ TEST(GeneratorFiles, AreWrittenToAFolderAndReplaced) {
     const OwnFolder folder;
     FakeVm vm;
     const jclass gauge = vm.add_class("com/example/Gauge2D");
-    set_modifiers(vm.add_field(gauge, "secret", "I"), kPrivate);
-    set_modifiers(vm.add_method(gauge, "measure", "()V"), kProtected);
+    vm.add_member(gauge, "secret", "I", kPrivate);
+    vm.add_member(gauge, "measure", "()V", kProtected);
     vm.add_method(gauge, "show", "([[Ljava/lang/String;)[Ljava/lang/String;");
-    set_modifiers(vm.add_method(gauge, "steps", "(D)[I"), kAccPublic | kStatic);
+    vm.add_member(gauge, "steps", "(D)[I", kAccPublic | kStatic);
 
     EXPECT_TRUE(generate(vm, "com/example/Gauge2D"));
     ASSERT_THAT(folder.files(), ElementsAre("out\\Gauge2D.cpp", "out\\Gauge2D.h"));

@@ -109,10 +109,8 @@ std::pair<jclass, std::vector<std::string>> add_class(FakeVm& vm, const std::str
             continue;
         }
         const jint modifiers = member.kind == STATIC_METHOD || member.kind == STATIC_FIELD ? generator::kStatic : 0;
-        if (member.kind == FIELD || member.kind == STATIC_FIELD) {
-            set_modifiers(vm.add_field(clazz, member.name, member.descriptor), modifiers);
-        } else {
-            set_modifiers(vm.add_method(clazz, member.name, member.descriptor), modifiers);
+        vm.add_member(clazz, member.name, member.descriptor, modifiers);
+        if (member.kind != FIELD && member.kind != STATIC_FIELD) {
             functions.emplace_back(member.function);
         }
     }
