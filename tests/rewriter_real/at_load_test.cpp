@@ -54,7 +54,7 @@ TEST_P(AtLoad, ArraysAreCountedAsTheyAreMade) {
     SKIP_WITHOUT_JDK(GetParam());
     const Tracked tracked = run_program(GetParam(), "MakesArrays");
     expect_same_and_balanced(tracked);
-    EXPECT_EQ(tracked.report.counts.at("arrays"), number_behind("arrays", tracked.plain.out));
+    EXPECT_EQ(tracked.report.counts.at("arrays"), number_after("arrays", tracked.plain.out));
 }
 
 TEST_P(AtLoad, OnlyMethodsThatAreLeftByAnExceptionLackAReturn) {
@@ -62,7 +62,7 @@ TEST_P(AtLoad, OnlyMethodsThatAreLeftByAnExceptionLackAReturn) {
     const Tracked tracked = run_program(GetParam(), "Leaving");
     expect_same_and_balanced(tracked);
     const std::map<std::string, long>& counts = tracked.report.counts;
-    EXPECT_EQ(counts.at("entries") - counts.at("returns"), number_behind("left", tracked.plain.out));
+    EXPECT_EQ(counts.at("entries") - counts.at("returns"), number_after("left", tracked.plain.out));
 }
 
 TEST_P(AtLoad, TheCountsAreOfOneMoment) {

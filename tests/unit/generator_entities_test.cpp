@@ -93,7 +93,7 @@ void read_method(const char* descriptor) {
     GetMethodEntities(vm.jvmti, clazz, name, &count, &methods, nullptr);
 }
 
-TEST(GeneratorTypes, OtherLettersAreAFailedAssertion) {
+TEST(GeneratorTypes, UnknownLettersFailAnAssertion) {
     for (const char* descriptor : {"E", "T", "A", "b", "[", "", ";"}) {
         int number = 0;
         char text[16];

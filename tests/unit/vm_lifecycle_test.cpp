@@ -133,7 +133,7 @@ TEST_F(VmLifecycle, FurtherInitialisationsAreHarmlessAndToldOnce) {
     }
 }
 
-TEST_F(VmLifecycle, TheResultIsWhatTheVmSaysToTheWatch) {
+TEST_F(VmLifecycle, InitCacheJavaObjectsReturnsTheWatchsError) {
     vm.fail("SetFieldModificationWatch", 1, JVMTI_ERROR_MUST_POSSESS_CAPABILITY);
     EXPECT_EQ(InitCacheJavaObjects(vm.jvmti, vm.jni), JVMTI_ERROR_MUST_POSSESS_CAPABILITY);
 }

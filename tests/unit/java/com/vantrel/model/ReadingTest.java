@@ -121,7 +121,7 @@ public class ReadingTest {
     }
 
     @Test
-    public void asksWhatTakesLongNotAgain() {
+    public void doesNotAskAgainWhatTakesLong() {
         int[] asked = {0};
         JTable table = new JTable(new DefaultTableModel() {
             @Override
