@@ -234,6 +234,13 @@ TEST(RewriterInterface, TellsOfJavaLangObjectOnStdout) {
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "add field to : java/lang/Object\n");
 }
 
+// The classes of oracle_test.cpp have these damages seldom or never.
+TEST(Relocation, WhatLeadsNowhereFails) {
+    EXPECT_EQ(failing_condition(with_code("990004")), kOutside) << "a branch past the end";
+    EXPECT_EQ(failing_condition(with_code("aa000000 00000000 00000005 00000004")), kInside) << "a high below its low";
+    EXPECT_EQ(failing_condition(with_code("ab000000 00000000 ffffffff")), kInside) << "less than no pairs";
+}
+
 TEST(StackMaps, FramesThatComeOutOfOrderFail) {
     // The entry's injection takes all the switch's padding: what follows comes nearer to a place inside it.
     const ClassFile file = with_code(Code{.bytes = cat({tableswitch(0, 20, 0, {0}), code("00*9 b1")}),
