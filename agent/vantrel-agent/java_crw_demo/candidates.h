@@ -24,6 +24,8 @@ struct Candidate {
     size_t pivot = 0;
     uint32_t rank_by_begin = 0;  // of a branch among those with its pivot
     uint32_t rank_by_end = 0;
+    uint8_t times_used_up = 1;
+    bool used_up_left = false;
 
     // How much of what a branch jumps over may grow before it is too long. Less than 0 if it is so from the beginning.
     [[nodiscard]] int32_t to_spare() const { return offset < 0 ? offset - kFarthestBack : kFarthestForward - offset; }
