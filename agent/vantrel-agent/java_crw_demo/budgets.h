@@ -156,15 +156,18 @@ class Budgets {
         const Four limit = {charged, charged, charged, charged};
         const Four plenty = {kPlenty, kPlenty, kPlenty, kPlenty};
         Four least_of_others = plenty;
-        uint32_t used_up = 0;
+        Four bit = {1, 2, 4, 8};
+        Four bits = {};
         for (size_t i = 0; i < kBlock; i += 4) {
             const Four least = load(block.least + i);
             const Four is_used_up = least <= limit;
             least_of_others = least_of(least_of_others, choose(is_used_up, plenty, least));
-            used_up |= bits_of(is_used_up) << i;
+            bits |= is_used_up & bit;
+            bit <<= 4;
         }
         int32_t least_of_all = least_of(least_of_others);
-        for (; used_up != 0; used_up &= used_up - 1) {
+        for (auto used_up = static_cast<uint32_t>(bits[0] | bits[1] | bits[2] | bits[3]); used_up != 0;
+             used_up &= used_up - 1) {
             const auto i = static_cast<size_t>(std::countr_zero(used_up));
             const size_t at = number * kBlock + i;
             if (level == 0) {
@@ -175,12 +178,6 @@ class Budgets {
             least_of_all = std::min(least_of_all, block.least[i]);
         }
         return least_of_all;
-    }
-
-    // A bit for each number of a mask.
-    static uint32_t bits_of(Four mask) {
-        const Four bits = mask & Four{1, 2, 4, 8};
-        return static_cast<uint32_t>(bits[0] | bits[1] | bits[2] | bits[3]);
     }
 
     std::vector<std::vector<Block>> levels_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <numeric>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -261,13 +262,49 @@ class Settler {
     Pending pending_;
 };
 
+// The paddings of all switches that are as small as they can get, or as large.
+enum class Paddings : uint8_t { kLeast, kMost };
+
+void set_paddings(std::span<const Candidate> candidates, Paddings paddings) {
+    for (const Candidate& candidate : candidates) {
+        if (is_switch(*candidate.site)) {
+            const int32_t old_padding = padding_at(static_cast<int32_t>(candidate.site->pc));
+            candidate.site->widening =
+                static_cast<int8_t>((paddings == Paddings::kLeast ? 0 : kLargestPaddingChange) - old_padding);
+        }
+    }
+}
+
+size_t count_grown(std::span<const Candidate> candidates) {
+    return static_cast<size_t>(std::count_if(candidates.begin(), candidates.end(), [](const Candidate& candidate) {
+        return candidate.site->widening != 0 && !is_switch(*candidate.site);
+    }));
+}
+
+// Lets those branches grow that have to, if they are the same ones whatever the paddings are meanwhile. If not, or if
+// that is not found out soon, nothing has grown.
+bool settle_whatever_the_paddings(std::span<const Candidate> candidates) {
+    set_paddings(candidates, Paddings::kLeast);
+    if (settle_by_sweeps(candidates)) {
+        const size_t grown_for_certain = count_grown(candidates);
+        set_paddings(candidates, Paddings::kMost);
+        if (settle_by_sweeps(candidates) && count_grown(candidates) == grown_for_certain) {
+            return true;
+        }
+    }
+    for (const Candidate& candidate : candidates) {
+        candidate.site->widening = 0;
+    }
+    return false;
+}
+
 }  // namespace
 
 void settle_widenings(MethodRewriteState& mi, const uint8_t* code) {
     std::vector<Candidate> candidates = find_candidates(mi, code);
     const bool has_switch = std::any_of(candidates.begin(), candidates.end(),
                                         [](const Candidate& candidate) { return is_switch(*candidate.site); });
-    if (has_switch || !settle_by_sweeps(candidates)) {
+    if (!(has_switch ? settle_whatever_the_paddings(candidates) : settle_by_sweeps(candidates))) {
         Settler(std::move(candidates), code).settle();
     }
 }
