@@ -94,9 +94,9 @@ class Settler {
             // The first multiple of the distance that the branch jumps over.
             const size_t first = candidate.first_between(own);
             const int32_t begin = first < candidates_.size() ? candidates_[first].grown_pc : candidate.grown_pc;
-            candidate.pivot = static_cast<size_t>(begin / kPivotDistance) + 1;
+            candidate.pivot = static_cast<uint8_t>(begin / kPivotDistance + 1);
             if (candidate.pivot >= pivots_.size()) {
-                pivots_.resize(candidate.pivot + 1);
+                pivots_.resize(candidate.pivot + 1U);
             }
             pivots_[candidate.pivot].branches.push_back(static_cast<uint32_t>(own));
         }
@@ -194,16 +194,16 @@ class Settler {
     // How much of what a branch has to spare is for the growth on the left of its pivot, if so much can still come on
     // either side. What cannot be used up on one side is for the other.
     static int32_t part_for_left(const Candidate& candidate, int32_t to_spare, int32_t left, int32_t right) {
-        const int32_t for_other_side = to_spare >> candidate.times_used_up;
+        const int32_t for_other_side = to_spare >> candidate.halvings;
         const int32_t part = candidate.used_up_left ? to_spare - for_other_side : for_other_side;
         return std::max(std::min(part, left), to_spare - right);
     }
 
     // Remembers on which side a branch has used up its budget.
     static void note_used_up(Candidate& candidate, bool left) {
-        candidate.times_used_up = candidate.used_up_left == left
-                                      ? static_cast<uint8_t>(std::min(2 * candidate.times_used_up + 1, 15))
-                                      : uint8_t{1};
+        candidate.halvings = candidate.used_up_left == left
+                                 ? static_cast<uint8_t>(std::min(2 * candidate.halvings + 1, 15))
+                                 : uint8_t{1};
         candidate.used_up_left = left;
     }
 
@@ -235,8 +235,9 @@ class Settler {
         if (is_left) {
             pivot.shift += growth;
         }
-        const bool some_used_up = is_left ? order.budgets.charge_before(order.up_to[own], growth)
-                                          : order.budgets.charge_from(order.up_to[own], growth);
+        const uint32_t place = order.up_to[own];
+        const bool some_used_up = is_left ? place > 0 && order.budgets.charge_before(place, growth)
+                                          : place < order.branches.size() && order.budgets.charge_from(place, growth);
         if (!some_used_up) {
             return;
         }
