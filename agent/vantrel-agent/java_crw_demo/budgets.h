@@ -1,6 +1,5 @@
 // What widening.cpp keeps its accounts in: sums over the beginnings of a sequence, and budgets that are charged by the
-// range. The number of steps for a change is logarithmic, or nearly so: a branch takes three bytes at least, and so
-// there are never more than some ten thousand.
+// range. There are never more than some twenty thousand of either, for a branch takes three bytes at least.
 #ifndef JAVA_CRW_DEMO_BUDGETS_H
 #define JAVA_CRW_DEMO_BUDGETS_H
 
@@ -15,7 +14,7 @@
 namespace crw {
 
 // Sums over the beginnings of a sequence of numbers, which may change. Asking is what has to be fast: a change goes
-// through one block, and then through all blocks that follow.
+// through one block, and then through all blocks that follow, which a processor does several at a time.
 class Sums {
   public:
     explicit Sums(size_t size) : in_block_(size / kBlock * kBlock + kBlock, 0), before_block_(size / kBlock + 1, 0) {}

@@ -22,8 +22,8 @@ struct Candidate {
 
     // For the budgets of widening.cpp, which says what these are.
     uint8_t pivot = 0;
-    bool used_up_left = false;
-    uint8_t halvings = 1;
+    bool used_up_left = false;   // which budget was the last one to be used up
+    uint8_t halvings = 1;        // how often what there is to spare is halved to get the other one
     uint32_t rank_by_begin = 0;  // of a branch among those with its pivot
     uint32_t rank_by_end = 0;
 

@@ -15,8 +15,16 @@
 
 // Without a switch nothing ever shrinks: a branch that is too long at any time is so in the end, and which branches
 // grow does not depend on the order of the changes. So a few sweeps over all of them come first (sweeps.h), and mostly
-// there is nothing left to do. What follows is for methods with switches, and for the rest where the sweeps were not
-// enough.
+// there is nothing left to do.
+//
+// With switches the order may matter: a branch may be too long only as long as a padding is large. But mostly it does
+// not, and sweeps can tell. Those with all paddings as small as they can get find branches that have to grow whatever
+// the paddings are meanwhile: in the end no branch is too long, and no padding is smaller. Those with all paddings as
+// large as they can get find all that ever grow: when the first other one grew, it would be too long by less than what
+// those sweeps have seen. Where both find the same branches, these are the ones, and the paddings follow one from the
+// other (relocation.cpp).
+//
+// What follows is for the rest: where the paddings matter, and where the sweeps are not enough.
 //
 // The scan changes, again and again, the first site that is not as it should be. Here the same changes are made in the
 // same order, without looking at all sites each time: `pending` holds every site that may not be as it should be, and
@@ -27,8 +35,9 @@
 //     four bytes, and their paddings are as right as before; until then nothing that comes later is looked at.
 //   - Of the branches those that jump over the changed site and have become too long. A branch that has been looked at
 //     has so many bytes to spare. They are divided into two budgets, for the growth on either side of a fixed place
-//     that it jumps over (Pivot). It is looked at again when one of them is used up, which is a quarter of the bytes at
-//     least, and so not more often than the logarithm of what it had to spare.
+//     that it jumps over (Pivot), and it is looked at again when one of them is used up. At first both get half; the
+//     side that uses up its own again and again gets more each time. Of two looks in a row one at least comes after
+//     half of the bytes are gone, and so there are not many more than twice the logarithm of what there was to spare.
 //
 // What is pending includes all that needs a change, and the first of these is what the scan would find: the changes are
 // the same ones, and so is where they end.
@@ -72,6 +81,14 @@ class Settler {
             }
         }
         make_pivots();
+        next_switch_.resize(candidates_.size());
+        size_t next = candidates_.size();
+        for (size_t own = candidates_.size(); own-- > 0;) {
+            next_switch_[own] = next;
+            if (is_switch(*candidates_[own].site)) {
+                next = own;
+            }
+        }
     }
 
     void settle() {
@@ -85,7 +102,6 @@ class Settler {
         for (size_t own = 0; own < candidates_.size(); ++own) {
             Candidate& candidate = candidates_[own];
             if (is_switch(*candidate.site)) {
-                switches_.push_back(own);
                 continue;
             }
             if (candidate.site->widening != 0) {
@@ -194,17 +210,17 @@ class Settler {
     // How much of what a branch has to spare is for the growth on the left of its pivot, if so much can still come on
     // either side. What cannot be used up on one side is for the other.
     static int32_t part_for_left(const Candidate& candidate, int32_t to_spare, int32_t left, int32_t right) {
-        const int32_t for_other_side = to_spare >> candidate.halvings;
-        const int32_t part = candidate.used_up_left ? to_spare - for_other_side : for_other_side;
+        const int32_t smaller_part = to_spare >> candidate.halvings;
+        const int32_t part = candidate.used_up_left ? to_spare - smaller_part : smaller_part;
         return std::max(std::min(part, left), to_spare - right);
     }
 
     // Remembers on which side a branch has used up its budget.
-    static void note_used_up(Candidate& candidate, bool left) {
-        candidate.halvings = candidate.used_up_left == left
-                                 ? static_cast<uint8_t>(std::min(2 * candidate.halvings + 1, 15))
-                                 : uint8_t{1};
-        candidate.used_up_left = left;
+    static void note_used_up(Candidate& candidate, bool is_left) {
+        constexpr int kMostHalvings = 15;  // nothing is left of any number of bytes then
+        const bool once_more = candidate.used_up_left == is_left;
+        candidate.halvings = static_cast<uint8_t>(once_more ? std::min(2 * candidate.halvings + 1, kMostHalvings) : 1);
+        candidate.used_up_left = is_left;
     }
 
     void change(size_t own, int8_t widening) {
@@ -215,9 +231,8 @@ class Settler {
         }
         site.widening = widening;
         shifts_.add(own, growth);
-        const auto next_switch = std::upper_bound(switches_.begin(), switches_.end(), own);
-        if (next_switch != switches_.end()) {
-            pending_.put(*next_switch);
+        if (next_switch_[own] < candidates_.size()) {
+            pending_.put(next_switch_[own]);
         }
         for (Pivot& pivot : pivots_) {
             if (!pivot.branches.empty()) {
@@ -257,7 +272,7 @@ class Settler {
 
     std::vector<Candidate> candidates_;
     std::vector<int32_t> largest_shifts_{0};  // by how much the candidates before each can grow, and all of them
-    std::vector<size_t> switches_;            // by index of candidate
+    std::vector<size_t> next_switch_;         // by candidate, the first one after it; their number if there is none
     std::vector<Pivot> pivots_;
     Sums shifts_;  // by how much the candidates have grown
     Pending pending_;
