@@ -150,6 +150,7 @@ class Budgets {
     // Renews what is used up in one block, and below it. `charged` is what has been charged above it. Returns the least
     // of the block.
     template <typename Renew>
+    // NOLINTNEXTLINE(misc-no-recursion): as deep as the tree, which is four levels for all branches of a long method
     int32_t renew_in(size_t level, size_t number, int32_t charged, const Renew& renew) {
         Block& block = levels_[level][number];
         const Four limit = {charged, charged, charged, charged};
