@@ -85,7 +85,7 @@ class Budgets {
     }
 
   private:
-    static constexpr size_t kBlock = 16;
+    static constexpr size_t kBlock = 32;
 
     // Four numbers, which a processor handles at once.
     using Four = int32_t __attribute__((vector_size(16)));
@@ -150,7 +150,7 @@ class Budgets {
     // Renews what is used up in one block, and below it. `charged` is what has been charged above it. Returns the least
     // of the block.
     template <typename Renew>
-    // NOLINTNEXTLINE(misc-no-recursion): as deep as the tree, which is four levels for all branches of a long method
+    // NOLINTNEXTLINE(misc-no-recursion): as deep as the tree, which is three levels for all branches of a method
     int32_t renew_in(size_t level, size_t number, int32_t charged, const Renew& renew) {
         Block& block = levels_[level][number];
         const Four limit = {charged, charged, charged, charged};
