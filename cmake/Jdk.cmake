@@ -11,7 +11,8 @@ cmake_path(GET javac PARENT_PATH javac_folder)
 cmake_path(GET javac_folder PARENT_PATH JDK_HOME)
 set(JDK_INCLUDE_DIR ${JDK_HOME}/include)
 
-# The JDK is that of the machine that builds. Whichever that is, its jni_md.h says the same for macOS.
+# Also for a macOS library that is built on Linux the JDK is that of the machine that builds: its jni_md.h says the same
+# as the one for macOS.
 if(CMAKE_HOST_APPLE)
     set(JDK_PLATFORM_INCLUDE_DIR ${JDK_INCLUDE_DIR}/darwin)
 else()
@@ -27,8 +28,8 @@ endforeach()
 add_library(Jdk::headers INTERFACE IMPORTED)
 target_include_directories(Jdk::headers INTERFACE ${JDK_INCLUDE_DIR} ${JDK_PLATFORM_INCLUDE_DIR})
 
-# add_release_jar(NAME RELEASE ...): UseJava's add_jar, with its arguments from the third on, for the VMs of a Java
-# release and later.
+# add_release_jar(NAME RELEASE ...): a jar for the VMs of a Java release and later. The arguments from the third on are
+# those of UseJava's add_jar.
 function(add_release_jar name release)
     set(CMAKE_JAVA_COMPILE_FLAGS --release ${release} -encoding UTF-8 -Xlint:all -Werror)
     if(release EQUAL 8)

@@ -13,9 +13,9 @@ give_up() {
     exit 1
 }
 
-# step WHAT COMMAND...: runs a command that takes a while and says only how long it took. When it fails, the end of its
-# output is shown and the script ends. Where `goes_on_without` is set, its output is only named, in the line that the
-# caller goes on with.
+# step WHAT COMMAND...: runs a command that takes a while and says only how long it took. If it fails, the end of its
+# output is shown and the script ends. If `goes_on_without` is set, only the name of the log is shown, and the line is
+# left open for the caller to say what it does instead.
 step() {
     local what=$1 started=$SECONDS log pid status=0
     shift

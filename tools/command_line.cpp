@@ -1,6 +1,9 @@
 #include "command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 
 #include "failure.h"
 
@@ -17,6 +20,12 @@ std::optional<std::string> parse_command_line(CLI::App& app, int argc, char** ar
         throw Failure{std::string(error.what()) + "; " + app.get_name() + " --help tells the options"};
     }
     return std::nullopt;
+}
+
+void print(const std::string& text) {
+    if (fputs(text.c_str(), stdout) < 0 || fflush(stdout) != 0) {
+        throw Failure{std::string("cannot write to standard output: ") + strerror(errno)};
+    }
 }
 
 }  // namespace command

@@ -12,8 +12,8 @@ namespace command {
 // file of that name on the path. Nothing if there is none.
 std::optional<std::filesystem::path> find_on_path(const std::string& name);
 
-// The home of a JDK or JRE: what JAVA_HOME says, true or not, or else the one that the java on the path belongs to.
-// Nothing if there is neither.
+// The home of a JDK or JRE: what JAVA_HOME says, whether or not there is one, or else the one that the java on the path
+// belongs to. Nothing if there is neither.
 std::optional<std::filesystem::path> find_java_home();
 
 // The library of the VM in a home. Nothing if there is none.

@@ -47,7 +47,7 @@ void append_three_bytes(std::string& to, char32_t code) {
 }
 
 bool is_printable(char32_t code) {
-    // Marks and overrides of direction, and the separators of lines and paragraphs.
+    // Control characters, marks and overrides of direction, separators of lines and paragraphs.
     constexpr char32_t kRanges[][2] = {
         {0x00, 0x1F}, {0x7F, 0x9F}, {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}};
     return std::none_of(std::begin(kRanges), std::end(kRanges),

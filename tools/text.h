@@ -1,5 +1,5 @@
-// Names and messages as bytes: UTF-8 as the system has it, the form of it that class files have, and what a terminal
-// can be given.
+// Names and messages as bytes: the UTF-8 of the system, the form of it that is in class files, and what may be sent to
+// a terminal.
 #ifndef VANTREL_TEXT_H
 #define VANTREL_TEXT_H
 

@@ -1,7 +1,7 @@
-// What a Java class proxy is made of. A proxy is a namespace NS<C> for the Java class with the simple name C: the
-// cached identifiers of the class and its members, and one wrapper for each constructor and method. All 21 lie in jc/
-// and have one shape, so that who knows one knows all. Call wrappers, never FindClass or Call...Method, for a class
-// that has a proxy.
+// What a Java class proxy is made of. A proxy is a namespace NS<C> for the Java class with the simple name C. It has
+// the cached identifiers of the class and of its members, and one wrapper for each constructor and method. All 21
+// proxies lie in jc/ and have the same shape. Where a class has a proxy, call its wrappers, and never FindClass or
+// Call...Method.
 //
 //     jobject trace = NSThread::getStackTrace(env, thread);
 //
@@ -12,14 +12,14 @@
 //
 //     Init      looks up the class and all fields, and the methods of an eager proxy. Call it on an attached thread,
 //               once; a second call keeps the class reference.
-//     Destroy   gives the class reference back. The proxy is done with then: the variable keeps its stale value.
+//     Destroy   deletes the class reference. The proxy must not be used any more: its variable keeps the old value.
 //
 // Wrappers may run on any attached thread. The variables are read and written without a lock: identifiers are the same
 // for every thread that looks them up, and two threads that look a class up at once leak one global reference.
 //
-// Variables are named after Java's members, with the running index of the constructor or method in the class, which
-// tells overloads apart; the macros below spell the names. A field has no index. The index of every method of an eager
-// proxy is 0.
+// Variables are named after Java's members; the macros below spell the names. The name of a constructor or method ends
+// with its running index in the class, which tells overloads apart; in an eager proxy this index is always 0. A field
+// has no index.
 #ifndef JCBASE_H
 #define JCBASE_H
 

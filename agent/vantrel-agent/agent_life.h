@@ -16,15 +16,15 @@
 
 class AgentLife {
   public:
-    // Begins a life, whatever was said of the last one, or counts one more initialisation of the life there is, which
-    // is what a library that was named twice gets. Returns how many initialisations this life has had, 1 for its first.
+    // Begins a life if there is none. Where a library was named twice, its second initialisation finds one, and is only
+    // counted. Returns how many initialisations this life has had, 1 for its first.
     int begin();
 
     // Ends the life there is: from here on visitors leave at once. Returns whether there was one; where there was none,
     // nothing changes.
     bool end();
 
-    // Whether no visitor is inside. Where that is so after end(), nobody uses what the life had, and nobody ever will.
+    // Whether no visitor is inside. If that is so after end(), nobody uses what the life had, and nobody will again.
     [[nodiscard]] bool is_empty() const { return visitors_ == 0; }
 
   private:
@@ -38,7 +38,7 @@ class AgentLife {
 // The one life that the agent has at a time.
 extern AgentLife agent_life;
 
-// A thread's stay inside the agent, from the object's making to its end. Stays may lie within one another.
+// A thread's stay inside the agent, which lasts as long as this object. Stays may nest.
 class Visit {
   public:
     explicit Visit(AgentLife& life = agent_life) : life_(life), turned_away_((++life.visitors_, life.over_)) {}

@@ -8,7 +8,7 @@
 
 namespace {
 
-// A token of a filter list, with its terminating zero.
+// The longest token of a filter list, with its terminating zero.
 constexpr int kMaxTokenSize = 1024;
 
 // The longest path to a demo jar, with its terminating zero.
@@ -127,7 +127,7 @@ void add_demo_jar_to_bootclasspath(jvmtiEnv* jvmti, char* jarName) {
         fatal_error("ERROR: Java home not found\n");
     }
 
-    // The longer path decides, so that either fits.
+    // Both paths have to fit, so the longer one is measured.
     char path[kMaxJarPathSize];
     if (strlen(java_home) + 2 * strlen(jarName) + sizeof "/../demo/jvmti//.jar" > sizeof path) {
         fatal_error("ERROR: Path to jar file too long\n");

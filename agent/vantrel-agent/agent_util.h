@@ -36,11 +36,11 @@ JNIEXPORT char* get_token(char* str, char* separators, char* token, int maxLengt
 //   Class     every class whose name begins with `Class`
 //   Class.m   in the class `Class`, the methods that begin with `m`, and those that `m` begins with; the character
 //             between class and method may be any
-// A pattern of 1024 characters or more ends the list.
+// A pattern of 1024 characters or more ends the list: it and all patterns after it are ignored.
 JNIEXPORT int covered_by_list(char* list, char* className, char* methodName);
 
-// Whether a class and method pass a pair of filters (see covered_by_list): 1 unless the exclude list covers it, or
-// there is an include list and that does not. A null or empty list filters nothing.
+// Whether a pair of filters (see covered_by_list) lets a method of a class through: 1 unless the exclude list covers
+// it, or there is an include list that does not cover it. A null or empty list filters nothing.
 JNIEXPORT int interested(char* className, char* methodName, char* includeList, char* excludeList);
 
 // Allocates `len` bytes with JVMTI Allocate. Give them back with deallocate, or to the VM where it takes ownership.

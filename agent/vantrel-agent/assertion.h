@@ -1,5 +1,6 @@
-// Assertions are this library's failure model towards Java: a missing class, method or result ends the VM with a
-// report that names the expression. A build without them would run on with null references instead, so there is none.
+// Assertions are how this library fails where Java does: a missing class, method or result ends the VM with a report
+// that names the expression. Without them the library would go on with null references, so it does not compile without
+// them.
 #ifndef VANTREL_ASSERTION_H
 #define VANTREL_ASSERTION_H
 

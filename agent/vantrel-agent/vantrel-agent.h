@@ -1,36 +1,40 @@
 // The agent core: the entry points that a Java VM calls, the agent's one record of state, and the JVMTI callbacks.
 //
-// The VM calls Agent_OnLoad while it starts (-agentpath); that puts the companion jar, which lies in the folder of
-// this library, on the boot class path and enables three events: VM start, VM initialisation and the class-file-load
-// hook. From then on the core runs in the callbacks below, on whatever thread the VM reports an event from. When the VM
-// is initialised the proxies are filled, which gives the companion its native methods, and the hot key is bound.
+// The VM calls Agent_OnLoad while it starts (-agentpath). That puts the companion jar, which lies in the folder of this
+// library, on the boot class path, and enables three events: VM start, VM initialisation and the class-file-load hook.
+// From then on the core runs in the callbacks below, on whatever thread the VM reports an event. At VM initialisation
+// the proxies are filled, which also gives the companion its native methods, and the hot key is bound.
+//
+// Names and messages that look like slips (GetVantrelCassPath, a message without an end of line) are part of what
+// callers and users know, and stay as they are.
 #ifndef VANTREL_AGENT_H
 #define VANTREL_AGENT_H
 
 #include <jvmti.h>
 
-// The agent's state, one instance, zero until the library is mapped and never freed. Written before the first event
-// is enabled (but for `loaded`), so that callbacks read it without a lock.
+// The agent's state. The one instance is zero when the library is mapped, and is never freed. All but `loaded` is
+// written before the first event is enabled, so callbacks read it without a lock.
 struct AgentData {
     jvmtiEnv* jvmti;          // the environment that Agent_OnLoad obtained
     JavaVM* jvm;              // the VM that loaded the agent
     jrawMonitorID lock;       // the raw monitor "agent data"
-    const char* libraryPath;  // this library's file, as the dynamic loader knows it and owns it
+    const char* libraryPath;  // this library's file; the dynamic loader owns the text
     jint loaded;              // 1 once Agent_OnLoad has succeeded; for a debugger's eyes
 };
 extern AgentData gb_data;
 
 // Entry points, declared by jvmti.h and exported (JVMTI, "Agent Start-Up"):
 //
-// Agent_OnLoad sets the agent up. It ignores its options and returns 0, or -1 where the failure is handled there (with
-// a message, but for refused capabilities); a JVMTI failure from the boot class path on ends the process with status 3.
+// Agent_OnLoad sets the agent up. It ignores its options. It returns 0, or -1 if a step up to the search for the
+// companion jar fails; a message says which, except where the VM refuses the capabilities. A JVMTI call that fails
+// after that ends the process with status 3.
 //
 // Agent_OnAttach refuses with 1: in a running VM the classes that the agent replaces may already be loaded.
 //
 // Agent_OnUnload, which the VM calls while it shuts down, gives the hot key and the proxies' references back. It
-// attaches the thread it is called on. Where the VM was never initialised, or the agent has been unloaded already,
-// there are no references to give back; while a thread is inside the agent (agent_life.h) they stay as they are. A VM
-// that is initialised after that begins anew.
+// attaches the thread that it is called on. If the VM was never initialised, or the agent has been unloaded already,
+// there are no references to give back. If a thread is inside the agent (agent_life.h), they are not given back. A VM
+// that is initialised after that begins a new life.
 //
 // A library that is named twice is loaded, initialised and unloaded twice. The later initialisation fills the proxies
 // once more, says so on stderr, and binds no second hot key.
@@ -65,16 +69,17 @@ void JNICALL cbClassFileLoadHook(jvmtiEnv* jvmti, JNIEnv* jni, jclass class_bein
                                  const unsigned char* class_data, jint* new_class_data_len,
                                  unsigned char** new_class_data);
 
-// Initialises the 17 proxies that the agent uses, in the order that their needs of each other ask for, and asks for a
-// watch on java.awt.Component.parent. Returns what the VM says to that: JVMTI_ERROR_MUST_POSSESS_CAPABILITY, for the
-// agent does not take that capability.
+// Initialises the 17 proxies that the agent uses, each after those that it needs, and asks for a watch on
+// java.awt.Component.parent. Returns the VM's answer to that: JVMTI_ERROR_MUST_POSSESS_CAPABILITY, because the agent
+// does not take that capability.
 jvmtiError InitCacheJavaObjects(jvmtiEnv* jvmti, JNIEnv* jni);
 
-// Gives the references of the same 17 back, by gb_data.jvmti.
+// Deletes the references of the same 17 proxies.
 void DeleteCachedJavaObjects(JNIEnv* jni);
 
-// What the hot key does, on whatever thread that runs on: attaches it to the VM, for good, lifts the security manager,
-// and has the companion show the inspector. An exception that this throws is described on stderr.
+// What the hot key does. It attaches the thread that it is called on to the VM, and leaves it attached; lifts the
+// security manager; and has the companion show the inspector. If Java throws, the exception is described on stderr and
+// cleared.
 void keyCallback();
 
 // JVMTI callbacks that are installed and dormant: their events are never enabled.

@@ -22,7 +22,7 @@ Bytes branches(unsigned opcode, std::size_t count) {
     return times(count, branch(opcode, 0));
 }
 
-// Branches that lead nowhere far, a return that grows, and branches back over it, all of which have to grow.
+// Branches that stay short, a return that grows, and branches back over it, all of which have to grow.
 Bytes short_then_far(unsigned opcode) {
     Bytes code = cat({branches(opcode, 10940), {op::return_}});
     append(code, times(6450, branch(opcode, -kFarthest - 1)));
@@ -57,8 +57,8 @@ Bytes scattered(unsigned opcode, int most_to_spare) {
     return code;
 }
 
-// All that grows is at one end of what most branches jump over, and grows one by one. These branches have powers of two
-// to spare.
+// Everything that grows is at one end of what most branches jump over, and grows one by one. These branches have powers
+// of two to spare.
 Bytes one_sided(unsigned opcode) {
     constexpr int kCount = 7000;
     constexpr int kNops = 11000;
@@ -93,7 +93,8 @@ Bytes switches(unsigned opcode) {
 // other. The first one jumps over a return that grows.
 Bytes to_and_fro(int count) {
     constexpr std::size_t kBranchSize = 3;
-    constexpr std::size_t kStep = 5;  // a branch back, and what one forward to before it has the less to spare
+    // Each branch forward begins 3 bytes before the last one, and reaches 2 bytes less far.
+    constexpr std::size_t kStep = 5;
     constexpr std::size_t kBefore = 3 * kBranchSize;
     const auto all = static_cast<std::size_t>(count);
     const std::size_t first_forward = kBefore + kBranchSize * (all - 1);
@@ -155,7 +156,7 @@ Bytes scattered_around_switch(unsigned opcode) {
 Adversary adversary(const std::string& name, const Bytes& code) {
     ClassFile file;
     file.methods.push_back({.code = Code{.bytes = code}});
-    file.attributes = {{"Padding", times(60000, {0})}};  // lets the new image be long enough
+    file.attributes = {{"Padding", times(60000, {0})}};  // java_crw_demo lets an image grow in proportion to its length
     return {name, code.size(), assemble(file)};
 }
 

@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-// Of this thread, so far.
+// By the calling thread, so far.
 std::size_t allocations();
 
 #endif

@@ -50,6 +50,7 @@ struct Walker {
 
     void member_attributes() {
         attributes([this](const std::uint8_t* attribute) {
+            // In a Code attribute code_length has the offset 10, and the code 14 (JVM specification, 4.7.3).
             if (u2_at(attribute) == code_name) {
                 const std::uint32_t code_length = u4_at(attribute + 10);
                 instructions(attribute + 14, code_length);

@@ -1,4 +1,5 @@
-// A plain walk through a class file, to compare with: what has to be looked at to find all its instructions.
+// A plain walk through a class file, to compare the rewriter with: it looks only at what has to be looked at to find
+// all instructions.
 #ifndef VANTREL_BENCH_WALK_H
 #define VANTREL_BENCH_WALK_H
 

@@ -1,7 +1,8 @@
-# What cmake --install puts into place for a VM that loads the agent, and for other projects: the library and the jar that
-# it looks for beside itself, the rewriter as a library of its own, public headers, and how CMake and pkg-config find
-# all that. The folders are GNUInstallDirs'; everything finds everything else from where it lies, so that the whole may
-# be moved. What is not for developers, and is made anew for each system, is the component `runtime`.
+# What cmake --install puts into place for a VM that loads the agent, and for other projects: the library and the jar
+# that it looks for beside itself, the rewriter as a library of its own, public headers, and how CMake and pkg-config
+# find all that. The folders are those of GNUInstallDirs. Everything finds everything else from where it lies, so the
+# whole may be moved. The component `runtime` is what users need: scripts/release builds that part once more for old
+# Linux distributions.
 include(CMakePackageConfigHelpers)
 
 set(header_folder ${CMAKE_INSTALL_INCLUDEDIR}/vantrel)
@@ -19,8 +20,8 @@ install(FILES
     ${sources}/java_crw_demo/java_crw_demo.h
     ${sources}/java_crw_demo/vantrel_rewriter.h
     DESTINATION ${header_folder})
-# What proxies include, vantrel-generate's and others, by names such as "../JCBase.h". So that these are found wherever a
-# project has its proxies, compilers look into a folder that these are above.
+# The headers that proxies include by names such as "../JCBase.h". A compiler also looks for these from each folder that
+# it is told to search; with jc/ among those it finds them, wherever a project has its proxies.
 install(FILES ${CMAKE_CURRENT_LIST_DIR}/include-jc.txt DESTINATION ${header_folder}/jc RENAME README)
 install(FILES
     ${sources}/JCBase.h

@@ -1,6 +1,7 @@
-/* What a program has of glibc within itself, before glibc 2.33 and 2.34 took it into their shared library: it is linked
- * into each library and program that cmake/portable/c++ links. The compiler has its own of these, which bring a second
- * errno and, with it, a library that takes of the little room that a process has for such variables (static TLS). */
+/* The functions that glibc linked into each program until its versions 2.33 and 2.34 moved them into the shared
+ * library. cmake/portable/c++ links this file into each library and program. The compiler has such functions of its
+ * own, but they bring a second errno, and a library with that takes some of the little room that a process has for
+ * variables of this kind (static TLS). */
 #include <stddef.h>
 
 struct stat;
@@ -32,7 +33,7 @@ __attribute__((visibility("hidden"))) int fstatat(int folder, const char* path, 
 
 extern void* __dso_handle __attribute__((visibility("hidden")));
 
-/* On x86-64 a function may be given an argument that it does not know. */
+/* The cast is safe: on x86-64 a function may be given an argument that it does not take. */
 __attribute__((visibility("hidden"))) int atexit(void (*function)(void)) {
     return __cxa_atexit((void (*)(void*))function, NULL, &__dso_handle);
 }

@@ -194,6 +194,25 @@ TEST(SecondDoor, GrowsAsMuchAsIsNeeded) {
     EXPECT_EQ(too_long.run(), VANTREL_REWRITER_TOO_LARGE);
     EXPECT_THAT(too_long.result.sentence, HasSubstr("65535"));
 
+    // Each branch is widened by the calls after it, and gets a frame with the types of all locals.
+    constexpr std::size_t kBranches = 2900;
+    constexpr std::size_t kLocals = 250;
+    constexpr std::size_t kTarget = 32760;
+    Bytes code;
+    while (code.size() < 4 * kBranches) {
+        append(code, cat({u1(op::iconst_0), branch(op::ifeq, static_cast<std::int64_t>(kTarget - code.size() - 1))}));
+    }
+    append(code, times(3000, cat({u1(op::iconst_0), u1(op::newarray), u1(10), u1(op::pop)})));
+    append(code, cat({times(kTarget - code.size(), {op::nop}), {op::return_}}));
+    ClassFile wide = modern_class(
+        {.max_locals = kLocals, .bytes = code, .attributes = {stack_map_table({same_frame_extended(kTarget)})}});
+    for (std::size_t i = 0; i < kLocals; ++i) {
+        wide.methods[0].descriptor.insert(1, "[I");
+    }
+    Call frames(assemble(wide));
+    EXPECT_EQ(frames.run(), VANTREL_REWRITER_REWRITTEN) << frames.result.sentence;
+    EXPECT_GT(frames.result.length, kBranches * kLocals * 3);
+
     ClassFile full = modern_class({.bytes = {op::return_}});
     full.pool.fill(60000);
     EXPECT_EQ(Call(assemble(full)).run(), VANTREL_REWRITER_REWRITTEN);

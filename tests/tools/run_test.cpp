@@ -189,6 +189,9 @@ TEST(RunHelp, GoesToStdoutAndIsInTheManual) {
         }
     }
     EXPECT_THAT(run({kCommand, "--version"}).out, StartsWith("vantrel "));
+    const Finished full = run({"bash", "-c", "exec \"$@\" >/dev/full", "bash", kCommand, "--help"});
+    EXPECT_EQ(full.status, 125);
+    EXPECT_EQ(full.err, "vantrel: cannot write to standard output: No space left on device\n");
 }
 
 }  // namespace

@@ -51,14 +51,15 @@ std::string described(const Proxy& proxy, const Renaming& renaming) {
     return "a parameter of " + proxy.methods[renaming.member].wrapper + ", " + renaming.from + ",";
 }
 
-// Whether a method's variable is called otherwise just as its wrapper is.
+// Whether the renaming of a method's variable need not be reported, because the method's wrapper has been given the
+// same name.
 bool is_told_of_the_wrapper(const Renaming& renaming, const std::vector<Renaming>& all) {
     return renaming.kind == Renaming::kMethod && std::any_of(all.begin(), all.end(), [&](const Renaming& other) {
                return other.kind == Renaming::kWrapper && other.member == renaming.member && other.to == renaming.to;
            });
 }
 
-// A word becomes the stem of a parameter's name, and an object in no package has none.
+// A literal proxy is what GenerateFiles would write, and that takes no argument whose class is in no package.
 void refuse_unnamed_arguments(const Proxy& proxy) {
     for (const Method& method : proxy.methods) {
         for (const Argument& argument : method.arguments) {
@@ -72,7 +73,7 @@ void refuse_unnamed_arguments(const Proxy& proxy) {
     }
 }
 
-// The names as they would be otherwise, by the places of the members that have others.
+// For each renamed member, by its place in the proxy, a note of the name that it would have otherwise.
 std::map<size_t, std::string> changed(const std::vector<Renaming>& renamings, Renaming::Kind kind) {
     std::map<size_t, std::string> names;
     for (const Renaming& renaming : renamings) {

@@ -15,11 +15,11 @@ namespace generate {
 struct Output {
     std::filesystem::path folder;  // for the files; empty: the list alone is wanted
     FILE* list;                    // null: standard output is closed
-    bool literal;                  // names stay as they are, whatever C++ says to them
+    bool literal;                  // names stay as they are, even where C++ does not take them
     bool force;                    // files of other classes are replaced
     std::function<void(const std::string&)> report;
 
-    std::set<std::string> written = {};  // simple names: two classes with one would share their files
+    std::set<std::string> written = {};  // simple names; two classes of the same one would share their files
 };
 
 // The internal name, in modified UTF-8, of a class that is named with dots or slashes. Throws Failure if that is no

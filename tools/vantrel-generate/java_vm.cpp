@@ -14,11 +14,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The status of a run that was cut short.
-constexpr int kNothingDone = 2;
-
-// The agent's environment. It has to be made while the VM starts: only then can methods be had in the order of the
-// class file. Without that their order, and so the numbers of the wrappers, changes from run to run.
+// The environment of the agent that this command is to its VM. It has to be made while the VM starts, because only then
+// can methods be had in the order of the class file. Without that their order, and with it the numbers of the wrappers,
+// would change from run to run.
 jvmtiEnv* agent_jvmti = nullptr;
 
 fs::path find_home(const std::string& given) {
@@ -38,8 +36,9 @@ fs::path find_library(const fs::path& home) {
     throw command::Failure{"there is no Java VM in " + home.string()};
 }
 
-// A VM without the class library ends the process before it takes note of the abort hook. It looks for the classes from
-// where its own library is, links followed: in `modules`, or in `rt.jar` up to Java 8.
+// Throws where there is a VM, but not its class library: that VM would end the process before it knows of the abort
+// hook. A VM looks for its classes from the place of its own library, with links followed: for `modules`, or up to Java
+// 8 for `rt.jar`.
 void check_class_library(const fs::path& home, const fs::path& library) {
     fs::path folder = fs::canonical(library).parent_path();
     for (int up = 0; up < 4; ++up, folder = folder.parent_path()) {
@@ -50,13 +49,13 @@ void check_class_library(const fs::path& home, const fs::path& library) {
     throw command::Failure{"there is no whole Java in " + home.string() + ": it has a VM, but no classes"};
 }
 
-// The command itself leaves without the handlers of exit(), so whoever gets here is the VM: it could not start and has
-// said why, or a class's initialiser has called System.exit.
+// Runs when the process ends by exit(). The command itself ends by _Exit, so it is the VM that ends the process: either
+// it could not start and has said why, or a class's initialiser has called System.exit.
 void vm_ended_the_process() {
     fflush(stdout);
     fputs("vantrel-generate: the Java VM has ended the process\n", stderr);
     fflush(stderr);
-    _Exit(kNothingDone);
+    _Exit(generate::kNothingDone);
 }
 
 }  // namespace
@@ -86,8 +85,8 @@ generate::RunningVm generate::start_vm(const std::string& java_home, const std::
         throw command::Failure{path.string() + " is no Java VM"};
     }
 
-    // The VM does not write to the texts.
-    // exit() is what a VM ends with once it runs, its abort hook what it calls before.
+    // A VM that ends the process calls its abort hook while it starts, and exit() once it runs: both lead to
+    // vm_ended_the_process. The casts are safe, because the VM does not write to the texts of its options.
     atexit(vm_ended_the_process);
     std::vector<JavaVMOption> all = {{const_cast<char*>("abort"), reinterpret_cast<void*>(vm_ended_the_process)},
                                      {const_cast<char*>("-agentlib:vantrel_generate"), nullptr}};

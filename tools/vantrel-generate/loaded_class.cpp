@@ -15,7 +15,7 @@ std::string take_exception(JNIEnv* env) {
     jclass throwable = env->FindClass("java/lang/Throwable");
     jmethodID get_cause = env->GetMethodID(throwable, "getCause", "()Ljava/lang/Throwable;");
     jmethodID to_string = env->GetMethodID(throwable, "toString", "()Ljava/lang/String;");
-    // A cause may be its own.
+    // Not without end: exceptions may be causes of each other.
     for (int depth = 0; depth < 8; ++depth) {
         auto* const cause = static_cast<jthrowable>(env->CallObjectMethod(thrown, get_cause));
         if (env->ExceptionCheck() != JNI_FALSE || cause == nullptr) {
@@ -54,7 +54,7 @@ bool generate::is_identifier_character(JNIEnv* env, char32_t character, bool beg
         jmethodID method = env->GetStaticMethodID(type, question, "(I)Z");
         return env->CallStaticBooleanMethod(type, method, static_cast<jint>(character)) != JNI_FALSE;
     };
-    // Java lets control characters stand in identifiers, and ignores them there.
+    // Java has control characters among the parts of an identifier and ignores them; C++ does not take them.
     const bool is_one =
         begins ? ask("isUnicodeIdentifierStart") : ask("isUnicodeIdentifierPart") && !ask("isIdentifierIgnorable");
     env->DeleteLocalRef(type);

@@ -20,7 +20,8 @@ struct LocalFrame {
 // The class of an internal name in modified UTF-8, loaded and initialised. Throws Failure if it cannot be.
 jclass load_class(JNIEnv* env, const std::string& internal_name);
 
-// Whether a character may stand in an identifier, or begin one, as Unicode has it.
+// Whether a character may stand in an identifier by the rules of Unicode; with `begins`, whether it may be the first
+// one.
 bool is_identifier_character(JNIEnv* env, char32_t character, bool begins);
 
 }  // namespace generate

@@ -2,10 +2,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <exception>
 #include <filesystem>
 #include <set>
@@ -17,20 +15,22 @@
 #include "arguments.h"
 #include "class_output.h"
 #include "class_path.h"
+#include "command_line.h"
 #include "failure.h"
 #include "java_vm.h"
 #include "text.h"
 
 namespace fs = std::filesystem;
 using generate::Arguments;
+using generate::kNothingDone;
 
 namespace {
 
 constexpr int kAllWell = 0;
 constexpr int kClassFailed = 1;
-constexpr int kNothingDone = 2;
 
-// A line that the next one on stderr, whoever writes it, goes over. It must not be wider than the terminal for that.
+// Shows a line over which the next one on stderr is written, whoever writes that. This only works if it is not wider
+// than the terminal, so the name is cut.
 void show_progress(size_t number, size_t count, const std::string& name) {
     static const bool is_shown = isatty(STDERR_FILENO) != 0;
     if (is_shown && count > 1) {
@@ -50,7 +50,8 @@ void report(const std::string& message) {
 }
 
 std::vector<std::string> vm_options(const Arguments& arguments) {
-    // Ours come first, so that the user's win. Standard output is for --list: what the VM has to say is not.
+    // Our options come first, so that those of the user win. What the VM itself prints goes to stderr, because stdout
+    // is for --list alone.
     std::vector<std::string> options = {"-XX:+DisplayVMOutputToStderr", "-Djava.awt.headless=true",
                                         "-Djava.class.path=" + generate::expand_class_path(arguments.class_path)};
     options.insert(options.end(), arguments.vm_options.begin(), arguments.vm_options.end());
@@ -65,8 +66,8 @@ void make_folder(const fs::path& folder) {
     }
 }
 
-// Standard output, for the list alone: from here on what others write to it goes to stderr, as a class may when it is
-// initialised. Null if it is closed.
+// Keeps standard output for the list alone: what others write to it from here on, such as a class while it is
+// initialised, goes to stderr. Null if standard output is closed.
 FILE* take_standard_output() {
     const int taken = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
     dup2(STDERR_FILENO, STDOUT_FILENO);
@@ -101,20 +102,12 @@ int generate_all(const Arguments& arguments) {
     return status;
 }
 
-// Prints what --help and --version ask for.
-int print(const std::string& text) {
-    if (fputs(text.c_str(), stdout) < 0 || fflush(stdout) != 0) {
-        report(std::string("cannot write to standard output: ") + strerror(errno));
-        return kNothingDone;
-    }
-    return kAllWell;
-}
-
 int run(int argc, char** argv) {
     try {
         const auto parsed = generate::parse_arguments(argc, argv);
         if (const auto* text = std::get_if<std::string>(&parsed)) {
-            return print(*text);
+            command::print(*text);
+            return kAllWell;
         }
         return generate_all(std::get<Arguments>(parsed));
     } catch (const command::Failure& failure) {

@@ -19,7 +19,7 @@ std::optional<std::string> text_of(const fs::path& path) {
     return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
-// The internal name with which a proxy's Init looks its class up, as the literal has it; empty in what is no proxy.
+// The internal name of the class that a proxy's Init looks up, as its literal spells it. Empty if the body is no proxy.
 std::string class_in(const std::string& body) {
     const size_t line = body.find("\tINIT_CACHE_CLASS(jni_env, ");
     const size_t begin = line != std::string::npos ? body.find('"', line) : line;

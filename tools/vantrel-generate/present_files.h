@@ -9,8 +9,9 @@
 
 namespace generate {
 
-// Why the two files must not be replaced by those of a proxy: they are another class's, or no proxy's at all. An empty
-// text where nothing is in the way. A header alone does not tell the package of its class.
+// Why the two files must not be replaced by those of a proxy: they belong to another class, or are no proxy at all. An
+// empty text if they may be. Only a body tells the whole name of its class, so a header without one only has to look
+// like a proxy.
 std::string not_to_be_replaced(const generator::Proxy& proxy, const std::filesystem::path& header,
                                const std::filesystem::path& body);
 

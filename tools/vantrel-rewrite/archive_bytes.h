@@ -16,13 +16,13 @@ class ArchiveBytes {
 
     [[nodiscard]] std::uint64_t size() const { return size_; }
 
-    // Whether there are so many bytes at a position, which lies anywhere.
+    // Whether there are `size` bytes from a position on. Both may be any number.
     [[nodiscard]] bool holds(std::uint64_t position, std::uint64_t size) const;
 
-    // Exactly so many bytes. Returns false where they are not there; throws a Failure where the system refuses.
+    // Reads exactly `size` bytes. Returns false if they are not there; throws a Failure if the system refuses.
     bool read(std::uint64_t position, unsigned char* to, size_t size) const;
 
-    // Bytes that are held, as an archive of their own.
+    // A part of the bytes, as an archive of its own. The part must be inside (holds).
     [[nodiscard]] ArchiveBytes part(std::uint64_t position, std::uint64_t size) const;
 
   private:

@@ -24,7 +24,7 @@ struct TrackerCalls {
     bool system_class = false;
 };
 
-// What a tracker of our own counts, in the place of one of the user's. Neither where there is one of the user's.
+// What our own tracker counts. Both are false if the user has named a tracker.
 struct CountedThings {
     bool calls = false;   // calls, returns and arrays
     bool unused = false;  // what never ran

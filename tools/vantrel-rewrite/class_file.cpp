@@ -7,7 +7,7 @@ namespace vantrel_rewrite {
 
 namespace {
 
-// Reads an image from its begin to its end, and nothing beyond.
+// Reads an image from its first byte to its last, and nothing beyond.
 class Reader {
   public:
     explicit Reader(BytesView image) : image_(image) {}
@@ -41,11 +41,12 @@ class Reader {
 
 enum Tag { kUtf8 = 1, kLong = 5, kDouble = 6, kClass = 7, kNewestTag = 20 };
 
-// How many bytes come after the tag (JVM specification 4.4); 0 where there is no such tag. Of a text, its length.
+// By tag, how many bytes come after it (JVM specification 4.4); for a text, only those of its length. 0 where there is
+// no such tag.
 constexpr unsigned char kConstantSizes[kNewestTag + 1] = {0, 2, 0, 4, 4, 8, 8, 2, 2, 4, 4,
                                                           4, 4, 0, 0, 3, 2, 4, 4, 2, 2};
 
-// The constants that names lead to, by their numbers.
+// The constant pool, as far as names need it.
 class Constants {
   public:
     explicit Constants(Reader& reader) {
@@ -64,7 +65,7 @@ class Constants {
                 bytes = reader.bytes(value);
             }
             constants_[index] = {tag, value, bytes};
-            index += tag == kLong || tag == kDouble ? 1 : 0;  // these count twice
+            index += tag == kLong || tag == kDouble ? 1 : 0;  // these take two indexes
         }
     }
 

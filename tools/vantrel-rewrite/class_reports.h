@@ -31,9 +31,9 @@ struct ClassReport {
     std::string place;
 };
 
-// Takes reports in the order of the classes' numbers, one thread at a time: counts them, writes the map, and keeps
-// notes until all is done, for a run that fails says one thing only. Classes that failed and those that were kept are
-// named, up to ten of each; if it is to be verbose, all are that were not rewritten.
+// Takes reports in the order of the classes' numbers, from one thread at a time. Counts them, writes the map, and
+// collects notes, which are shown when all is done: a run that fails only says why. Classes that failed and those that
+// were kept are named, up to ten of each; a verbose run names all that were not rewritten.
 class ClassReports {
   public:
     //   map   where the map is made; nothing where none is wanted
@@ -42,10 +42,10 @@ class ClassReports {
     //   where   the class's file, and its entry if that is a jar
     void add(const std::string& where, const ClassReport& report);
 
-    // Adds a line to the notes. What a terminal would act upon is taken out of it.
+    // Adds a line to the notes. Characters on which a terminal would act are escaped.
     void note(const std::string& line);
 
-    // When all are there. Throws a Failure if the map cannot be written.
+    // To be called after the last report. Throws a Failure if the map cannot be written.
     Summary finish();
 
     // Lines for stderr, once all is finished.

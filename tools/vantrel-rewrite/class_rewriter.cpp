@@ -13,8 +13,8 @@ namespace vantrel_rewrite {
 
 namespace {
 
-// More than any class file has: compilers write some megabytes at most, and a VM takes one of 2 GB at most. What is
-// packed as a class may unpack to more, and is not read further then.
+// More than any class file has: compilers write some megabytes at most, and a VM takes 2 GB at most. A packed entry may
+// unpack to more, and is not read any further.
 constexpr size_t kLargestClass = size_t{256} << 20U;
 
 // What the rewriter's callback is given: of which class the lines are, and where they go.
@@ -91,7 +91,8 @@ VantrelRewriterOptions options_for(const TrackerCalls& tracker, unsigned number,
     return options;
 }
 
-// A module lists its packages where the tool that made its jar has told it to. Then ours must be among them.
+// The tool that made the jar may have put a list of the module's packages into its module-info. If so, the tracker's
+// package must be in that list.
 RewrittenClass module_info(const ClassSource& source, const std::string& place, BytesView image,
                            const ClassFile& file) {
     RewrittenClass result = not_rewritten(Outcome::NoCode, "a module-info has no code");

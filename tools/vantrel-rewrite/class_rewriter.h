@@ -30,14 +30,14 @@ struct RewrittenClass {
     Outcome outcome = Outcome::Failed;
     std::string reason;     // why it was not rewritten, for the user; or what the user has to know if it was
     std::string map_lines;  // of its methods; empty where it was not rewritten
-    std::string place;      // the same, and where nothing is counted
+    std::string place;      // of a class that was rewritten, where things are counted (counting.h); else empty
     Bytes image;            // empty where it is to stay as it is
 };
 
 // Names in a map, and in what is made of one: a tab, line end or backslash in them is written as \t, \n, \r, \\.
 std::string escaped(std::string_view name);
 
-// Reads on in a class file: at most so many bytes, fewer only at its end.
+// Reads the next bytes of a class file: as many as are asked for, and fewer only at its end.
 using ReadClass = std::function<Bytes(size_t at_most)>;
 
 // Reads no more of the file than it takes to decide. What `read` throws is thrown on. Any number of threads may rewrite

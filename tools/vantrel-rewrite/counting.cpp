@@ -45,7 +45,7 @@ bool is_number(std::string_view text) {
     return !text.empty() && std::all_of(text.begin(), text.end(), [](unsigned char digit) { return isdigit(digit); });
 }
 
-// "" for "META-INF/versions/11/".
+// A place without the version that a multi-release jar has at its end: "" for "META-INF/versions/11/".
 std::string_view without_version(std::string_view place) {
     const size_t versions = place.rfind(kVersions);
     if (versions == std::string_view::npos || (versions > 0 && place[versions - 1] != '/')) {
@@ -131,6 +131,7 @@ std::vector<AddedFile> Counting::files() const {
             add(file.name.substr(kCompiledPackage.size()), file.contents);
         }
         const std::string where = place.empty() ? label_ : label_ + '/' + place.substr(0, place.size() - 1);
+        // count/MethodNames.java reads this.
         const std::string text = std::string(arguments_.counted.calls ? "called" : "") +
                                  (arguments_.counted.unused ? " unused\n" : "\n") + escaped(where) + '\n' + lines;
         add("/methods.gz", gzip(bytes_of(text)));

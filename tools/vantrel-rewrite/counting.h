@@ -2,11 +2,12 @@
 // a tracker of its own, whose classes (count/) lie in a package that nothing else has.
 //
 // A place is what stands before the class's own name in the name of its file: nothing in most jars, "BOOT-INF/classes/"
-// and the like in others. A version of a class in a multi-release jar is of the place that it is a version for. So the
-// classes of a place find their tracker wherever they are loaded from: the class path, a module, a class loader of the
-// program's, also after somebody has taken jars out of each other. A program that keeps classes somewhere in its jar
-// and defines them by itself may look for the tracker in the jar only, so one of any place lies at the top, too. Two
-// jars' counters are not mixed up, for their trackers are different classes.
+// and the like in others. A version of a class in a multi-release jar belongs to the place that it is a version for. So
+// the classes of a place find their tracker wherever they are loaded from: the class path, a module, or a class loader
+// of the program's; and even if somebody has taken the inner jars out of their jar. A program may also keep classes
+// somewhere in its jar, define them by itself, and let them find others at the top of the jar only. So the tracker of
+// each place lies at the top as well. The counters of two jars are not mixed up, because their trackers are different
+// classes.
 #ifndef VANTREL_REWRITE_COUNTING_H
 #define VANTREL_REWRITE_COUNTING_H
 

@@ -44,8 +44,8 @@ struct NewFile {
     std::filesystem::path final;  // where it is put when all is done; for messages
 };
 
-// A new file that is open for writing. It is there when the constructor returns, with the permissions that `cp` would
-// give to a copy of a file that has those given.
+// A new file that is open for writing. The constructor makes it, with the given permissions less those that the umask
+// takes away, as `cp` does.
 class OutputFile {
   public:
     explicit OutputFile(const NewFile& file, mode_t permissions = 0666);

@@ -14,15 +14,15 @@ enum class Kind {
     Other  // in a folder; carried over
 };
 
-// A file's status, seen through links; not_found is one. Throws a Failure for a file that cannot be looked at.
+// The status of a file, or of what a link leads to; not_found is a status, too. Throws a Failure for a file that cannot
+// be looked at.
 std::filesystem::file_status status_of(const std::filesystem::path& path);
 
-// What an input of the command line is. Its name need not tell: what begins like a class file or an archive, or ends
-// like an archive, is one.
-// Throws a Failure for what is neither a class file, nor a jar, nor a folder.
+// What an input of the command line is: by its name or, where that does not tell, by how it begins, or because it ends
+// like an archive. Throws a Failure for what is neither a class file, nor a jar, nor a folder.
 Kind kind_of_input(const std::filesystem::path& input);
 
-// What is in a folder goes by its name and by what kind of file it is. Throws a Failure for a device and the like.
+// What an entry of a folder is, by its kind of file and its name. Throws a Failure for a device and the like.
 Kind kind_in_folder(const std::filesystem::directory_entry& entry);
 
 }  // namespace vantrel_rewrite

@@ -18,14 +18,16 @@ void remember(int number) {
 void watch_for(int number) {
     struct sigaction action {};
     struct sigaction before {};
-    action.sa_handler = remember;  // without SA_RESTART: what waits for a pipe is to come back
+    action.sa_handler = remember;  // without SA_RESTART, so that a call that waits for a pipe returns
     sigemptyset(&action.sa_mask);
+    // A signal that is ignored, as in a background job or under nohup, stays ignored.
     if (sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN) {
         sigaction(number, &action, nullptr);
-    }  // ignored in a job in the background, or below nohup, it stays so
+    }
 }
 
-// All that end a process but those that tell of its own faults.
+// All signals that end a process, except KILL and those that report a fault of the process. The real-time signals,
+// which have no constants, are in watch().
 constexpr int kEnding[] = {
     SIGHUP, SIGINT, SIGQUIT,   SIGUSR1, SIGUSR2, SIGALRM, SIGTERM, SIGXCPU, SIGVTALRM, SIGPROF,
 #ifdef __linux__

@@ -7,9 +7,9 @@ namespace vantrel_rewrite::interrupt {
 // Thrown where the mark is seen.
 struct Interrupted {};
 
-// From now on all signals that would end the process leave the mark, unless they were ignored before; not KILL, which
-// cannot, nor those that tell of faults, as SEGV does. A closed pipe and a file that
-// grows too large are errors of writing, and no longer end the process.
+// From now on each signal that would end the process leaves the mark, unless it was ignored before. Exceptions are
+// KILL, which cannot be caught, and those that report a fault of the process, such as SEGV. Writing to a closed pipe,
+// or more to a file than is allowed, becomes an error of writing and no longer ends the process.
 void watch();
 
 bool requested();

@@ -7,7 +7,7 @@ namespace vantrel_rewrite {
 
 namespace {
 
-// Whether a pattern, in which `*` stands for any characters or none, is a name's.
+// Whether a pattern fits a name. In it, `*` stands for any characters or none.
 bool matches(std::string_view pattern, std::string_view name) {
     const size_t star = pattern.find('*');
     if (star == std::string_view::npos) {

@@ -41,8 +41,7 @@ int report(const std::string& line) {
     return kNoResult;
 }
 
-// The results are in place when the summary is printed, so that a pipe which is closed by then is not a failure of
-// theirs.
+// The results are in place when the summary is printed. So if that fails, as with a closed pipe, the results stay.
 bool print_if_possible(const std::string& summary) {
     try {
         standard_output::print(summary);
@@ -79,7 +78,7 @@ int main(int argc, char** argv) {
         interrupt::end_by_signal();
     } catch (const command::Failure& failure) {
         if (interrupt::requested()) {
-            interrupt::end_by_signal();  // which may be why it failed
+            interrupt::end_by_signal();  // the signal may be why it failed
         }
         return report(failure.line);
     } catch (const std::bad_alloc&) {

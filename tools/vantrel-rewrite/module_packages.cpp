@@ -8,7 +8,7 @@ namespace {
 
 constexpr unsigned kUtf8 = 1;
 constexpr unsigned kPackage = 20;
-constexpr size_t kAttributeSize = 4;  // in front of an attribute's contents
+constexpr size_t kAttributeSize = 4;  // the number in front of an attribute's contents that says how long they are
 
 void append(Bytes& to, size_t number, size_t size) {
     while (size-- > 0) {

@@ -8,8 +8,8 @@
 
 namespace vantrel_rewrite {
 
-// A module-info with one more package in the list of all that its module has (JVM specification 4.7.26); nothing if it
-// has no such list, for then a VM looks for packages by itself. Throws Malformed if there is no room for one more.
+// A module-info with one more package in the list of the packages of its module (JVM specification 4.7.26). Nothing if
+// it has no such list: then a VM looks for the packages itself. Throws Malformed if there is no room for one more.
 //   image     the module-info, and `file` its outline
 //   package   in internal form
 Bytes with_package(BytesView image, const ClassFile& file, std::string_view package);

@@ -14,12 +14,12 @@ namespace vantrel_rewrite {
 
 namespace {
 
-// Entries up to this size are unpacked at once. Of larger ones the begin is looked at first, for a VM would not take
-// most of them as classes, and an archive of some kilobytes may unpack to as much as it likes.
+// Entries up to this size are unpacked as a whole when they are first read. Of larger ones only the first bytes are
+// unpacked at first: most of those are not what a VM takes as a class, and some kilobytes may unpack to gigabytes.
 constexpr std::uint64_t kSmall = std::uint64_t{1} << 20U;
-// Entries that are no class: manifests, and jars inside of jars.
+// The largest entry that is read where it is no class: a manifest, or a jar inside of a jar.
 constexpr std::uint64_t kLargest = std::uint64_t{1} << 30U;
-// No deflated byte becomes more.
+// One deflated byte unpacks to this many at most.
 constexpr std::uint64_t kMostGrowth = 1032;
 
 struct FreeDecompressor {
@@ -56,7 +56,7 @@ Bytes EntryReader::packed(std::uint64_t at_most) const {
     return bytes;
 }
 
-// Fewer bytes where there are no more of them.
+// The first bytes of the contents: `size` of them, or fewer if there are no more.
 Bytes EntryReader::begin(size_t size) const {
     if (entry_.method == zip::kStored) {
         return packed(size);

@@ -1,5 +1,5 @@
-// The contents of an archive's entries: packed to what they are, and back. Most of the time that a jar costs goes here,
-// so whole entries are packed at once, on many threads.
+// Packs and unpacks the contents of an archive's entries. Most of the time that a jar costs goes here, so whole entries
+// are packed at once, on many threads.
 #ifndef VANTREL_REWRITE_PACKED_ENTRY_H
 #define VANTREL_REWRITE_PACKED_ENTRY_H
 
@@ -11,7 +11,7 @@
 
 namespace vantrel_rewrite {
 
-// An entry that is unpacked when it is read, and no more of it than that takes.
+// Reads one entry, and unpacks little more of it than is read.
 class EntryReader {
   public:
     //   path   the archive's, for messages. All arguments must outlive this.
@@ -35,7 +35,7 @@ class EntryReader {
     size_t position_ = 0;
 };
 
-// The whole of an entry that is of some size at most. Throws a Failure, also for a larger one.
+// The whole of an entry. Throws a Failure, also for one that is larger than 1 GB.
 Bytes read_entry(const ArchiveBytes& archive, const ZipEntry& entry, const std::string& path);
 
 // An entry's new contents, as they go into the archive.

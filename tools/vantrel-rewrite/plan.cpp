@@ -34,7 +34,7 @@ std::vector<Result> contents_of(const Result& folder) {
     return contents;
 }
 
-// The tracker that is added for the counting of classes lies beside them.
+// To count, a tracker is put beside the classes, and a single class file has no place for one.
 void check_for_counting(const Arguments& arguments, const Result& result) {
     if (arguments.counted.any() && result.kind == Kind::ClassFile) {
         throw command::Failure{result.source.string() + " is a single class file, and what counts has no place beside" +

@@ -19,12 +19,12 @@ namespace vantrel_rewrite {
 // One file or folder that is made.
 struct Piece {
     Kind kind;
-    std::filesystem::path source;  // nothing, for a folder that only holds the results
+    std::filesystem::path source;  // empty for the new folder that all results go into
     NewFile target;
     size_t first_class = 0;  // the number of its first class
-    JarContents jar;         // nothing, for what is none
-    std::string label;       // the input's own name, and what is in that below it
-    size_t folder = 0;       // for what is in a folder that is an input: which one
+    JarContents jar;         // empty for what is no jar
+    std::string label;       // the input's own name, with the path inside the input after it
+    size_t folder = 0;       // for what is in a FolderInput: its index in Plan::folders
 };
 
 // An input that is a folder.
@@ -32,9 +32,9 @@ struct FolderInput {
     NewFile target;
     std::string label;
     size_t first_class;
-    std::vector<std::string> class_files;  // with what is above them in the folder; not those in jars
+    std::vector<std::string> class_files;  // their paths inside the folder; not those in jars
 
-    // What a class file in it is called there.
+    // The path inside the folder of a piece with this label.
     [[nodiscard]] std::string_view name_in(const std::string& piece_label) const {
         return std::string_view(piece_label).substr(label.size() + 1);
     }

@@ -16,7 +16,7 @@ namespace vantrel_rewrite {
 
 namespace {
 
-// How much of a jar is rewritten before it is written: enough for many threads, and little beside what a process has.
+// How much of a jar is rewritten before it is written: enough to keep many threads busy, but little memory.
 constexpr size_t kMostEntries = 4096;
 constexpr std::uint64_t kMostBytes = std::uint64_t{64} << 20U;
 
@@ -36,22 +36,22 @@ struct Jar {
     const ArchiveBytes& bytes;
     const JarContents& contents;
     std::string label;  // for the counting
-    size_t next_class;  // its number
+    size_t next_class;  // the number of the next class to be rewritten
     ZipWriter::Sink sink;
-    // A jar in it, or nothing where none of that one's classes is rewritten. Not there for a jar that is in another
-    // one.
+    // Rewrites a jar in this one. Returns nothing if none of its classes was rewritten. Null for a jar that is itself
+    // inside of another one: jars in that are carried over.
     std::optional<PackedEntry> (*rewrite_inner)(Jar& jar, const ZipEntry& entry);
     size_t first_class = next_class;
     std::optional<Counting> counting = {};
     std::optional<ZipWriter> writer = {};  // there is none before the first change
-    size_t dropped = 0;                    // files of signatures
+    size_t dropped = 0;                    // how many signature files
 };
 
 const std::vector<ZipEntry>& entries_of(const Jar& jar) {
     return jar.contents.directory.entries;
 }
 
-// What classes are told to a tracker of the jar's own is their number in the jar.
+// Our own tracker is told the number of the class in this jar, the user's its number among all inputs.
 ClassResult rewrite_entry(const Jar& jar, const ZipEntry& entry, size_t number) {
     RewrittenClass result;
     ClassSource source;
@@ -93,7 +93,7 @@ Changes rewrite_classes(Jar& jar, const std::vector<size_t>& classes) {
     return changes;
 }
 
-// The manifest without the digests of entries; nothing where it has none.
+// The manifest without the digests of entries; nothing if there are none in it.
 std::optional<PackedEntry> cleaned_manifest(const Jar& jar, const ZipEntry& manifest) {
     const Bytes old = read_entry(jar.bytes, manifest, jar.path);
     const std::string cleaned = without_digests({reinterpret_cast<const char*>(old.data()), old.size()});

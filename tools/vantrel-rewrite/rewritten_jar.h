@@ -11,7 +11,7 @@ namespace vantrel_rewrite {
 // carried over as it is (zip_writer.h), but signatures are dropped (jar_signature.h). A jar whose classes all stay is
 // copied, with its signatures. Reports on all classes, in their order. Throws a Failure, or Interrupted.
 //
-// Where things are counted, each of these jars gets a tracker of its own at its end (counting.h).
+// For --count and --unused, each of these jars gets a tracker of its own at its end (counting.h).
 void write_rewritten_jar(Work& work, const Piece& piece);
 
 }  // namespace vantrel_rewrite

@@ -52,8 +52,8 @@ int lock(const fs::path& folder) {
     return descriptor;
 }
 
-// A process that is in another container or on another machine may look dead, but it has its lock. Where a file system
-// has no locks, nothing is removed.
+// Removes the hidden folders that killed processes have left behind. A process in another container or on another
+// machine may look dead, but it still has its lock. Where a file system has no locks, nothing is removed.
 void remove_abandoned(const fs::path& parent) {
     std::error_code ignored;
     for (fs::directory_iterator entry(parent, ignored), end; !ignored && entry != end; entry.increment(ignored)) {

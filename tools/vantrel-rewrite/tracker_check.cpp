@@ -47,7 +47,7 @@ std::optional<Bytes> find_class(const fs::path& place, const std::string& name) 
     return entry == directory.entries.end() ? std::nullopt : std::optional(read_entry(bytes, *entry, place));
 }
 
-// The outline of a class in the first place of a class path that has it.
+// The outline of a class, from the first place of a class path that has it.
 std::optional<ClassFile> load(const std::string& path, const std::string& name) {
     std::istringstream places(path);
     for (std::string place; std::getline(places, place, ':');) {
@@ -62,7 +62,8 @@ std::optional<ClassFile> load(const std::string& path, const std::string& name) 
     return std::nullopt;
 }
 
-// Fails with what is wrong with the method that `name` is nearest to.
+// Fails unless the tracker, or a class that it extends, has this method, public and static. The message tells what is
+// nearest to it.
 void check_method(const std::string& path, const ClassFile& tracker, const std::string& tracker_name,
                   const std::string& name, const std::string& descriptor) {
     std::string others;

@@ -16,13 +16,13 @@ struct Work {
     ClassReports reports;
 };
 
-// What is told of a class whose new image has been taken.
+// The report on a class. Its new image must have been taken out of `result`.
 inline ClassReport report_on(RewrittenClass result) {
     return {result.outcome, std::move(result.reason), std::move(result.map_lines), std::move(result.place)};
 }
 
-// Takes the reports of classes in the order of their numbers.
-//   counting   of what they are in; null where nothing is counted
+// Hands on the report on a class. To be called in the order of the classes' numbers.
+//   counting   that of the jar or folder that the class is in; null where nothing is counted
 inline void add_report(Work& work, Counting* counting, const std::string& where, const ClassReport& report) {
     work.reports.add(where, report);
     if (counting != nullptr && report.outcome == Outcome::Rewritten) {

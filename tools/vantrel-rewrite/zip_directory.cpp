@@ -16,7 +16,8 @@ size_t size_of_record(const unsigned char* at) {
     return record::kSize + u2(at + record::kNameSize) + u2(at + record::kExtraSize) + u2(at + record::kCommentSize);
 }
 
-// Replaces the numbers of an entry that are wide. Returns false where they are not there.
+// Reads those numbers of an entry that do not fit into 32 bits from its extra field. Returns false if they are not
+// there.
 bool read_wide_numbers(const unsigned char* at, ZipEntry& entry) {
     std::vector<std::uint64_t*> missing;
     for (std::uint64_t* number : {&entry.size, &entry.packed_size, &entry.header}) {
@@ -98,7 +99,8 @@ DirectoryPlace place_in(const ArchiveBytes& archive, std::uint64_t end, const un
     if (end >= sizeof locator && archive.read(end - sizeof locator, locator, sizeof locator) &&
         u4(locator) == wide_end_locator::kBegin) {
         unsigned char wide[wide_end_record::kSize];
-        // The second place is right where something was put before the archive.
+        // The locator may be wrong if something was put in front of the archive. Then the record stands right before
+        // the locator.
         for (const std::uint64_t place :
              {u8(locator + wide_end_locator::kEndRecord), end - sizeof locator - sizeof wide}) {
             if (archive.read(place, wide, sizeof wide) && u4(wide) == wide_end_record::kBegin) {
@@ -110,7 +112,8 @@ DirectoryPlace place_in(const ArchiveBytes& archive, std::uint64_t end, const un
     return {u4(at + end_record::kDirectory), u4(at + end_record::kDirectorySize), u2(at + end_record::kCount), end};
 }
 
-// The directory is before the record that tells of it, as VMs have it, or else where the record says.
+// The directory ends where the record that describes it begins; VMs find it so. If it does not, it is at the position
+// that the record tells.
 std::optional<ZipDirectory> directory_before(const ArchiveBytes& archive, const DirectoryPlace& place) {
     if (place.size <= place.end) {
         if (auto directory = directory_at(archive, place.end - place.size, place)) {
@@ -140,8 +143,8 @@ std::optional<ZipDirectory> find_directory(const ArchiveBytes& archive) {
     return std::nullopt;
 }
 
-// Looks at what is before each entry's contents. Returns false where entries overlap or are not there, for then a copy
-// of all could be of any size.
+// Reads the header in front of each entry's contents, which tells where these begin. Returns false if an entry is not
+// there, or overlaps with another one: from such an archive, a copy of all entries could be of any size.
 bool find_contents(const ArchiveBytes& archive, ZipDirectory& directory) {
     std::vector<std::pair<std::uint64_t, std::uint64_t>> places;
     const std::uint64_t end = directory.begin;

@@ -18,15 +18,15 @@ struct ZipEntry {
     std::uint32_t crc;
     std::uint64_t packed_size;
     std::uint64_t size;
-    std::uint64_t header;  // where in the archive's bytes
-    std::uint64_t data;    // the same, of its contents
-    size_t record;         // where in the directory's bytes
+    std::uint64_t header;  // where its header is in the archive's bytes
+    std::uint64_t data;    // where its contents are there
+    size_t record;         // where its record is in ZipDirectory::bytes
     size_t record_size;
 };
 
 struct ZipDirectory {
-    // What the positions that the archive tells lack. It is not 0 where something (a start script) was put before an
-    // archive which does not know of it.
+    // What has to be added to the positions that the archive tells. It is not 0 if something, such as a start script,
+    // was put in front of the archive without a correction of these.
     std::uint64_t shift = 0;
     std::uint64_t begin = 0;  // of the first entry; what comes before it is no part of the archive
     Bytes bytes;

@@ -1,5 +1,6 @@
-// The records of an archive, as the "APPNOTE" of its format has them (4.3 and 4.5.3): where in a record its numbers
-// are. Numbers stand with their low bytes first, and each record begins with a number of its own.
+// The records of an archive, as the "APPNOTE" of its format describes them (4.3 and 4.5.3): at which offset in a record
+// each of its numbers is. Numbers stand with their low bytes first. Each kind of record begins with a number of its
+// own, kBegin.
 #ifndef VANTREL_REWRITE_ZIP_FORMAT_H
 #define VANTREL_REWRITE_ZIP_FORMAT_H
 
@@ -22,7 +23,7 @@ constexpr size_t kNameSize = 26;
 constexpr size_t kExtraSize = 28;
 }  // namespace header
 
-namespace descriptor {  // after an entry's contents, where a flag says so; its first number may be missing
+namespace descriptor {  // after an entry's contents, if its flags say so; kBegin may be missing
 constexpr std::uint32_t kBegin = 0x08074b50;
 constexpr size_t kCrcAndSizes = 12;
 constexpr size_t kCrcAndWideSizes = 20;
@@ -81,8 +82,9 @@ constexpr std::uint16_t kHasDescriptor = 1U << 3U;
 constexpr std::uint16_t kStored = 0;
 constexpr std::uint16_t kDeflated = 8;
 
-// In the place of a number that is wide: it is in the extra field of this kind, in the order unpacked size, packed
-// size, position of the header; in the end record, in the wide one.
+// Stands in the place of a number that is wide. The number itself is in the extra field of the kind kWideNumbers, which
+// has such numbers in this order: unpacked size, packed size, position of the header. For the end record, it is in the
+// wide end record.
 constexpr std::uint32_t kIsWide = 0xFFFFFFFF;
 constexpr std::uint16_t kManyEntries = 0xFFFF;
 constexpr unsigned kWideNumbers = 1;

@@ -25,7 +25,7 @@ std::uint32_t narrow(std::uint64_t number) {
     return static_cast<std::uint32_t>(std::min<std::uint64_t>(number, kIsWide));
 }
 
-// Extra fields without the one for wide numbers. What is no field, at their end, stays.
+// Extra fields without the one for wide numbers. Bytes at their end that are no whole field stay.
 Bytes without_wide_numbers(BytesView extra) {
     Bytes kept;
     while (extra.size() >= kExtraHeadSize && u2(&extra[2]) <= extra.size() - kExtraHeadSize) {
@@ -47,6 +47,7 @@ bool has_wide_numbers(BytesView extra) {
 //   begin   what comes after the contents
 size_t size_of_descriptor(const ZipEntry& entry, BytesView begin, bool is_wide) {
     const size_t size = is_wide ? descriptor::kCrcAndWideSizes : descriptor::kCrcAndSizes;
+    // A descriptor may begin with its number or without. An entry whose CRC is that very number is taken to have none.
     const bool has_number = u4(begin.data()) == descriptor::kBegin && entry.crc != descriptor::kBegin;
     return has_number ? 4 + size : size;
 }

@@ -12,8 +12,8 @@
 
 namespace vantrel_rewrite {
 
-// What is not said to be otherwise stays as it is, bit for bit: what comes before the archive, the order of entries,
-// their names, times, attributes, comments, extra fields and packed contents, and the archive's comment.
+// What is not replaced or added stays as it is, bit for bit: what comes before the archive, the order of entries, their
+// names, times, attributes, comments, extra fields and packed contents, and the archive's comment.
 class ZipWriter {
   public:
     using Sink = std::function<void(BytesView)>;
@@ -28,9 +28,10 @@ class ZipWriter {
     void carry_over(const ZipEntry& entry);
     void replace(const ZipEntry& entry, const PackedEntry& contents);
 
-    // A new entry, with the oldest time that there is: what is made twice is the same.
+    // A new entry. It has the oldest time that an archive can tell, so that two runs make the same bytes.
     void add(const std::string& name, const PackedEntry& contents);
 
+    // Writes the directory. To be called once, after all entries.
     void finish();
 
   private:

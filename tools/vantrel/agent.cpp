@@ -14,7 +14,7 @@ namespace launch {
 
 namespace {
 
-// The agent's own limit, with the end of the string.
+// The longest path that the agent takes (vantrel-agent.cpp), with its terminating zero.
 constexpr size_t kMaxPathSize = 1024;
 
 constexpr const char* kJarName = "vantrel-" VANTREL_VERSION ".jar";
@@ -32,7 +32,7 @@ fs::path own_file() {
 #endif
 }
 
-// What no VM can take, or the agent itself cannot. There is no way around these.
+// Throws for a path that no VM can take, or that the agent itself cannot. There is no way to quote it.
 void check_path(const std::string& library) {
     const std::string why = library.find('=') != std::string::npos ? "a VM takes the '=' in its path for the path's end"
                             : library.find(':') != std::string::npos ? "a VM takes the ':' in its path for a separator"
@@ -44,7 +44,8 @@ void check_path(const std::string& library) {
 }
 
 std::string quoted(const std::string& option) {
-    // A VM's quotes have no escape, but one kind may stand within the other, and quoted parts join up.
+    // A VM splits the options at blanks. Its quotes have no escape, but a quote of one kind may stand between two of
+    // the other, and quoted parts without a blank between them are one word.
     if (option.find_first_of(" \t\n\v\f\r'\"") == std::string::npos && !option.empty()) {
         return option;
     }
@@ -61,7 +62,8 @@ std::string quoted(const std::string& option) {
 }  // namespace
 
 std::string agent_option() {
-    // In the folder that it is installed in, seen from the command's own; or in the one that it is built in.
+    // An installation has the library in VANTREL_LIBRARY_FOLDER, seen from the command's folder; a build has it in
+    // `lib`.
     const fs::path own_folder = own_file().parent_path();
     fs::path library = (own_folder / VANTREL_LIBRARY_FOLDER / VANTREL_LIBRARY_NAME).lexically_normal();
     if (!fs::exists(library)) {

@@ -63,7 +63,8 @@ std::variant<Arguments, std::string> parse_arguments(int argc, char** argv) {
     app.require_subcommand(1);
 
     CLI::App* run = app.add_subcommand("run", kRunDescription);
-    // The library has no text of its own for words that it leaves alone; this one stands in brackets.
+    // The usage line has to name the words that CLI11 leaves alone, and CLI11 cannot do that. So they are added to its
+    // label for the options, which it puts into brackets.
     run->formatter(std::make_shared<CLI::Formatter>());
     run->get_formatter()->label("OPTIONS", "OPTIONS] PROGRAM [ARGUMENT...");
     run->footer(kRunFooter);

@@ -8,8 +8,8 @@
 
 namespace launch {
 
-// Where options with the agent go: after the last Java agent, or else first. A VM starts agents in the order of their
-// options, and a Java agent that came after this one would not see the classes that it has the VM load.
+// Where the options with our agent go: after the last Java agent, or else first. A VM starts agents in the order of
+// their options. If a Java agent came after ours, it would not see the classes that the VM loads for ours.
 //   words   the launcher's name and all words after it
 size_t place_for_agent(const std::vector<std::string>& words);
 

@@ -5,13 +5,14 @@
 #include <variant>
 
 #include "arguments.h"
+#include "command_line.h"
 #include "failure.h"
 #include "run.h"
 
 namespace {
 
 constexpr int kAllWell = 0;
-// A status that programs leave to those who start them.
+// As with `env` and `nohup`: programs seldom use it, so it says that none has run.
 constexpr int kNothingDone = 125;
 
 int report(const std::string& line, int status) {
@@ -25,7 +26,7 @@ int main(int argc, char** argv) {
     try {
         const auto parsed = launch::parse_arguments(argc, argv);
         if (const auto* text = std::get_if<std::string>(&parsed)) {
-            fputs(text->c_str(), stdout);
+            command::print(*text);
             return kAllWell;
         }
         launch::run(std::get<launch::Arguments>(parsed));

@@ -29,7 +29,7 @@ void append(Words& words, const Words& more) {
     words.insert(words.end(), more.begin(), more.end());
 }
 
-// A file that was named with its folder, or is meant to be in the working folder.
+// Throws unless there is a file of that name.
 void check_is_file(const std::string& name) {
     if (!fs::exists(name)) {
         throw NotStarted{"there is no file " + name, kNotFound};
@@ -62,8 +62,8 @@ fs::path java_for_jar(const std::string& jar) {
     return find_program(*home / "bin" / "java");
 }
 
-// Whether a file is a VM's launcher, which takes options itself. The java on the path may be a script that looks for
-// one.
+// Whether a file is a VM's launcher, which takes options itself. A `java` on the path may also be a script that looks
+// for a launcher.
 bool is_java(const fs::path& program) {
     const fs::path file = fs::canonical(program);
     return file.filename() == "java" && command::find_vm_library(file.parent_path().parent_path());
@@ -76,7 +76,7 @@ bool is_java(const fs::path& program) {
         arguments.push_back(const_cast<char*>(word.c_str()));
     }
     arguments.push_back(nullptr);
-    // Not execv: a script without a first line that names its shell is /bin/sh's.
+    // Not execv: execvp runs a script whose first line names no shell with /bin/sh.
     execvp(program.c_str(), arguments.data());
     throw NotStarted{"cannot start " + program.string() + ": " + strerror(errno), kNotStarted};
 }

@@ -1,5 +1,5 @@
-// The exported functions that make records and files: a shell around generator.h that speaks of texts of the heap, puts
-// what fits into records, and ends the process where a descriptor cannot be read.
+// The exported functions that make records and files. They are a shell around generator.h: they take and return C texts
+// and records on the heap, leave out what does not fit into a record, and end the process for a malformed descriptor.
 #include "CodeGenerater.h"
 
 #include <cstring>
@@ -46,7 +46,7 @@ string_view internal_name_of(string_view signature) {
     return signature;
 }
 
-// The accepted members of a class, by way of the records, so that it has what fits them.
+// The accepted members of a class, as far as they fit into records.
 Proxy read_by_records(jvmtiEnv* jvmti, jclass clazz, char* class_name, string_view internal_name) {
     FieldEntity** fields = nullptr;
     MethodEntity** methods = nullptr;
@@ -62,7 +62,7 @@ Proxy read_by_records(jvmtiEnv* jvmti, jclass clazz, char* class_name, string_vi
 
 }  // namespace
 
-// The text of an assertion that cannot hold.
+// A failed assertion shows its expression, and callers know the one that has this name.
 #ifndef FALSE
 #define FALSE 0
 #endif
@@ -115,7 +115,8 @@ void GetMethodEntities(jvmtiEnv* jvmti, jclass clazz, char* class_name, int* cou
         if (method.is_constructor) {
             copy_fitting(record.return_type, method.result.name);
         }
-        // Callers know these two assertions by this function's name and by their texts, so both stand here.
+        // Callers know these two assertions by the name of this function and by their texts, so both have to stand
+        // here.
         for (const Argument& argument : method.arguments) {
             if (argument.type.empty()) {
                 assert(FALSE);
@@ -186,7 +187,7 @@ bool WriteHeaderFile(char* path, char* class_name, MethodEntity** methods, int m
 bool WriteCPPFile(char* class_signature, char* path, char* class_name, MethodEntity** methods, int method_count,
                   FieldEntity** fields, int field_count) {
     const std::string internal_name(internal_name_of(class_signature));
-    strcpy(class_signature, internal_name.c_str());  // NOLINT: what is left of a text fits where that was
+    strcpy(class_signature, internal_name.c_str());  // NOLINT: it is no longer than the signature that it replaces
     const Proxy proxy = generator::proxy_of(class_name, internal_name, methods, method_count, fields, field_count);
     return report(generator::write_source_files({{path, generator::body_text(proxy)}}));
 }

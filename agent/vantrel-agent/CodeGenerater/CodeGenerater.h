@@ -6,15 +6,16 @@
 //     char folder[] = "/tmp/proxies";
 //     GenerateFiles(jvmti, env, name, folder);
 //
-// On the way the class becomes two arrays of records, one of its fields and one of its methods and constructors. The
-// arrays are plain memory of the heap with a count beside them, made by GetFieldEntities and GetMethodEntities and
-// given back by FreeFieldEntities and FreeMethodEntiry.
+// On the way the class becomes two arrays of records, one of its fields and one of its methods and constructors.
+// GetFieldEntities and GetMethodEntities allocate an array and give its length; FreeFieldEntities and FreeMethodEntiry
+// release it with its records. (CodeGenerater and FreeMethodEntiry are misspelt, and stay so, because callers know
+// them.)
 //
 // Threads: the calling thread is attached to the VM and owns the JNIEnv that it passes. The generator keeps no state.
 //
-// Failures: what does not fit its record is left out, with one line on stderr that names it, and so is a file that
-// cannot be written. A class that the VM cannot find, a descriptor that is none, and an argument whose class is in the
-// unnamed package end the process with an assertion.
+// Failures: a member that does not fit its record is left out, with one line on stderr that names it. A file that
+// cannot be written is reported in the same way. A class that the VM cannot find, a malformed descriptor, and an
+// argument whose class is in the unnamed package end the process with an assertion.
 #ifndef CODEGENERATER_H
 #define CODEGENERATER_H
 
@@ -22,7 +23,8 @@
 #include <jvmti.h>
 
 constexpr int kMaxArguments = 36;
-constexpr unsigned long kClassNameSize = 64;  // of a class's simple name, and of its header macro
+constexpr unsigned long kClassNameSize =
+    64;  // of a class's simple name, or its header macro, with the terminating zero
 constexpr unsigned long kFilePathSize = 1024;
 
 // An argument of a method.
@@ -59,23 +61,24 @@ struct FieldEntity {
     int modifiers;  // Java's access flags
 };
 
-// Says whether a member is wanted, other than 0, from the class's simple name, the member's name and its access flags.
+// Returns 0 for a member that is not wanted. Is given the class's simple name, the member's name and its access flags.
 using EntityFilter = int (*)(char* class_name, char* name, int modifiers);
 
 // Generates <directory>\<simple name>.h and .cpp, replacing what is there. True if both were written.
 //   name       the class's internal name, "java/awt/Component"; the class is loaded and initialised
-//   directory  "C:\generated-files" without one. Where the backslash is no separator it is a part of the file's name
+//   directory  "C:\generated-files" if none is given. It is always joined to the file's name by a backslash, which on
+//              Linux and macOS is a part of the file's name
 JNIEXPORT bool GenerateFiles(jvmtiEnv* jvmti, JNIEnv* env, char* name);
 JNIEXPORT bool GenerateFiles(jvmtiEnv* jvmti, JNIEnv* env, char* name, char* directory);
 
-// From the class to the records, in the order in which the VM lists its members. The caller gives the arrays back; a
-// class without members has an array, too.
+// From the class to the records, in the order in which the VM lists its members. The caller releases the arrays, also
+// that of a class without members.
 //   class_name  the class's simple name
 //   filter      null takes all
 JNIEXPORT void GetFieldEntities(jvmtiEnv* jvmti, jclass clazz, char* class_name, FieldEntity*** fields, int* count,
                                 EntityFilter filter);
-// Overloads with the same number of arguments are renamed: all but the last of them are called nameWithArguments. The
-// words of the suffix do not tell an array from its elements.
+// Of overloads with the same number of arguments, all but the last get a longer wrapper name: `add` becomes
+// `addWithStringInt`. An array has the same word there as its elements, so two of these names may be equal.
 JNIEXPORT void GetMethodEntities(jvmtiEnv* jvmti, jclass clazz, char* class_name, int* count, MethodEntity*** methods,
                                  EntityFilter filter);
 JNIEXPORT void FreeFieldEntities(FieldEntity** fields, int count);
@@ -88,8 +91,8 @@ JNIEXPORT int CanAcceptField(char* class_name, char* name, int modifiers);
 // 1 if another method of the array has the same func_name and the same number of arguments as `entity`, otherwise 0.
 JNIEXPORT int IsMethodEntityFuncNameExists(MethodEntity** methods, int count, MethodEntity* entity);
 
-// Reads one descriptor of a field or result. An array's type is that of its elements, its word is "Object". Returns
-// `jni_type`. Both texts have room for 16 bytes.
+// Reads the descriptor of a field or result. For an array, `jni_type` is the type of its elements and `call_type` is
+// "Object". Returns `jni_type`. Both texts have room for 16 bytes.
 JNIEXPORT char* GetTypeInformation(const char* descriptor, int* is_array, int* array_dims, char* jni_type,
                                    char* call_type);
 
@@ -100,8 +103,8 @@ JNIEXPORT int GetSimpleName(const char* descriptor, char* name, unsigned long si
 // The same, but adds the name to the text in `name`, which has room for `size` bytes more.
 JNIEXPORT int GetSimpleArgumentName(const char* descriptor, char* name, unsigned long size);
 
-// Adds what follows the last '/' of an internal name, or all of it, to the text in `out`, which has room for that.
-// Returns `out`.
+// Appends what follows the last '/' of an internal name, or all of it if there is none, to the text in `out`, which has
+// room for that. Returns `out`.
 JNIEXPORT char* GetClassName(char* out, char* internal_name);
 
 // A copy of the text, to be given back with free().
@@ -116,7 +119,7 @@ JNIEXPORT bool WriteHeaderFile(char* path, char* class_name, MethodEntity** meth
 JNIEXPORT bool WriteCPPFile(char* class_signature, char* path, char* class_name, MethodEntity** methods,
                             int method_count, FieldEntity** fields, int field_count);
 
-// Adds the name with its letters a to z in upper case to the text in `macro`, which has room for that.
+// Appends the name, with its letters a to z in upper case, to the text in `macro`, which has room for that.
 JNIEXPORT void GetHeaderMacro(char* macro, char* name);
 
 // The paths <directory>\<name>.h and <directory>\<name>.cpp. `path` has room for kFilePathSize bytes and is empty after

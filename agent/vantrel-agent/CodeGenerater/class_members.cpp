@@ -1,4 +1,4 @@
-// From a class in the VM to what its proxy holds.
+// Reads a class in the VM into a Proxy, by JVMTI.
 #include <memory>
 
 #include "descriptors.h"
@@ -38,8 +38,8 @@ Member look_up(jvmtiEnv* jvmti, jclass /*clazz*/, jmethodID method) {
     return {{name, {jvmti}}, {descriptor, {jvmti}}, modifiers};
 }
 
-// Hands over each of a class's fields or methods that is wanted.
-//   list  JVMTI's GetClassFields or GetClassMethods
+// Calls `action` for each of a class's fields or methods that the filter wants.
+//   list  GetClassFields or GetClassMethods
 template <typename Id, typename Action>
 void for_each_member(jvmtiEnv* jvmti, jclass clazz, jvmtiError (jvmtiEnv::*list)(jclass, jint*, Id**),
                      string_view class_name, const generator::Filter& filter, Action action) {
@@ -49,7 +49,8 @@ void for_each_member(jvmtiEnv* jvmti, jclass clazz, jvmtiError (jvmtiEnv::*list)
     const JvmtiArray<Id> given(ids, {jvmti});
     for (jint i = 0; i < count; ++i) {
         const Member member = look_up(jvmti, clazz, ids[i]);
-        // A member without a name is not there any more.
+        // JVMTI may give no name, as for a member that is not there any more. There is nothing to call such a member
+        // by.
         const bool is_known = member.name != nullptr && member.descriptor != nullptr;
         if (is_known && filter(class_name, member.name.get(), member.modifiers)) {
             action(member.name.get(), member.descriptor.get(), member.modifiers);

@@ -1,4 +1,4 @@
-// Names that C++ takes, for those of Java that it does not.
+// Chooses names that C++ takes for the names of Java that it does not take (make_compilable in generator.h).
 #include <algorithm>
 #include <set>
 
@@ -46,12 +46,14 @@ std::string identifier(std::string_view modified, const IsLetter& is_letter, boo
     return name.empty() && begins ? "_" : generator::to_utf8(name);
 }
 
-// One place where names are given out.
+// Chooses names, and lists those that it had to change.
 struct Namer {
     const IsLetter& is_letter;
     std::vector<Renaming>& renamings;
 
-    // The name, or one like it to which nothing `objects`: that is asked for a reason, which is null for a good name.
+    // Returns `candidate` or a name like it. `objects` is asked for each name: it returns why that cannot be used, or
+    // null if it can. If there is an objection, `suffix` is added once, and then underscores until there is none.
+    // `stated` is the name that would be used if Java and C++ had the same rules.
     template <typename Objects>
     std::string choose(Renaming::Kind kind, size_t member, const std::string& stated, std::string candidate,
                        const std::string& suffix, Objects objects) const {
@@ -82,11 +84,13 @@ void name_class(Proxy& proxy, const Namer& namer) {
     });
 }
 
-// A member's variable is called <class>_<member><number>, and <class>_<field>.
+// The variable of a method is called <class>_<method><number>, that of a field <class>_<field>.
 std::string variable(const Proxy& proxy, std::string_view name, const std::string& number) {
     return proxy.cpp_name + "_" + std::string(name) + number;
 }
 
+// `whole` is the variable that `name` would give. `given` has the variables that are taken, and `stated` those that all
+// members would have unchanged: a changed name must not take one of these from a member that comes later.
 const char* objection_to_variable(const std::string& name, const std::string& whole, const Names& given,
                                   const Names& stated, bool is_stated) {
     return generator::is_object_macro(name) || generator::is_object_macro(whole) ? kMacro
@@ -94,7 +98,7 @@ const char* objection_to_variable(const std::string& name, const std::string& wh
                                                                                  : nullptr;
 }
 
-// Gives all members their variables; returns these.
+// Chooses the variables of all members. Returns the names that are taken then.
 Names name_variables(Proxy& proxy, const Namer& namer) {
     Names given = {"_c_Class"};
     Names stated;
@@ -136,7 +140,7 @@ std::string type_of(const std::string& name, int dimensions) {
     return name + (dimensions > 0 ? "Array" : "");
 }
 
-// The types that the files use, which no function may hide.
+// The types that the files use. No function may have the name of one, for it would hide the type.
 Names types_of(const Proxy& proxy) {
     Names types = {"JNIEnv", "jvmtiEnv", "jclass", "jmethodID"};
     if (!proxy.fields.empty()) {
@@ -154,7 +158,7 @@ Names types_of(const Proxy& proxy) {
     return types;
 }
 
-// What two functions of C++ must not have in common.
+// A function's name and types of parameters, which no other function may share.
 std::string signature(const Method& method, const std::string& name) {
     std::string all = name + "(";
     if (!generator::is_static(method) && !method.is_constructor) {

@@ -7,8 +7,8 @@ using std::string_view;
 
 namespace {
 
-// In the order of the alphabet, as all tables here.
-constexpr string_view kWords[] = {
+// All tables here are sorted, because they are searched by bisection.
+constexpr string_view kReservedWords[] = {
     "alignas",     "alignof",  "and",        "and_eq",    "asm",       "auto",         "bitand",
     "bitor",       "bool",     "break",      "case",      "catch",     "char",         "char16_t",
     "char32_t",    "char8_t",  "class",      "co_await",  "co_return", "co_yield",     "compl",
@@ -25,8 +25,8 @@ constexpr string_view kWords[] = {
     "xor",         "xor_eq",
 };
 
-// Of jni.h and what that includes, of the proxies' own headers with their guards, and of GNU's dialect. Macros that
-// stand for their own name, such as stdin, do no harm.
+// The macros of jni.h and of what it includes, of the proxies' own headers (with their include guards), and of GNU's
+// dialect of C++. Macros that expand to their own name, such as stdin, do no harm and are not listed.
 constexpr string_view kObjectMacros[] = {
     "BUFSIZ",
     "COMMON_H",
@@ -120,14 +120,14 @@ bool contains(const string_view (&table)[Count], string_view name) {
     return std::binary_search(std::begin(table), std::end(table), name);
 }
 
-static_assert(std::is_sorted(std::begin(kWords), std::end(kWords)));
+static_assert(std::is_sorted(std::begin(kReservedWords), std::end(kReservedWords)));
 static_assert(std::is_sorted(std::begin(kObjectMacros), std::end(kObjectMacros)));
 static_assert(std::is_sorted(std::begin(kFunctionMacros), std::end(kFunctionMacros)));
 
 }  // namespace
 
 bool generator::is_cpp_word(string_view name) {
-    return contains(kWords, name);
+    return contains(kReservedWords, name);
 }
 
 bool generator::is_object_macro(string_view name) {

@@ -15,8 +15,8 @@ struct Words {
     string_view argument_word;  // empty: an argument cannot be that
 };
 
-// The words of arguments become names in C++, where `Short0` would do as well: that a short is called otherwise is how
-// the proxies have always spelled it. An object has the simple name of its class.
+// The word of an argument becomes the stem of a parameter's name; for an object it is the simple name of the class.
+// "shortVal" breaks the rule, but proxies have always been written with it.
 constexpr Words kWords[] = {
     {'B', "jbyte", "Byte", "Byte"},          {'C', "jchar", "Char", "Char"},       {'D', "jdouble", "Double", "Double"},
     {'F', "jfloat", "Float", "Float"},       {'I', "jint", "Int", "Int"},          {'J', "jlong", "Long", "Long"},
@@ -47,7 +47,8 @@ string_view class_in(string_view element) {
     return element.substr(1, element.find(';') - 1);
 }
 
-// Reads the argument that a list of descriptors begins with.
+// Reads the first argument in a list of descriptors. If it is malformed, it takes the whole rest of the list, and has
+// no type.
 Argument read_argument(string_view list) {
     const auto [dimensions, element] = element_of(list);
     const Words* words = find_words(element);

@@ -12,10 +12,10 @@ namespace generator {
 // The type of a field or a result.
 Type read_type(std::string_view descriptor);
 
-// What follows the last ')' of a method's descriptor; nothing where there is none.
+// What follows the last ')' of a method's descriptor; nothing if there is no ')'.
 std::string_view result_of(std::string_view descriptor);
 
-// The arguments of a method's descriptor, up to the first that is none.
+// The arguments of a method's descriptor. The list ends after the first malformed one, whose type is empty.
 std::vector<Argument> read_arguments(std::string_view descriptor);
 
 // Whether a descriptor is of an object whose class is in no package.

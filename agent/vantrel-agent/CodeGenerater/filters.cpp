@@ -10,13 +10,13 @@ using std::string_view;
 
 bool generator::is_method_of_proxy(string_view class_name, string_view name, int modifiers) {
     const bool compilers_own = name.starts_with("access$") || name == "<clinit>";
-    // Container's protected methods are where components are added and laid out.
+    // The protected methods of Container are wanted: by these, components are added and laid out.
     const bool hidden = (modifiers & kPrivate) != 0 || ((modifiers & kProtected) != 0 && class_name != "Container");
     return !compilers_own && !hidden;
 }
 
 bool generator::is_field_of_proxy(string_view class_name, string_view name, int modifiers) {
-    // Not in every VM, or of no use outside it.
+    // Fields that some VMs lack or that are of no use in C++, and classes of which no field is wanted.
     static constexpr string_view kFields[] = {"eventCache", "nativeInLightFixer", "backgroundEraseDisabled",
                                               "serialVersionUID"};
     static constexpr string_view kClasses[] = {"EDTRunnable", "SwingUtilities"};

@@ -15,8 +15,8 @@ bool is_low(char32_t c) {
     return c >= 0xDC00 && c < 0xE000;
 }
 
-// A character as its bytes say, surrogates among them, and how many bytes it has. One byte that begins nothing stands
-// for itself as U+FFFD.
+// A character as its bytes encode it, which may be a surrogate, and how many bytes these are. A byte that begins no
+// character is taken for U+FFFD.
 struct Character {
     char32_t code;
     size_t length;
@@ -61,6 +61,7 @@ void append(std::string& text, char32_t code) {
 }
 
 std::string escaped(char c) {
+    // Always three digits: with fewer, a digit that follows in the text would be read as part of the escape.
     char octal[5];
     snprintf(octal, sizeof octal, "\\%03o", static_cast<unsigned char>(c));
     return octal;

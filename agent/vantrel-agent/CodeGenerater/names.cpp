@@ -10,14 +10,14 @@
 
 namespace {
 
-// What lies between the last '/' and the ';' or the end; no data where there is no '/'.
+// What lies between the last '/' and the ';' or the end; a view with a null pointer if there is no '/'.
 std::string_view simple_name(std::string_view descriptor) {
     descriptor = descriptor.substr(0, descriptor.find(';'));
     const size_t slash = descriptor.rfind('/');
     return slash == std::string_view::npos ? std::string_view() : descriptor.substr(slash + 1);
 }
 
-// Adds `added`, cut to what fits into `size` bytes with a terminating zero, to the text in `to`.
+// Appends `added` to the text in `to`, cut to what fits into `size` bytes with its terminating zero.
 void append_cut(char* to, unsigned long size, std::string_view added) {
     if (size == 0) {
         return;
@@ -39,7 +39,7 @@ void format_path(char* path, const char* directory, const char* name, const char
 
 std::string generator::header_macro(std::string_view class_name) {
     std::string macro(class_name);
-    // Not toupper: the locale has no say in a macro's name.
+    // Not toupper, which depends on the locale.
     std::transform(macro.begin(), macro.end(), macro.begin(),
                    [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
     return macro;

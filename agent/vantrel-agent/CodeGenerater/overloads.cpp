@@ -21,8 +21,8 @@ std::string name_with_arguments(const Method& method) {
     return name;
 }
 
-// Two classes have a static method beside an instance method of the same name, which has one argument less. To C++ both
-// wrappers have the same parameters, for the instance method's has its object in front.
+// Two classes have a static method and an instance method of the same name, where the instance method has one argument
+// less. To C++ both wrappers have the same parameters, because an instance method's wrapper takes the object first.
 bool is_special_case(string_view class_name, const Method& method) {
     return generator::is_static(method) && ((class_name == "Component" && method.wrapper == "getContainingWindow") ||
                                             (class_name == "JComponent" && method.wrapper == "computeVisibleRect"));

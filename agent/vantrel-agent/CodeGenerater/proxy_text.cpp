@@ -1,5 +1,5 @@
-// The texts of a proxy's two files, in the order in which they stand there. Tabs, blanks and empty lines are the look
-// that all proxies have.
+// Writes the texts of a proxy's two files, part by part in the order in which these stand there. Tabs, blanks and empty
+// lines are the same in all proxies.
 #include <algorithm>
 #include <sstream>
 #include <string>
@@ -23,7 +23,7 @@ const char* static_word(const Member& member) {
     return generator::is_static(member) ? "_STATIC" : "";
 }
 
-// The names of a proxy's own, which are its class's unless they had to be others.
+// The names in the files: those of the class and its members, unless make_compilable has chosen others.
 const std::string& name_of(const Proxy& proxy) {
     return proxy.cpp_name.empty() ? proxy.class_name : proxy.cpp_name;
 }
@@ -41,7 +41,7 @@ std::string guard_of(const Proxy& proxy) {
     return proxy.guard.empty() ? generator::header_macro(proxy.class_name) + "_H" : proxy.guard;
 }
 
-// A text of the VM's, as the files have it. It must not end the line that it stands in.
+// A name or descriptor as it stands in a comment or an #include, which it must not break into two lines.
 std::string text_in(const Proxy& proxy, string_view text) {
     if (!proxy.is_compilable) {
         return std::string(text);
@@ -51,7 +51,7 @@ std::string text_in(const Proxy& proxy, string_view text) {
     return line;
 }
 
-// The same as a literal, which hands it back to the VM.
+// The same as a string literal, which gives the text back to the VM unchanged.
 std::string literal_in(const Proxy& proxy, string_view text) {
     return proxy.is_compilable ? generator::quoted_modified_utf8(text) : '"' + std::string(text) + '"';
 }
@@ -64,7 +64,8 @@ std::string result_type(const Method& method) {
     return method.result.name + (method.result.dimensions > 0 ? "Array" : "");
 }
 
-// The fields that have a variable: a reader without a filter lists the one that says nothing about the class, too.
+// Calls `action` for each field that gets a variable. serialVersionUID gets none, but may be listed: the readers of
+// fields keep it unless their filter drops it.
 template <typename Action>
 void for_each_field(const Proxy& proxy, Action action) {
     for (const Field& field : proxy.fields) {
@@ -82,7 +83,8 @@ void for_each_method(const Proxy& proxy, Action action) {
     }
 }
 
-// CACHE_JAVA_METHOD(Class, method, number) and its kin: a variable, between what makes it a declaration or definition.
+// Writes a variable, by CACHE_JAVA_METHOD(Class, method, number) or a macro like it. `before` and `after` make that a
+// declaration or a definition.
 void write_field_variable(std::ostream& out, const Proxy& proxy, const Field& field, string_view before,
                           string_view after) {
     out << "\n\t" << before << "CACHE_JAVA" << static_word(field) << "_FIELD(" << name_of(proxy) << ", "
@@ -112,7 +114,7 @@ void write_prototype(std::ostream& out, const Method& method) {
     out << ")";
 }
 
-// JAVA_METHOD(Class, method, number), a variable where it is used.
+// A variable as it is used: JAVA_METHOD(Class, method, number).
 std::string variable_of(const Proxy& proxy, const Method& method, int number) {
     return "JAVA_METHOD(" + name_of(proxy) + ", " + name_of(method) + ", " + std::to_string(number) + ")";
 }
@@ -121,8 +123,8 @@ std::string variable_of(const Proxy& proxy, const Field& field) {
     return "JAVA_FIELD(" + name_of(proxy) + ", " + name_of(field) + ")";
 }
 
-// The macros look members up by the names of their variables. Where such a name is not Java's, what the macro does is
-// written out.
+// The macros look a member up by the name that is in its variable. If that name had to be changed, the look-up is
+// written out here.
 void write_look_up(std::ostream& out, const Proxy& proxy, const Method& method, int number) {
     const std::string descriptor = literal_in(proxy, method.descriptor);
     if (method.is_constructor) {

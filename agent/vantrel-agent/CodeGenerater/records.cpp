@@ -27,7 +27,7 @@ std::string name_in_class(const Method& method) {
     return method.is_constructor ? "<init>" : method.name;
 }
 
-// Takes out the members for which `reason` gives one.
+// Removes each member for which `reason` returns a text, and reports it with that text.
 template <typename Member, typename Reason>
 void leave_out(string_view class_name, std::vector<Member>& members, Reason reason) {
     std::erase_if(members, [&](const Member& member) {
@@ -45,7 +45,8 @@ bool texts_fit(const Member& member) {
     return member.name.size() < kTextSize && member.descriptor.size() < kTextSize;
 }
 
-// Whether the parameter list and each of its parameters fit what a wrapper's declaration has room for.
+// Whether the parameter list, and each parameter in it, is short enough for the declaration of a wrapper. GenerateFiles
+// has always had these limits, and its output must not change.
 bool parameters_fit(const Method& method) {
     constexpr size_t one_size = 128;
     constexpr size_t all_size = 512;
@@ -63,7 +64,7 @@ bool parameters_fit(const Method& method) {
     return all < all_size;
 }
 
-// The dimensions that a record's two members say.
+// The number of dimensions, from a record's is_array and array_dims.
 int dimensions_of(int is_array, int array_dims) {
     return is_array != 0 ? std::max(array_dims, 1) : 0;
 }

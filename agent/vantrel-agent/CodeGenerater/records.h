@@ -1,4 +1,4 @@
-// The records of CodeGenerater.h: their owners, what fits into them, and the way back from them to a proxy.
+// The records of CodeGenerater.h: who owns them, what fits into them, and how a Proxy is made of them.
 #ifndef VANTREL_RECORDS_H
 #define VANTREL_RECORDS_H
 
@@ -29,13 +29,13 @@ typename Pointer::pointer* release_all(std::vector<Pointer>& records) {
     return array.release();
 }
 
-// Take out what does not fit into its record, and say so on stderr.
+// Remove what does not fit into its record, and say so on stderr.
 void leave_out_unfitting(std::string_view class_name, std::vector<Field>& fields);
 void leave_out_unfitting(std::string_view class_name, std::vector<Method>& methods);
-// The same, for what became too long when overloads were renamed.
+// The same for wrappers whose names became too long when overloads were renamed.
 void leave_out_long_wrappers(std::string_view class_name, std::vector<Method>& methods);
 
-// What the records say, as a proxy holds it.
+// The Proxy that the records describe.
 Proxy proxy_of(std::string_view class_name, std::string_view internal_name, MethodEntity** methods, int method_count,
                FieldEntity** fields, int field_count);
 

@@ -7,7 +7,7 @@
 
 namespace generator {
 
-// Says what went wrong, if anything did. True where nothing did, with an empty text.
+// Prints `fault` on stderr unless it is empty. Returns true if it is empty, that is, if nothing went wrong.
 inline bool report(const std::string& fault) {
     if (!fault.empty()) {
         fprintf(stderr, "CodeGenerater: %s\n", fault.c_str());

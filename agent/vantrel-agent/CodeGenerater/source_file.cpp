@@ -28,7 +28,8 @@ std::string part_of(const SourceFile& file) {
 }
 
 int write_part(const SourceFile& file) {
-    // A folder would be in the part's way only when other parts have taken their places.
+    // A folder in the place of the file would make rename() fail, but only after other files have been replaced. So it
+    // is looked for before that.
     struct stat there {};
     const bool is_folder = stat(file.path.c_str(), &there) == 0 && S_ISDIR(there.st_mode);
     return is_folder ? EISDIR : write_all(part_of(file), file.text);

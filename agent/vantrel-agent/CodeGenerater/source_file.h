@@ -12,9 +12,9 @@ struct SourceFile {
     std::string text;
 };
 
-// Writes all texts beside their files first, and then puts them in the place of what is there. Returns what went wrong,
-// and an empty text where nothing did. Files that cannot be written leave everything as it was; only a rename that
-// fails after another one, in a folder that has just taken all the texts, leaves the first file new.
+// Writes each text to a file of its own beside the place that it is for, and then renames all of these. Returns what
+// went wrong; an empty text if nothing did. If a text cannot be written, all is left as it was. Only if a rename fails
+// after another one has succeeded are the files before it new.
 std::string write_source_files(const std::vector<SourceFile>& files);
 
 }  // namespace generator

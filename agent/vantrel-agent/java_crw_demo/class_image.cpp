@@ -20,7 +20,7 @@ constexpr uint16_t kPublic = 0x0001;
 constexpr uint16_t kPrivate = 0x0002;
 constexpr uint16_t kStatic = 0x0008;
 constexpr uint16_t kNative = 0x0100;
-constexpr uint16_t kModule = 0x8000;
+constexpr uint16_t kModuleClass = 0x8000;
 
 // Sizes in bytes: a field's access_flags, name_index and descriptor_index; the same of a method, and attributes_count;
 // the index of an interface.
@@ -85,7 +85,8 @@ uint16_t copy_member_count(ClassRewriteState& ci) {
 }
 
 void copy_fields(ClassRewriteState& ci) {
-    // java_crw_demo's contract. Otherwise standard output is the program's that the rewriter is in.
+    // Callers of java_crw_demo know this line. The other function prints nothing, because stdout belongs to the
+    // program.
     if (ci.is_object_class && ci.door == Door::kJavaCrwDemo) {
         printf("add field to : %.*s\n", static_cast<int>(ci.name->size()), ci.name->data());
     }
@@ -178,7 +179,7 @@ void inject_class(ClassRewriteState& ci) {
     copy_versions(ci);
     cpool_setup(ci);
     const uint16_t access_flags = copy_u2(ci);
-    if (ci.major_version >= kFirstVersionWithModules && (access_flags & kModule) != 0) {
+    if (ci.major_version >= kFirstVersionWithModules && (access_flags & kModuleClass) != 0) {
         ci.is_module_info = true;
         return;
     }

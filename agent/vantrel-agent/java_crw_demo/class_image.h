@@ -20,7 +20,7 @@ constexpr const char* kVersionRule =
 constexpr const char* kMagicRule = "magic==0xCAFEBABE";
 
 // Rewrites the class. The record must have the images, the trackers and the flags; afterwards its output position is
-// the length of the new image. A module-info is only recognised as one: it has no code, and no new image either.
+// the length of the new image. A module-info is only recognised, and gets no new image: it has no code.
 void inject_class(ClassRewriteState& ci);
 
 // The name of the class, for which the class file is read up to this_class. The text lies in the class file.

@@ -28,8 +28,8 @@ struct Tracker {
     uint16_t index = 0;
 };
 
-// The bytes of one tracker call. The longest pushes two 16-bit values, with 3 bytes each, and invokes. There is room
-// for a multiple of what a processor moves at once, so that a call can be written as a whole, whatever its length.
+// The bytes of one tracker call. The longest has 9: two pushes of 16-bit values and the invocation, with 3 bytes each.
+// There is room for 16, which processors move at once, so that a call can be written as a whole, whatever its length.
 struct InjectionTemplate {
     std::array<uint8_t, 16> code{};
     uint8_t len = 0;  // 0 where nothing is injected
@@ -54,7 +54,7 @@ enum class AttributeName : uint8_t {
     kTypeAnnotations,  // visible or not
 };
 
-// What is at an index of the constant pool, if it has been looked up as an attribute's name.
+// Which attribute the text at an index of the constant pool names, once it has been looked up.
 struct KnownAttributeName {
     uint32_t index = UINT32_MAX;
     AttributeName name = AttributeName::kOther;
@@ -65,11 +65,12 @@ struct KnownAttributeName {
 constexpr std::string_view kNumbers = "(II)V";
 constexpr std::string_view kObject = "(Ljava/lang/Object;)V";
 
-// Which function was called. The contract of java_crw_demo is kept as it is; what has come to class files since, and
-// what makes every stack map hold, is only for those who call the other one.
+// Which of the two exported functions was called. java_crw_demo takes class files up to version 52 only, and its bytes
+// never change, even where they are not what a verifier wants. Newer class files, and stack maps that stay right
+// whatever grows, are for callers of the other one.
 enum class Door : uint8_t { kJavaCrwDemo, kVantrelRewriter };
 
-// Few pools have more entries, and few methods are longer, in bytes.
+// Few constant pools have more entries than this, and the code of few methods has more bytes.
 constexpr size_t kUsualConstants = 512;
 constexpr size_t kUsualCode = 512;
 
@@ -93,15 +94,15 @@ struct ClassRewriteState {
     Room<uint32_t, kUsualConstants> constants_room;
     uint16_t cpool_max_elements = 0;
     uint16_t cpool_count_plus_one = 0;
-    // Entries that are found to be needed after the pool has been written. They are put where they belong at the end.
+    // Entries whose need is only seen after the pool has been written. At the end they are put after the others.
     std::vector<uint8_t> late_constants;
     size_t end_of_own_pool = 0;  // in the output: where the class file's entries end, and where all do
     size_t end_of_pool = 0;
     size_t pool_count_position = 0;
     std::unordered_map<std::string, uint16_t> class_constants;  // by name; filled when a stack map asks for it
 
-    // The names of attributes that have been met, each in the place that the lowest bits of its index choose: those of
-    // a class are few, and come again and again.
+    // A cache of the names of attributes, each in the place that the lowest bits of its index choose. A class has few
+    // of them, and they come again and again.
     std::array<KnownAttributeName, 16> known_attribute_names;
 
     Door door = Door::kJavaCrwDemo;
@@ -109,7 +110,7 @@ struct ClassRewriteState {
     bool is_system_class = false;
     bool is_object_class = false;
     bool is_thread_class = false;
-    bool newarray_takes_numbers = false;  // its tracker, as the call tracker does, and not the array
+    bool newarray_takes_numbers = false;  // the tracker of new arrays does, instead of the array
     const char* tracker_class_name = nullptr;
     uint16_t tracker_class_index = 0;
     uint16_t class_number_index = 0;  // of an Integer with the class number; 0 where that fits in 15 bits
@@ -137,7 +138,7 @@ struct ClassRewriteState {
     const MethodRewriteState* current_method = nullptr;  // for the texts of failures
 
     // What belongs to one method at a time (method_rewrite_state.h): its calls, and the room for its map and its sites.
-    // The room is kept from one method to the next, so that a class needs no more of it than its longest method does.
+    // That room is kept for the next method, so a class never needs more of it than its longest method does.
     Injections injections;
     Room<int32_t, kUsualCode> map_room;
     Room<Site, kUsualCode> sites_room;

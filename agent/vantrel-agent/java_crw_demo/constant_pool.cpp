@@ -32,17 +32,18 @@ enum Tag : uint8_t {
     kPackage = 20,
 };
 
-// By tag, the size of an entry, not counting the text of a Utf8 entry. 0 where there is no such tag.
+// By tag, the size of an entry with its tag, not counting the text of a Utf8 entry. 0 where there is no such tag.
+// kSizes has the tags of version 52, for java_crw_demo.
 using Sizes = std::array<uint8_t, 256>;
 constexpr Sizes kSizesOfToday = {0, 3, 0, 5, 5, 9, 9, 3, 3, 5, 5, 5, 5, 0, 0, 4, 3, 5, 5, 3, 3};
 constexpr Sizes kSizes = {0, 3, 0, 5, 5, 9, 9, 3, 3, 5, 5, 5, 5, 0, 0, 4, 3, 0, 5};
 
 constexpr size_t kUtf8Head = kSizes[kUtf8];      // tag and length
 constexpr size_t kPairSize = kSizes[kFieldref];  // of two indexes
-constexpr size_t kLargestHead = kSizes[kLong];   // and the whole of all that are no text
+constexpr size_t kLargestHead = kSizes[kLong];   // no entry has more, but for the text of a Utf8 entry
 
-// The pool may grow by so much. The sum of the class file's count and this is kept in 16 bits, and so a pool that is
-// already half full or more gets a capacity below its count, and fails.
+// By how many entries java_crw_demo lets a pool grow. The sum of the class file's count and this is kept in 16 bits.
+// From a count of 32769 on it wraps, which leaves a capacity below the count, and the rewrite fails.
 constexpr uint32_t kGrowth = 0x7FFF;
 
 // The largest class number that is pushed without a constant.
@@ -66,7 +67,7 @@ constexpr const char* kUnknownTag = "Unknown tag: %d, at ipos %hu";
     assertion_failed(ci, kInsideImages);
 }
 
-// Fails if the entry at a position is not whole, or is none.
+// Fails if there is no entry at a position, or not a whole one.
 void check_entry(ClassRewriteState& ci, size_t position, const Sizes& sizes) {
     const size_t left = ci.input_len - std::min(ci.input_len, position);
     if (left == 0) {
@@ -88,6 +89,7 @@ class Appender {
 
     uint16_t utf8(std::string_view text) {
         if (text.size() > UINT16_MAX) {
+            // The tag is written before the length is looked at: if the image is full, that is what is reported.
             write(1);
             assertion_failed(ci_, kLengthRule);
         }
@@ -145,7 +147,8 @@ size_t size_of(const uint8_t* entry) {
     return kSizes[entry[0]] + (entry[0] == kUtf8 ? size_t{u2_at(entry + 1)} : 0);
 }
 
-// An entry that the rewriter appended. Of what a VM loads, nothing but a stack map that was made here refers to those.
+// An entry that the rewriter appended, found by going through them one by one. That is rare: in a class that a VM
+// loads, only a stack map that was made here refers to these entries.
 const uint8_t* appended_entry(const ClassRewriteState& ci, uint32_t index) {
     uint32_t left = index - static_cast<uint32_t>(ci.constant_positions.size());
     const uint8_t* entry = ci.output + ci.end_of_own_pool;
@@ -184,8 +187,8 @@ void cpool_index(ClassRewriteState& ci) {
     ci.constant_positions = {positions, count_plus_one};
     positions[0] = 0;
     const Sizes& sizes = ci.door == Door::kJavaCrwDemo ? kSizes : kSizesOfToday;
-    // Up to here an entry is in the class file, but for the text of a Utf8 entry. That one that goes beyond the end is
-    // seen when the next entry would begin there.
+    // An entry that begins before `safe` is inside the class file, but for the text of a Utf8 entry. A text that goes
+    // beyond the end is noticed where the next entry would begin.
     const size_t safe = ci.input_len - std::min(ci.input_len, kLargestHead);
     const uint8_t* const input = ci.input;
     size_t at = ci.input_position;
@@ -195,8 +198,8 @@ void cpool_index(ClassRewriteState& ci) {
         }
         positions[index] = static_cast<uint32_t>(at);
         const uint8_t tag = input[at];
-        // The next entry's place waits for this one's size. A processor that guesses the kind need not wait for the
-        // table; most entries are texts, or refer to two others.
+        // Where the next entry begins depends on the size of this one. With these two branches a processor can guess
+        // that size instead of waiting for the table: most entries are texts, or refer to two others.
         if (tag == kUtf8) {
             at += kUtf8Head + u2_at(input + at + 1);
             continue;
@@ -217,8 +220,7 @@ void cpool_index(ClassRewriteState& ci) {
         too_short(ci);
     }
     ci.input_position = at;
-    // Once is enough for the few dozen entries that are appended: either the capacity has wrapped to less than the
-    // count, or there is room for thousands.
+    // Fails before anything is copied if the capacity has wrapped to less than the count.
     require(ci, ci.cpool_count_plus_one < ci.cpool_max_elements, kCapacityRule);
 }
 
@@ -303,7 +305,7 @@ uint8_t cpool_tag(const ClassRewriteState& ci, uint32_t index) {
     return entry_at(ci, index)[0];
 }
 
-// The NameAndType of a member's entry, or of a dynamic one: where its two indexes are.
+// The NameAndType entry that the entry of a member, or a dynamic one, refers to.
 const uint8_t* name_and_type_of(const ClassRewriteState& ci, uint32_t index) {
     const uint8_t* entry = entry_at(ci, index);
     const bool has_name_and_type = entry[0] == kFieldref || entry[0] == kMethodref || entry[0] == kInterfaceMethodref ||

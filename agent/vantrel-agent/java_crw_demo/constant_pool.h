@@ -21,8 +21,8 @@ void cpool_index(ClassRewriteState& ci);
 // Reads the pool as above, copies it, appends the rewriter's entries and writes the new count.
 void cpool_setup(ClassRewriteState& ci);
 
-// The index of a Class entry for a name or an array's descriptor: one of the class file's, or one that is added when
-// the whole class has been rewritten. The first call of a class goes through the pool.
+// The index of a Class entry for a name or an array's descriptor: an entry of the class file, or a new one that is put
+// into the pool when the whole class has been rewritten. The first call for a class reads its whole pool.
 uint16_t cpool_class_index(ClassRewriteState& ci, std::string_view name);
 
 // Puts the entries that were added after the pool had been written to its end, and corrects the count.
@@ -36,12 +36,11 @@ std::string_view cpool_member_name(const ClassRewriteState& ci, uint32_t index);
 // The tag of an entry (JVM specification, table 4.4-A).
 uint8_t cpool_tag(const ClassRewriteState& ci, uint32_t index);
 
-// The text of a Utf8 entry. Fails where the index does not lead to one.
-// cpool_odd_text is the part of it that a proper class file does not come to.
+// The text of a Utf8 entry. Fails where the index does not lead to one. cpool_odd_text is the rare part of it.
 std::string_view cpool_odd_text(const ClassRewriteState& ci, uint32_t index);
 inline std::string_view cpool_text(const ClassRewriteState& ci, uint32_t index) {
     constexpr uint8_t kUtf8 = 1;
-    // Position 0 is no entry's; the class file begins with something else than that tag there.
+    // An index without an entry has position 0. The first byte of a class file is not this tag.
     if (index < ci.constant_positions.size()) [[likely]] {
         const uint8_t* entry = ci.input + ci.constant_positions[index];
         if (entry[0] == kUtf8) [[likely]] {
@@ -54,8 +53,8 @@ inline std::string_view cpool_text(const ClassRewriteState& ci, uint32_t index) 
 // The name of a class by the index of its Class entry.
 std::string_view cpool_class_name(const ClassRewriteState& ci, uint32_t index);
 
-// Which attribute is called by the text at an index. Fails where the index does not lead to a text.
-// cpool_new_attribute_name is the part of it for an index that has not been met lately.
+// Which attribute the text at an index names. Fails where the index does not lead to a text. cpool_new_attribute_name
+// is the part of it for an index that is not in the cache.
 AttributeName cpool_new_attribute_name(ClassRewriteState& ci, uint32_t index);
 inline AttributeName cpool_attribute_name(ClassRewriteState& ci, uint32_t index) {
     const KnownAttributeName& known = ci.known_attribute_names[index % ci.known_attribute_names.size()];

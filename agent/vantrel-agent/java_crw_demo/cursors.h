@@ -1,6 +1,6 @@
-// Two ways through both images at once, for what is copied with changes: with a look at each step whether the images
-// have the bytes, or after one look for many steps. What is written for one of them is written for both, as a template;
-// a failure tells the same with either.
+// Two cursors, which go through both images at once where something is copied with changes. Careful checks at each step
+// that the images have the bytes. Quick does not: somebody has checked that for many steps before. What uses a cursor
+// is a template, so that it works with either, and reports the same failures.
 #ifndef JAVA_CRW_DEMO_CURSORS_H
 #define JAVA_CRW_DEMO_CURSORS_H
 
@@ -47,7 +47,7 @@ struct Quick {
         put_u4(out - 4, value);
         return value;
     }
-    // Sets the positions in the images to where this is. To be called before a failure that tells the position.
+    // Brings the positions in the record up to here. To be called before a failure that reports the position.
     void stand() {
         ci.input_position = static_cast<size_t>(in - ci.input);
         ci.output_position = static_cast<size_t>(out - ci.output);
@@ -59,8 +59,8 @@ inline size_t left_in_both(const ClassRewriteState& ci) {
     return std::min(ci.input_len - ci.input_position, ci.output_len - ci.output_position);
 }
 
-// Goes through a structure that has `size` bytes in both images, by `steps`, which is given a cursor: quickly if there
-// is as much left of both.
+// Goes through a structure that has `size` bytes in both images: calls `steps` with a cursor, which is the quick one if
+// both images have that many bytes left.
 template <typename Steps>
 void in_one_check(ClassRewriteState& ci, size_t size, const Steps& steps) {
     if (left_in_both(ci) >= size) [[likely]] {

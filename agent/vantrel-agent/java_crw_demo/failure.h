@@ -1,5 +1,5 @@
-// How the rewriter fails: by throwing a Failure, which the exported functions catch and tell their callers, each in
-// its own form (java_crw_demo.h, vantrel_rewriter.h). The texts are java_crw_demo's contract and stay as they are.
+// How the rewriter fails: by throwing a Failure, which the exported functions catch and tell their callers, each in its
+// own form (java_crw_demo.h, vantrel_rewriter.h). Callers of java_crw_demo know the texts, so these stay as they are.
 //
 // The last two arguments of these functions are the place in the source. Callers leave them to their defaults.
 #ifndef JAVA_CRW_DEMO_FAILURE_H

@@ -16,17 +16,17 @@
 
 namespace crw {
 
-// What a failure says that would have left an image.
+// The condition that fails where something would be read or written outside an image.
 constexpr const char* kInsideImages =
     "( (ci) != NULL && (ci)->input_position <= (ci)->input_len && (ci)->output_position <= (ci)->output_len)";
 
-// Names are C texts to the caller, and end at the first zero byte. A proper class file has none: its encoding writes
-// the character zero in two other bytes.
+// The text up to its first zero byte, because callers are given names as C texts. A proper class file has no zero byte
+// in a name: its encoding writes the character zero as two other bytes.
 inline std::string_view c_string(std::string_view text) {
     return text.substr(0, text.find('\0'));
 }
 
-// Values in bytes that have been checked already.
+// Values of bytes that are known to be in the image.
 
 inline uint16_t u2_at(const uint8_t* bytes) {
     return static_cast<uint16_t>(bytes[0] << 8U | bytes[1]);

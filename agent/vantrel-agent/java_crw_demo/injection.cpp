@@ -9,8 +9,9 @@ namespace crw {
 
 namespace {
 
-// The instructions that push a tracker call's arguments, as one number in which the last byte is the lowest. They are
-// six bytes at most. Single bytes in memory would have to wait for each other where several are read at once.
+// The instructions that push a tracker call's arguments, six bytes at most, as one number whose lowest byte is the last
+// one. If they were written to memory byte by byte, a processor that then reads several at once would have to wait for
+// each of them.
 struct Pushes {
     uint64_t bytes = 0;
     uint8_t len = 0;
@@ -29,8 +30,8 @@ uint32_t with_u2(Opcode opcode, uint32_t operand) {
     return uint32_t{opcode} << 16U | (operand & UINT16_MAX);
 }
 
-// The short forms take numbers of seven bits, because bipush takes the eighth for a sign. ldc does not, but its limit
-// is the same one.
+// bipush is used up to 127, because it takes the eighth bit for a sign. ldc has no sign, but is used up to the same
+// index.
 void push(Pushes& pushes, uint32_t value) {
     constexpr uint32_t kLargestIconst = 5;
     if (value <= kLargestIconst) {
@@ -52,7 +53,8 @@ void push_class_number(Pushes& pushes, const ClassRewriteState& ci) {
     }
 }
 
-// Makes the call of a tracker, after what pushes its arguments. Empty for a tracker that is not wanted.
+// Puts together the instructions that push the arguments and the call of the tracker. Empty for a tracker that is not
+// wanted. Both writes are longer than what they bring, and `code` has room for that.
 void make_call(InjectionTemplate& call, const Pushes& pushes, const Tracker& tracker) {
     constexpr uint32_t kInvokeLength = 3;
     call.len = 0;

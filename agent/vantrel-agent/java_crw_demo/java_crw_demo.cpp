@@ -31,7 +31,7 @@ Tracker make_tracker(const char* name, const char* signature, std::string_view e
     return {name, expected};
 }
 
-// Tells the caller of a failure. Leaves by the handler's own exception, if it throws one.
+// Tells the caller of a failure. If the handler throws, that exception goes on to the caller.
 void tell(const Failure& failure, JavaCrwDemoErrorHandler handler) {
     if (handler == nullptr) {
         fprintf(stderr, "CRW: %s [%s:%d]\n", failure.message, failure.file, failure.line);
@@ -40,8 +40,8 @@ void tell(const Failure& failure, JavaCrwDemoErrorHandler handler) {
     handler(failure.message, failure.file, failure.line);
 }
 
-// Runs the body of an exported function, and lets nothing but a handler's own exception leave it. The function has set
-// its results to nothing before.
+// Runs the body of an exported function. No exception leaves it but one that the handler throws. The caller is given
+// results only if the body succeeds.
 template <typename Body>
 void guarded(JavaCrwDemoErrorHandler handler, const Body& body) {
     try {

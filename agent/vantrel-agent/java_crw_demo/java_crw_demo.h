@@ -12,8 +12,8 @@
  *
  * The tracker class's name and a few constants go into every class's constant pool, and java.lang.Object gets a static
  * field objectTrackId and a native method getTrackId. Class files up to version 52 are accepted (JVM specification,
- * chapter 4). What the class file says is taken as it is: an image that no VM would load may come out as another one
- * that no VM would load. No input makes the rewriter read or write outside its images.
+ * chapter 4). Nothing is verified: from an image that no VM would load may come another one that no VM would load. No
+ * input makes the rewriter read or write outside its images.
  *
  * Threads: any number may rewrite at the same time; no state outlives a call.
  *
@@ -53,7 +53,7 @@ typedef void (*JavaCrwDemoMethodNames)(unsigned class_number, const char** names
  *
  *   class_number       goes into the injected calls; any value
  *   name               the class's name in internal form ("java/lang/String"), or NULL where it is not known; it must
- *                      be the one in the image. "java/lang/Thread" is known by this argument only
+ *                      be the one in the image. Only this argument tells the rewriter of java/lang/Thread
  *   file_image         the class file; left as it is
  *   file_len           its length in bytes; 0 means that there is nothing to do
  *   system_class       1 for a class that the VM may load while it starts, which leaves its <clinit>, trivial

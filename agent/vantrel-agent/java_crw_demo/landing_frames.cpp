@@ -54,7 +54,7 @@ void write_types(MethodRewriteState& mi, const Types& types) {
     }
 }
 
-// What a frame of the class file says, where the frame before it is known. Reads the rest of it.
+// Reads the rest of a frame of the class file, and makes `frame`, which is the frame before it, what this one says.
 void read_frame(ClassRewriteState& ci, uint8_t type, Frame& frame) {
     frame.stack.clear();
     if (type >= kSameLocalsOneStackItem && type <= kSameLocalsOneStackItemExtended) {
@@ -96,8 +96,8 @@ void LandingFrames::read_own_frames(uint16_t frame_count) {
 
 void LandingFrames::find_landings() {
     Frame frame = first_frame(mi_);
-    int32_t known_at = 0;  // where `frame` holds
-    bool is_followed = true;
+    int32_t known_at = 0;     // where `frame` holds
+    bool is_followed = true;  // until types cannot be followed; then again from the class file's next frame on
     size_t next_own = 0;
     for (const Site& site : mi_.sites) {
         if (!is_widened_conditional(site)) {

@@ -1,12 +1,12 @@
 // Frames for the places where widened conditional branches land.
 //
-// Such a branch is the opposite condition over a goto_w (relocation.h), and where it lands there was no branch target
-// before, so that the class file may have no frame for it. The types that hold there are those that the verifier has
-// found when it comes to the branch: they follow from the last frame before it and the instructions since
-// (verification_types.h). The place gets a full frame of just these.
+// Such a branch is the opposite condition over a goto_w (relocation.h). Where that condition lands there was no branch
+// target before, so the class file may have no frame there. The types that hold there are those that the verifier has
+// at the branch: they follow from the last frame before it and the instructions since (verification_types.h). The place
+// gets a full frame of just these types.
 //
-// The next frame of the class file may say only how it differs from the frame before it, which is another one now. It
-// is therefore written as a full frame, too. All later ones stay as they are.
+// The next frame of the class file may only say how it differs from the frame before it. That is now the inserted one,
+// so it is written as a full frame, too. All later frames stay as they are.
 #ifndef JAVA_CRW_DEMO_LANDING_FRAMES_H
 #define JAVA_CRW_DEMO_LANDING_FRAMES_H
 
@@ -22,8 +22,9 @@ namespace crw {
 // The frames to insert into one StackMapTable while it is written.
 class LandingFrames {
   public:
-    // Both images are at the attribute's first frame. The class file is read ahead where anything is to be inserted;
-    // for java_crw_demo, for class files whose stack maps no VM reads, and where nothing is widened, nothing is.
+    // Both images are at the attribute's first frame. Nothing is inserted for java_crw_demo, into class files so old
+    // that no VM reads their stack maps, and where no conditional branch has been widened. Otherwise all frames of the
+    // class file are read ahead.
     LandingFrames(MethodRewriteState& mi, uint16_t frame_count);
 
     // Writes the frames that come before the class file's next one.

@@ -19,8 +19,9 @@ constexpr const char* kCodeTooLong = "mi->new_code_len <= 0xFFFF";
 // max_stack, max_locals and code_length: what stands before the code.
 constexpr uint32_t kHeaderSize = 8;
 
-// A span of the old code, and the call that comes after it. Most spans are short, and so that many bytes are written
-// without a look at the length, and as many as the longest call has. What was too much is written over by what follows.
+// Writes a span of the old code and the call that comes after it. Most spans are short. So 32 bytes are copied whatever
+// the length of the span, and the longest length of a call whatever the length of the call; the surplus is overwritten
+// by what comes next.
 void write_span(ClassRewriteState& ci, const uint8_t* span, size_t size, const InjectionTemplate& call) {
     constexpr size_t kUsualSpan = 32;
     const auto readable = static_cast<size_t>(ci.input + ci.input_len - span);
@@ -50,7 +51,7 @@ void write_code(MethodRewriteState& mi) {
     uint32_t copied = 0;
     for (const Site& site : mi.sites) {
         if (site.pc == code_len) {
-            break;  // an injection needs an instruction to go before
+            break;  // an injection goes before an instruction, and here is none
         }
         const uint8_t* span = code + copied;
         const size_t size = site.pc - copied;
@@ -75,7 +76,7 @@ bool is_left_alone(const ClassRewriteState& ci, std::string_view name, uint32_t 
     return is_trivial || name == "<clinit>" || (ci.is_thread_class && name == "currentThread");
 }
 
-// Makes a method the current one as long as it lives.
+// As long as this lives, failures name the method.
 class CurrentMethod {
   public:
     explicit CurrentMethod(MethodRewriteState& mi) : ci_(mi.ci) { ci_.current_method = &mi; }

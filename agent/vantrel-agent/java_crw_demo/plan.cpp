@@ -12,8 +12,8 @@ namespace crw {
 
 namespace {
 
-// How far the plan steps over each opcode, and 0 for one that it has to look at: a branch, a switch, `wide`, no opcode
-// at all, or in this method an instruction that something is injected at.
+// By opcode, how many bytes the plan steps over, or 0 where it has to look at the instruction: a branch, a switch,
+// `wide`, an opcode that does not exist, or an instruction of a kind that this method's calls are injected at.
 using Steps = std::array<uint8_t, 256>;
 
 constexpr Steps make_steps(bool into_returns, bool into_arrays) {
@@ -65,7 +65,7 @@ class Planner {
   private:
     static constexpr size_t kEntriesAtOnce = 8;
 
-    // For the map, whose values are all written before they are read, and for a site at each byte.
+    // The room for the map, whose entries have no values before they are written, and for a site at each byte.
     void make_room(size_t code_size) {
         mi_.map = mi_.ci.map_room.for_elements(code_size + kEntriesAtOnce);
         sites_ = mi_.ci.sites_room.for_elements(code_size);
@@ -83,7 +83,8 @@ class Planner {
         return static_cast<uint32_t>(pc_next);
     }
 
-    // Enters an instruction of the usual lengths into the map. What is too much is written over by what follows.
+    // Enters an instruction of at most 8 bytes into the map, by 8 entries whatever its length: the surplus is
+    // overwritten by what follows.
     void move(size_t pc) const {
         int32_t* entries = mi_.map + pc;
         const int32_t new_pc = static_cast<int32_t>(pc) + shift_;
@@ -92,14 +93,14 @@ class Planner {
         }
     }
 
-    // One of any length.
+    // Enters an instruction of any length.
     void move(size_t pc, size_t pc_next) const {
         for (; pc < pc_next; pc += kEntriesAtOnce) {
             move(pc);
         }
     }
 
-    // Looks at one instruction, and lists it if it is a site. Returns the pc of the next one.
+    // Looks at one instruction, and lists it if it becomes a site. Returns the pc of the next one.
     uint32_t note(uint32_t pc) {
         const uint8_t opcode = code_[pc];
         switch (opcode) {

@@ -10,7 +10,7 @@ namespace crw {
 // switches grow is not in it yet. Raises the stack for the injections it plans.
 //
 // Fails where the code ends inside an instruction, where the class file ends inside the code, and for an opcode that
-// is none. The injections must have been prepared.
+// does not exist. The injections must have been prepared.
 void plan_new_code(MethodRewriteState& mi);
 
 }  // namespace crw

@@ -19,7 +19,7 @@ class Room {
     // For so many elements. What was in the room before is lost.
     T* for_elements(size_t count) {
         if (count > capacity_) {
-            capacity_ = 2 * count;  // the next one that needs more may need a little more
+            capacity_ = 2 * count;  // so that a slightly larger need soon after is met, too
             block_.reset(new T[capacity_]);
             elements_ = block_.get();
         }

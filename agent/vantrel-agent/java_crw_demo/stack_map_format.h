@@ -20,7 +20,7 @@ enum FrameType : uint8_t {
     kFull = 255,
 };
 
-// The short forms have their delta in the frame type, and so many values for it.
+// The short forms have their delta in the frame type, which leaves room for so many deltas.
 constexpr int32_t kDeltasInType = 64;
 
 struct FrameHead {

@@ -85,7 +85,8 @@ class Corrector {
         }
     }
 
-    // The values of an annotation, each with a name. They nest as deep as the class file wants.
+    // Skips the values of an annotation, each of which has a name. They may be nested so deep that recursion would use
+    // up the stack.
     void skip_values(uint32_t named) {
         struct Open {
             uint32_t left;

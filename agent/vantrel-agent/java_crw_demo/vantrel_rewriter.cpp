@@ -17,7 +17,7 @@ namespace crw {
 
 namespace {
 
-// What a caller is told of a failure.
+// What a caller is told of a failure, by the condition that did not hold. kDamaged is for all others.
 struct Told {
     std::string_view condition;
     VantrelRewriterStatus status;
@@ -69,13 +69,15 @@ int tell(const Failure& failure, VantrelRewriterResult& result) {
     put_text(result.method, failure.method);
     result.pc = failure.pc;
     if (failure.lacks_room) {
-        return fail(result, VANTREL_REWRITER_TOO_LARGE, "The new class is longer than anything that it can become.");
+        return fail(result, VANTREL_REWRITER_TOO_LARGE,
+                    "With the injected calls the class is longer than 2 GB, and no VM takes such a class.");
     }
     return fail(result, found.status, found.sentence);
 }
 
-// As much as the caller's struct has of what is known here, and nothing for the rest. Null where it has more, and that
-// is not 0: the caller wants something that a later version of the interface does.
+// Takes as much as the caller's struct has of the options that are known here, and nothing for the others. Returns
+// false if the struct has more than that, and the rest is not 0: then the caller wants something that only a later
+// version of the interface does.
 bool read_options(const VantrelRewriterOptions* given, VantrelRewriterOptions& options) {
     const auto* bytes = reinterpret_cast<const unsigned char*>(given);
     options = {};
@@ -131,27 +133,14 @@ void prepare(ClassRewriteState& ci, const unsigned char* class_file, size_t leng
     }
 }
 
-// What is usually enough, and what is always: of all that can happen to a byte of code, a return of one byte becomes
-// the longest; a frame that is inserted is less than the code before it that it stands for; the rest is constants.
-size_t room(size_t length, const VantrelRewriterOptions& options, bool most) {
-    if (!most) {
-        return usual_room(length);
-    }
-    constexpr size_t kMostGrowth = 16;
-    size_t names = 0;
-    for (const char* name :
-         {options.tracker_class, options.call_tracker, options.return_tracker, options.object_init_tracker,
-          options.newarray_tracker, options.numbered_newarray_tracker}) {
-        names += name != nullptr ? strlen(name) : 0;
-    }
-    return kMostGrowth * usual_room(length) + names;
-}
+// No VM takes a longer class: JVMTI and JNI count its bytes in a jint.
+constexpr size_t kLongestClass = INT32_MAX;
 
-void rewrite(const unsigned char* class_file, size_t length, VantrelRewriterOptions& options, bool most,
+void rewrite(const unsigned char* class_file, size_t length, VantrelRewriterOptions& options, size_t room,
              VantrelRewriterResult& result) {
     ClassRewriteState ci;
     prepare(ci, class_file, length, options);
-    Owned<unsigned char> image = make_new_image(ci, room(length, options, most));
+    Owned<unsigned char> image = make_new_image(ci, room);
     result.status = VANTREL_REWRITER_REWRITTEN;
     result.length = ci.output_position;
     if (ci.is_module_info) {
@@ -164,19 +153,21 @@ void rewrite(const unsigned char* class_file, size_t length, VantrelRewriterOpti
     result.image = image.release();
 }
 
+// Rewrites in as much room as is usually enough, and in more while the image outgrows it. How much it takes cannot be
+// told beforehand: each frame that is inserted has the types of all locals.
 int rewrite_in_room(const unsigned char* class_file, size_t length, VantrelRewriterOptions& options,
                     VantrelRewriterResult& result) {
-    for (const bool most : {false, true}) {
+    constexpr size_t kMore = 16;
+    for (size_t room = usual_room(length);; room = std::min(kMore * room, kLongestClass)) {
         try {
-            rewrite(class_file, length, options, most, result);
-            break;
+            rewrite(class_file, length, options, room, result);
+            return result.status;
         } catch (const Failure& failure) {
-            if (most || !failure.lacks_room) {
+            if (!failure.lacks_room || room >= kLongestClass) {
                 return tell(failure, result);
             }
         }
     }
-    return result.status;
 }
 
 }  // namespace

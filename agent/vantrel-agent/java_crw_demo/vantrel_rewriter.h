@@ -18,11 +18,12 @@
  *
  *   - It takes class files up to vantrel_rewriter_newest_class_file_version(). A module-info has no code and is carried
  *     over as it is.
- *   - Stack maps hold whatever grows: where a conditional branch becomes a longer one, the place after it gets a frame.
- *   - Type annotations of code move with it. Of the attributes of Code that it does not know (the JVM specification of
- *     that version has none), it cannot tell what stands in pcs, and carries them over as they are.
+ *   - Stack maps stay right whatever grows: where a conditional branch becomes a longer one, the place after it gets a
+ *     frame.
+ *   - Type annotations of code move with it. Attributes of Code that the JVM specification does not have are carried
+ *     over as they are, because nobody can tell which of their numbers are pcs.
  *   - The new image may be as long as it needs to be, and the constant pool as full as the format allows.
- *   - What is called where an array is made may be given the numbers of class and method in the place of the array.
+ *   - The method that is called where an array is made may take the numbers of class and method instead of the array.
  *   - Failures are results. Nothing is written to stdout or stderr, nothing is thrown, and nothing ends the process.
  *
  * Threads: any number may rewrite at the same time; no state outlives a call.
@@ -43,7 +44,7 @@ extern "C" {
 #define VANTREL_REWRITER_EXPORT
 #endif
 
-/* What this header describes. Later versions only add to the ends of the two structs. */
+/* The version of this interface. Later ones only add to the ends of the two structs. */
 #define VANTREL_REWRITER_INTERFACE_VERSION 2
 
 /* NOLINTBEGIN(modernize-use-using): C has no other way. */
@@ -81,11 +82,11 @@ struct VantrelRewriterOptions {
     VantrelRewriterMethods methods;  /* may be NULL */
     void* context;                   /* for `methods` */
 
-    /* Since version 2. In the place of newarray_tracker, at the same places: told who makes the array, not which. */
+    /* Since version 2. Called instead of newarray_tracker, at the same places; told who makes the array, not which. */
     const char* numbered_newarray_tracker; /* "(II)V": class number, method number */
 };
 
-/* What came of it. The caller sets `size`; the rest is overwritten. Texts that are too long are cut. */
+/* The result. The caller sets `size`; the rest is overwritten. Texts that are too long are cut. */
 struct VantrelRewriterResult {
     size_t size; /* sizeof(struct VantrelRewriterResult) */
     int status;  /* the same that was returned */

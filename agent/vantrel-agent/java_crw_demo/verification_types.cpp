@@ -15,8 +15,8 @@ namespace {
 
 using Type = VerificationType;
 
-// What an instruction does whose effect its opcode tells: how many slots it takes off the stack, and the letter of the
-// type that it pushes (as in a descriptor, N for null), or a blank for nothing.
+// The effect of an instruction, as far as the opcode alone tells it: how many slots it takes off the stack, and the
+// letter of the type that it pushes (as in a descriptor, with N for null), or a blank for nothing.
 struct Effect {
     uint8_t pops = 0;
     char push = ' ';
@@ -94,7 +94,7 @@ constexpr std::array<Effect, 256> kEffects = [] {
     return effects;
 }();
 
-// Opcodes that the table leaves out, and that nothing else of the rewriter needs by name.
+// Opcodes that the table leaves out, and that no other file of the rewriter needs by name.
 enum : uint8_t {
     kLload = 22,
     kDload = 24,
@@ -296,24 +296,25 @@ class Follower {
     }
 
     void load_constant(uint32_t index) {
+        // By the tag of the constant (JVM specification, table 4.4-A).
         switch (cpool_tag(ci_, index)) {
-            case 3:
+            case 3:  // Integer
                 return push('I');
-            case 4:
+            case 4:  // Float
                 return push('F');
-            case 5:
+            case 5:  // Long
                 return push('J');
-            case 6:
+            case 6:  // Double
                 return push('D');
-            case 7:
+            case 7:  // Class
                 return push_object("java/lang/Class");
-            case 8:
+            case 8:  // String
                 return push_object("java/lang/String");
-            case 15:
+            case 15:  // MethodHandle
                 return push_object("java/lang/invoke/MethodHandle");
-            case 16:
+            case 16:  // MethodType
                 return push_object("java/lang/invoke/MethodType");
-            case 17:
+            case 17:  // Dynamic
                 return push_described(cpool_member_descriptor(ci_, index));
             default:
                 throw NotFollowed{};

@@ -55,7 +55,7 @@ xcb_get_property_cookie_t ask_for_property(xcb_connection_t* connection, xcb_win
     return xcb::get_property(connection, 0, window, property, type, 0, length);
 }
 
-// The value as bytes; empty where there is none, or no such window.
+// The value as bytes. Empty if there is no such property or no such window.
 std::string value_of(xcb_connection_t* connection, xcb_get_property_cookie_t request) {
     const Owned<xcb_get_property_reply_t> reply(xcb::get_property_reply(connection, request, NULL));
     if (!reply) {
@@ -65,7 +65,7 @@ std::string value_of(xcb_connection_t* connection, xcb_get_property_cookie_t req
             static_cast<size_t>(xcb::get_property_value_length(reply.get()))};
 }
 
-// A CARDINAL; 0 where there is none.
+// A CARDINAL; 0 if there is none.
 uint32_t number_of(const std::string& value) {
     uint32_t number = 0;
     if (value.size() == sizeof number) {
@@ -244,7 +244,8 @@ Standing look_at_others(const Agents& agents) {
         const uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
         xcb::change_window_attributes(agents.connection, agent.window, XCB_CW_EVENT_MASK, &events);
     }
-    // Read again: what has changed before the server took the request above, it has sent no event about.
+    // The standings are read again, because the server has sent no event for what changed before it took these
+    // requests.
     read_agents(agents, others);
     const auto one_stands = [&](Standing standing) {
         return std::any_of(others.begin(), others.end(),

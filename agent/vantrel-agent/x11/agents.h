@@ -54,9 +54,9 @@ Agents join_agents(xcb_connection_t* connection, const HotKey& hot_key);
 // Tells the others whether this agent has the hot key.
 void set_standing(Agents& agents, Standing standing);
 
-// Whether one of the other agents with the same hot key has it: has_it if one does, or else trying if one is trying, or
-// else has_not. From now on the server sends us an event when one of them ends (ends_another recognises it) and when
-// one of them changes its standing (changes_another).
+// How the other agents with the same hot key stand: has_it if one of them has it; if none has, trying if one of them
+// tries; or else has_not. From now on the server sends us an event when one of them ends (ends_another recognises it)
+// and when one of them changes its standing (changes_another).
 Standing look_at_others(const Agents& agents);
 
 // Decides which agent a press is meant for: the one whose program has the window with the focus; if there is none, the

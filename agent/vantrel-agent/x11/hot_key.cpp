@@ -19,7 +19,7 @@ struct ModifierName {
 constexpr ModifierName kModifierNames[] = {{"Shift", kShift}, {"Control", kControl}, {"Ctrl", kControl},
                                            {"Alt", kAlt},     {"Meta", kMeta},       {"Super", kSuper}};
 
-// 0 for a name that is no modifier's.
+// 0 if no modifier has that name.
 uint8_t modifier_named(const std::string& name) {
     for (const ModifierName& known : kModifierNames) {
         if (strcasecmp(known.name, name.c_str()) == 0) {

@@ -1,6 +1,6 @@
-// The functions of libxcb that we call. They are found when the first display is asked for, and not linked: a VM starts
-// under the agent on a machine that has no X libraries, too. A call reads as libxcb's own, with "::" for the first "_":
-// xcb::connect is xcb_connect, and so on; types and constants are those of its headers.
+// The functions of libxcb that we call. They are not linked but looked up when the first connection is made, so that a
+// VM can start under the agent on a machine without X libraries. xcb::connect is libxcb's xcb_connect, and so on; types
+// and constants come from its headers.
 #ifndef VANTREL_X11_XCB_H
 #define VANTREL_X11_XCB_H
 
@@ -25,9 +25,8 @@ namespace xcb {
 VANTREL_XCB_FUNCTIONS(VANTREL_XCB_POINTER)
 #undef VANTREL_XCB_POINTER
 
-// Finds them all, the first time that it is called. Until it has returned true none may be called. May be called by any
-// thread.
-// returns   whether they are there; if not, they never will be
+// Looks all of them up when it is called for the first time. None may be called before it has returned true. May be
+// called on any thread.
 bool load();
 
 }  // namespace xcb
