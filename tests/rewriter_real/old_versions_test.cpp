@@ -83,7 +83,7 @@ class OldVersions : public testing::TestWithParam<Kind> {
         ASSERT_EQ(compiling.status, 0) << compiling.out << compiling.err;
     }
 
-    // Runs a class of those that were compiled on each VM.
+    // Runs one of the compiled classes on each VM.
     void expect_same(const std::string& name) const {
         std::ifstream file(classes_.path / (name + ".class"), std::ios::binary);
         char header[8];

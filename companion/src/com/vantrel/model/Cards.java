@@ -4,7 +4,7 @@ import java.awt.CardLayout;
 import java.awt.Component;
 import java.lang.reflect.Field;
 
-/** The names that the cards of a CardLayout were given, which it keeps to itself. For the event thread. */
+/** The names of the cards of a CardLayout, which it keeps in a private field. For the event thread. */
 final class Cards {
     private static final Field ALL = Members.field(CardLayout.class, "vector");
 

@@ -15,13 +15,7 @@ public final class Description {
     private Description() {
     }
 
-    /** A component's class and name, such as {@code JTextField "amount"}. */
-    public static String label(Component component) {
-        String name = Facts.name(component);
-        return ClassFacts.of(component.getClass()).name() + (name == null ? "" : " \"" + name + "\"");
-    }
-
-    /** The components that a component is in, from its window on, itself the last; without the machinery. */
+    /** The way to a component, from its window through the containers to itself, without the machinery. */
     public static List<Component> path(Component component) {
         List<Component> path = new ArrayList<>();
         for (Component at = component; at != null; at = Facts.parent(at)) {
@@ -39,7 +33,7 @@ public final class Description {
     public static String pathText(Component component) {
         StringBuilder text = new StringBuilder();
         for (Component at : path(component)) {
-            text.append(text.length() == 0 ? "" : " > ").append(label(at));
+            text.append(text.length() == 0 ? "" : " > ").append(Code.describe(at));
             if (Facts.name(at) == null && Facts.parent(at) != null) {
                 text.append('[').append(number(at)).append(']');
             }
@@ -58,9 +52,11 @@ public final class Description {
         return number;
     }
 
-    /** Everything that whoever reads a report would ask: which component, where, how it is, and where it was added. */
+    /**
+     * Everything that a reader of a report would ask for: which component, where, how it is, and where it was added.
+     */
     public static String of(Component component) {
-        StringBuilder text = new StringBuilder(label(component)).append('\n');
+        StringBuilder text = new StringBuilder(Code.describe(component)).append('\n');
         line(text, "class", component.getClass().getName());
         line(text, "path", pathText(component));
         line(text, "text", Facts.text(component));

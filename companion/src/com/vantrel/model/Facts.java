@@ -26,14 +26,14 @@ import javax.swing.text.Document;
 import javax.swing.text.JTextComponent;
 
 /**
- * What is asked of every component unasked, again and again. Never runs code of the program: where a class of the
- * program has written the method, the toolkit's field is read instead, and where that cannot be read the answer is that
- * there is nothing. A component that throws, blocks or lies when it is asked is shown like any other. For the event
- * thread.
+ * What the inspector reads of every component, again and again, without being told to. It never runs code of the
+ * program: where a class of the program overrides the method, the toolkit's own field is read instead; where that
+ * cannot be read, the answer is a default. So a component whose methods throw, block or lie is shown like any other.
+ * For the event thread.
  */
 public final class Facts {
     private static final Component[] NONE = new Component[0];
-    /** Nobody reads more in a row, and a document may hold a book. */
+    /** Longer texts are cut: a row shows no more, and a document may hold a book. */
     private static final int LONGEST_TEXT = 200;
 
     private Facts() {
@@ -119,7 +119,7 @@ public final class Facts {
         try {
             return textOf(component);
         } catch (BadLocationException | RuntimeException e) {
-            return null; // a document or peer that is just being changed
+            return null; // the document or peer is just being changed
         }
     }
 
@@ -197,14 +197,14 @@ public final class Facts {
         if (!(component instanceof JComponent)) {
             return null;
         }
-        // Of which the method of the same purpose is only a reader.
+        // Where setToolTipText() keeps it; getToolTipText() may be the program's.
         Object text = ((JComponent) component).getClientProperty(JComponent.TOOL_TIP_TEXT_KEY);
         return text instanceof String ? cut((String) text) : null;
     }
 
     /**
-     * The accessible name that was set on a component; null for none. A component that has not been asked for its
-     * accessible side before is not asked now either: that makes one, which listens to models.
+     * The accessible name that was set on a component; null for none. A component that has no accessible context yet is
+     * not asked for one, because it would make one, which would listen to its models.
      */
     static String accessibleName(Component component) {
         Object context = Fields.ACCESSIBLE.of(component, null);

@@ -4,9 +4,9 @@ import java.awt.Component;
 import java.lang.reflect.Field;
 
 /**
- * A field of the toolkit's, for what a program's class answers in its own way when it is asked by method. Reading it
- * runs nothing. Whether it can be read is the VM's business: its module may not be open to us, or the field not be
- * there; who asks says what holds then. For any thread.
+ * Private fields of the toolkit's classes, read where a class of the program overrides the getter: reading a field runs
+ * no code. A field cannot be read where its module is closed to us, or where the VM's version of the class has no such
+ * field; the caller says what to assume then. For any thread.
  */
 final class Fields {
     static final Fields NAME = new Fields(Component.class, "name");

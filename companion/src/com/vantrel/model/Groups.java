@@ -18,9 +18,7 @@ final class Groups {
     private Groups() {
     }
 
-    /**
-     * A line for each direction: what stands in brackets comes after each other, what stands in braces side by side.
-     */
+    /** Adds a row for each direction, with sequential groups in brackets and parallel groups in braces. */
     static void describe(List<Row> rows, String group, GroupLayout layout) throws Throwable {
         if (HORIZONTAL == null || VERTICAL == null) {
             rows.add(Row.of(group, "groups", "not seen")
@@ -46,7 +44,7 @@ final class Groups {
         if (springs != null) {
             List<?> parts = (List<?>) springs.get(spring);
             if (parts.size() == 1) {
-                write(text, parts.get(0)); // the layout puts one around what the program has given it
+                write(text, parts.get(0)); // the layout wraps the program's group in one of its own
                 return;
             }
             boolean sequential = spring instanceof GroupLayout.SequentialGroup;

@@ -60,7 +60,10 @@ enum Machinery {
         return scrolls || arrow ? PART : NO;
     }
 
-    /** The glass pane and content pane that every window begins with: other classes are somebody's choice. */
+    /**
+     * The glass pane and content pane that every window begins with are plain panels. One of another class is the
+     * program's choice.
+     */
     private static Machinery ofPanel(Component panel, Container parent) {
         if (panel.getClass() == JPanel.class && parent instanceof JRootPane) {
             return Facts.isVisible(panel) ? NO : PART;

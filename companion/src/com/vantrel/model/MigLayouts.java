@@ -4,8 +4,8 @@ import java.awt.Component;
 import java.awt.LayoutManager;
 
 /**
- * Layout managers of the library MigLayout, which is the program's if it is there at all: reached by the names of its
- * public methods. For the event thread.
+ * Layout managers of the library MigLayout. It belongs to the program, if it is there at all, so its public methods are
+ * called by reflection. For the event thread.
  */
 final class MigLayouts {
     private MigLayouts() {

@@ -138,7 +138,10 @@ final class Header extends JPanel {
         return row != null && row.check() != null && row.check() == value;
     }
 
-    /** A label that is set anew is laid out anew, with all that stands around it. */
+    /**
+     * Sets a label's text only if it has changed, because each setting lays out the label and everything around it
+     * anew.
+     */
     private static void set(JLabel label, String text) {
         String shown = text.isEmpty() ? " " : RowPainter.oneLine(text);
         if (!shown.equals(label.getText())) {
