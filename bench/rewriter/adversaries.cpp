@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <random>
+#include <utility>
+#include <vector>
 
 #include "class_builder.h"
 
@@ -110,6 +112,38 @@ Bytes to_and_fro(int count) {
     return code;
 }
 
+// Rows of branches both ways around a thousand switches, with a little or a lot to spare, at random, in the order of
+// the code, or in powers of two: what a search among some thousand such methods found to take the longest.
+Bytes rows_around_switches() {
+    std::mt19937 random(1);  // NOLINT(cert-msc32-c,cert-msc51-cpp)
+    Bytes code;
+    std::vector<std::pair<std::size_t, int>> offsets;  // by pc of a branch
+    const auto add_row = [&](unsigned opcode, std::size_t count, bool forward, const auto& to_spare) {
+        for (std::size_t i = 0; i < count; ++i) {
+            const int spare = to_spare(static_cast<int>(i));
+            offsets.emplace_back(code.size(), forward ? kFarthest - spare : spare - kFarthest - 1);
+            append(code, branch(opcode, 0));
+        }
+    };
+    const auto at_random = [&random](int) { return static_cast<int>(random() % 1000); };
+    const auto in_order = [](int i) { return 2 * i; };
+    const auto power_of_two = [](int i) { return 1 << i % 14; };
+    add_row(op::ifeq, 4600, true, at_random);
+    add_row(op::goto_, 1800, true, in_order);
+    add_row(op::goto_, 3100, true, power_of_two);
+    for (int i = 0; i < 1000; ++i) {
+        append(code, lookupswitch(code.size(), 0, {}));
+    }
+    code.push_back(op::return_);
+    add_row(op::ifeq, 2000, true, power_of_two);
+    add_row(op::goto_, 4000, false, power_of_two);
+    for (const auto& [pc, offset] : offsets) {
+        const int target = static_cast<int>(pc) + offset;
+        aim(code, pc, target >= 0 && target < static_cast<int>(code.size()) ? offset : 0);
+    }
+    return code;
+}
+
 // The scattered ones, some of which jump over a switch, too.
 Bytes scattered_around_switch(unsigned opcode) {
     Bytes code = scattered(opcode, 3000);
@@ -137,5 +171,6 @@ std::vector<Adversary> adversaries() {
             adversary("scattered/40", scattered(op::goto_, 40)),
             adversary("one_sided", one_sided(op::goto_)),
             adversary("to_and_fro", to_and_fro(4000)),
+            adversary("rows around switches", rows_around_switches()),
             adversary("switches", switches(op::ifeq))};
 }

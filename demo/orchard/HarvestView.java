@@ -14,7 +14,7 @@ import javax.swing.JPanel;
 import javax.swing.JRadioButton;
 import javax.swing.JSlider;
 
-/** A chart, and beside it a column of what can be changed about it. */
+/** A chart, and beside it a column of controls for it. */
 @SuppressWarnings("serial")
 final class HarvestView extends JPanel {
     private final HarvestChart chart = new HarvestChart();

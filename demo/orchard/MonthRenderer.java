@@ -41,7 +41,7 @@ final class MonthRenderer extends JPanel implements ListCellRenderer<String> {
         }
         month.setText(value);
         share.setValue(100 * sum / all);
-        // A colour that is a look's own would be taken for the panel's by Nimbus, which has another for panels.
+        // A copy: Nimbus replaces a colour object of its own, if it is a panel's background, by its colour for panels.
         setBackground(new Color((isSelected ? list.getSelectionBackground() : list.getBackground()).getRGB()));
         month.setForeground(isSelected ? list.getSelectionForeground() : list.getForeground());
         return this;

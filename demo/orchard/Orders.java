@@ -5,7 +5,7 @@ import java.util.List;
 
 import javax.swing.table.AbstractTableModel;
 
-/** All orders, as a table shows them. */
+/** All orders, as a table's model. */
 @SuppressWarnings("serial")
 final class Orders extends AbstractTableModel {
     static final int CUSTOMER = 0;

@@ -41,7 +41,7 @@ final class StateRenderer extends DefaultTableCellRenderer {
         fine.setColor(state.color());
         fine.fillRoundRect(MARGIN, MARGIN, getWidth() - 2 * MARGIN, height, height, height);
         fine.dispose();
-        // The look's own background would cover the label.
+        // Otherwise the superclass would paint the background over the label.
         setOpaque(false);
         super.paintComponent(graphics);
         setOpaque(true);

@@ -9,7 +9,7 @@ import java.awt.event.InputEvent;
 import java.awt.event.KeyEvent;
 import java.awt.image.BufferedImage;
 
-/** A hand on the keyboard and the mouse of the display: what it does comes to programs by way of the window system. */
+/** Uses the display's keyboard and mouse as a person does: programs get its input from the window system. */
 final class Hand {
     private static final int MILLIS_BETWEEN = 30;
     private static final int STEPS = 12;
@@ -52,7 +52,7 @@ final class Hand {
         }
     }
 
-    /** Moves the pointer to the middle of a place on the screen, as a hand does: not at once. */
+    /** Moves the pointer to the middle of a place on the screen, in steps, as a hand does. */
     void pointAt(Rectangle place) {
         Point from = at;
         at = new Point((int) place.getCenterX(), (int) place.getCenterY());

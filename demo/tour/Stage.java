@@ -11,7 +11,7 @@ import javax.swing.JTabbedPane;
 import javax.swing.JTable;
 import javax.swing.SwingUtilities;
 
-/** The program's windows and the inspector's, and what is to be found in them by its name. */
+/** Finds components by their names, in the program's windows and the inspector's, and waits for them. */
 final class Stage {
     private static final long MILLIS_OF_PATIENCE = 10_000;
     private static final long MILLIS_BETWEEN_LOOKS = 50;
@@ -19,7 +19,7 @@ final class Stage {
     private Stage() {
     }
 
-    /** Waits until something is so; what a look at it throws counts as not yet. */
+    /** Waits until a condition holds. If asking throws an exception, that counts as not yet. */
     static void waitFor(String what, Callable<Boolean> condition) throws Exception {
         long end = System.currentTimeMillis() + MILLIS_OF_PATIENCE;
         Exception last = null;

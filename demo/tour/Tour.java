@@ -12,13 +12,13 @@ import javax.swing.JButton;
 import com.vantrel.Vantrel;
 
 /**
- * Goes through what the inspector does, on the sample program, with a hand of its own: opens it, looks at a cell, picks
- * a button, sees which line put it there, changes its text, and undoes that. Leaves a picture of each step. Ends with
- * status 1 and a line on stderr where a step does not do what it should.
+ * Shows what the inspector does, on the sample program, with real keys and mouse: opens it, points at a cell, picks a
+ * button, sees which line put it there, changes its text, and undoes that. Leaves a picture of each step. If a step
+ * does not do what it should, it ends with status 1 and a line on stderr.
  */
 public final class Tour {
     private static final long MILLIS_TO_PAINT = 600;
-    /** Leaves the inspector the rest of the screen. */
+    /** Where the program's window goes; the rest of the screen is for the inspector. */
     private static final Rectangle PROGRAM = new Rectangle(0, 0, 760, 640);
     private static final int STATE_COLUMN = 5;
 
@@ -30,7 +30,7 @@ public final class Tour {
         this.folder = folder;
     }
 
-    /** @param arguments the folder for the pictures, which is there; then what the program takes */
+    /** @param arguments an existing folder for the pictures, then the program's own arguments */
     public static void main(String[] arguments) throws Exception {
         orchard.Main.main(java.util.Arrays.copyOfRange(arguments, 1, arguments.length));
         Tour tour = new Tour(new File(arguments[0]));
@@ -113,7 +113,7 @@ public final class Tour {
         return (JButton) save;
     }
 
-    /** Leaves a picture of the screen, once what has changed is painted. */
+    /** Saves a picture of the screen, after a pause for changes to be painted. */
     private void take(String name) throws IOException, InterruptedException {
         Thread.sleep(MILLIS_TO_PAINT);
         ImageIO.write(hand.picture(), "png", new File(folder, ++pictures + "-" + name + ".png"));

@@ -28,7 +28,7 @@ std::string bind() {
     return testing::internal::GetCapturedStdout();
 }
 
-// One test, for the file keeps what it has registered.
+// One test, because the keyboard's file keeps what it has registered from test to test.
 TEST(Carbon, RegistersAndUnregistersTheHotKey) {
     unbindMacHotKey();
     EXPECT_THAT(carbon.calls, IsEmpty()) << "nothing is registered yet";

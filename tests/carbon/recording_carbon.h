@@ -12,7 +12,8 @@
 
 struct RecordingCarbon {
     // By any thread, one at a time.
-    std::vector<std::string> calls;  // a name and arguments with a blank after each; whether handles are the right ones
+    // The function and its arguments, with a blank after each; 1 for a handle that is the right one.
+    std::vector<std::string> calls;
     std::function<void(const std::string&)> on_call;  // is told of each; may be empty
 
     OSStatus status = noErr;              // of every call

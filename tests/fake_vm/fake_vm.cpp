@@ -12,10 +12,10 @@
 
 namespace {
 
-// The one FakeVm there is at a time: the function tables have no other way to it.
+// The one FakeVm that exists: nothing that the tables' functions are given leads to it.
 FakeVm* current = nullptr;
 
-// Slots that nothing is scripted for.
+// The names of a table's slots, in their order.
 
 template <typename Table>
 struct SlotNames;
@@ -114,7 +114,7 @@ std::string text(jfieldID value) {
     return member_text(value);
 }
 
-// Records a call; the code that it was told to fail with, if it was.
+// Records a call. Returns the code to fail with, if it is to fail.
 template <typename... Arguments>
 std::optional<jint> record(const char* function, const Arguments&... arguments) {
     std::string call = function;
@@ -648,12 +648,8 @@ jfieldID FakeVm::add_field(jclass owner, std::string_view name, std::string_view
     return reinterpret_cast<jfieldID>(&members.back());
 }
 
-void set_modifiers(jmethodID method, jint modifiers) {
-    member_of(method)->modifiers = modifiers;
-}
-
-void set_modifiers(jfieldID field, jint modifiers) {
-    member_of(field)->modifiers = modifiers;
+void FakeVm::add_member(jclass owner, std::string_view name, std::string_view descriptor, jint modifiers) {
+    members.push_back({owner, std::string(name), std::string(descriptor), kZero, nullptr, {}, modifiers});
 }
 
 void set_field(jobject object, std::string_view name, jobject value) {

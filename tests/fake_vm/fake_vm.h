@@ -51,7 +51,7 @@ struct FakeMember {
     jint modifiers;              // Java's access flags, as JVMTI gives them
 };
 
-// No result, or a zero of any type: `{}` would set but the first byte of the union.
+// No result, or a zero of any type: `{}` would only set the first byte of the union.
 constexpr jvalue kZero{.j = 0};
 
 struct FakeVm {
@@ -68,6 +68,8 @@ struct FakeVm {
     jmethodID add_method(jclass owner, std::string_view name, std::string_view descriptor, jobject result);
     jmethodID add_throwing_method(jclass owner, std::string_view name, std::string_view descriptor, jobject thrown);
     jfieldID add_field(jclass owner, std::string_view name, std::string_view descriptor);
+    // A method or a field, as the descriptor has it, with access flags. Without this, members have none.
+    void add_member(jclass owner, std::string_view name, std::string_view descriptor, jint modifiers);
     void add_property(std::string_view name, std::string_view value);
 
     // GetClassFields and GetClassMethods list a class's members in the order in which they were added.
@@ -109,7 +111,7 @@ struct FakeVm {
 void record_call(std::string_view call);
 
 // While there is one, what the program writes to stdout goes to no file but to the record of the FakeVm there is:
-// "stdout TEXT" each time that the stream gives text away.
+// "stdout TEXT" each time that the stream is flushed.
 class RecordedStdout {
   public:
     // buffering   as setvbuf has it: by lines (_IOLBF), or until the stream is flushed (_IOFBF)
@@ -121,10 +123,6 @@ class RecordedStdout {
   private:
     FILE* before_;
 };
-
-// Gives a member of a FakeVm its access flags, which are none otherwise.
-void set_modifiers(jmethodID method, jint modifiers);
-void set_modifiers(jfieldID field, jint modifiers);
 
 // Gives an object of a FakeVm a value that GetObjectField reads.
 void set_field(jobject object, std::string_view name, jobject value);

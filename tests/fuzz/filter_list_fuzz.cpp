@@ -17,7 +17,7 @@ std::string next_line(std::string& text) {
     return line.c_str();  // up to a zero, as the functions see it
 }
 
-// Every token is refused or is copied whole, from where the position returned says.
+// Every token that get_token returns is copied whole and ends at the returned position.
 void check_tokens(std::string list, int room) {
     std::string separators = ",";
     std::vector<char> token(room);  // exactly as large as promised: the sanitizer watches its end

@@ -20,7 +20,7 @@
 
 namespace {
 
-// A message without the class, the method and the position: a literal reader stops at another byte.
+// A message without its place: the literal rewriter finds a fault at another byte.
 std::string without_place(const std::string& message) {
     const bool has_place = message.starts_with("CRW ASSERTION FAILURE") && message.ends_with(")");
     return has_place ? message.substr(0, message.rfind(" (")) : message;

@@ -86,8 +86,7 @@ TEST_P(Agent, TheVmsLogShowsTheReplacements) {
     EXPECT_EQ(logged_size(with.out, "Cursor"), other);
 }
 
-// What the agent adds to components is not part of them where they are written down. Without the agent the companion
-// knows of no addition.
+// What the agent adds to components is not serialised with them. Without the agent the companion knows of no addition.
 TEST_P(Agent, SerialisedComponentsAreReadWithAndWithoutIt) {
     const ScratchFolder folder;
     const auto in_vm = [&](bool under_agent, const char* action, const char* file) {

@@ -13,7 +13,7 @@ using testing::StartsWith;
 
 namespace {
 
-// The test classes, and how many tests each has: one that is not run is missed.
+// The test classes, and how many tests each has: so that a test that is not run is noticed.
 struct UnitTests {
     const char* name;
     int tests;

@@ -32,12 +32,6 @@ namespace {
 class Generator : public testing::TestWithParam<int> {};
 INSTANTIATE_TEST_SUITE_P(OnJdk, Generator, testing::ValuesIn(kReleases), testing::PrintToStringParamName());
 
-std::string text_of(const fs::path& path) {
-    std::ifstream file(path);
-    EXPECT_TRUE(file) << path;
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 // The names of files with an ending, without it.
 std::vector<std::string> names_in(const fs::path& folder, const std::string& ending) {
     std::vector<std::string> names;
@@ -119,8 +113,8 @@ TEST_P(Generator, PublicClassesCompileAndOnlyWhatWouldNotIsChanged) {
         const Finished stated = generate(GetParam(), Arguments{"--literal", "--out", literal} + classes);
         EXPECT_EQ(stated.err, "");
         for (const std::string& name : names_in(proxies, ".cpp")) {
-            const bool same = text_of(proxies / (name + ".h")) == text_of(literal / (name + ".h")) &&
-                              text_of(proxies / (name + ".cpp")) == text_of(literal / (name + ".cpp"));
+            const bool same = contents(proxies / (name + ".h")) == contents(literal / (name + ".h")) &&
+                              contents(proxies / (name + ".cpp")) == contents(literal / (name + ".cpp"));
             EXPECT_EQ(same, !changed.contains(name)) << name;
         }
     }
@@ -229,7 +223,7 @@ TEST_P(Generator, WritesBothFilesOrNone) {
                                  ": Is a directory\n");
     EXPECT_THAT(names_in(scratch.path, ".h"), ElementsAre("Iterator", "Set"));
     EXPECT_THAT(names_in(scratch.path, ".part"), IsEmpty());
-    EXPECT_THAT(text_of(scratch.path / "Set.h"), HasSubstr("namespace NSSet{"));
+    EXPECT_THAT(contents(scratch.path / "Set.h"), HasSubstr("namespace NSSet{"));
 }
 
 TEST_P(Generator, ReplacesOnlyWhatIsItsOwn) {
@@ -244,7 +238,7 @@ TEST_P(Generator, ReplacesOnlyWhatIsItsOwn) {
     EXPECT_EQ(generate_to_scratch({"java.awt.List"}).err, "") << "a second time";
     std::ofstream(scratch.path / "Map.cpp") << "by hand";
     std::ofstream(header) << "by hand";
-    const std::string before = text_of(body);
+    const std::string before = contents(body);
     const Finished refused = generate_to_scratch({"java.util.List", "java.util.Set", "java.util.Map"});
     EXPECT_EQ(refused.status, 1);
     EXPECT_THAT(lines_of(refused.err),
@@ -253,11 +247,11 @@ TEST_P(Generator, ReplacesOnlyWhatIsItsOwn) {
                             "vantrel-generate: java/util/Set: " + header.string() + " is no proxy; --force replaces it",
                             "vantrel-generate: java/util/Map: " + (scratch.path / "Map.cpp").string() +
                                 " is no proxy; --force replaces it"));
-    EXPECT_EQ(text_of(body), before);
-    EXPECT_EQ(text_of(header), "by hand");
+    EXPECT_EQ(contents(body), before);
+    EXPECT_EQ(contents(header), "by hand");
     EXPECT_EQ(generate_to_scratch({"--force", "java.util.List", "java.util.Set"}).status, 0);
-    EXPECT_THAT(text_of(body), HasSubstr("\"java/util/List\""));
-    EXPECT_THAT(text_of(header), HasSubstr("namespace NSSet{"));
+    EXPECT_THAT(contents(body), HasSubstr("\"java/util/List\""));
+    EXPECT_THAT(contents(header), HasSubstr("namespace NSSet{"));
 }
 
 // What goes to standard output and does not get there is an error; nobody hears of it otherwise.

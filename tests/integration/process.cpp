@@ -17,7 +17,7 @@ using std::chrono::steady_clock;
 
 namespace {
 
-// What a condition asks may be costly; the end of a process is not.
+// To try a condition may be costly; to ask whether a process has ended is not.
 constexpr auto kTryInterval = std::chrono::milliseconds(20);
 constexpr auto kEndInterval = std::chrono::milliseconds(2);
 
@@ -25,12 +25,6 @@ fs::path new_folder() {
     std::string name = testing::TempDir() + "vantrel-XXXXXX";
     EXPECT_NE(mkdtemp(name.data()), nullptr);
     return name;
-}
-
-std::string contents(const fs::path& file) {
-    std::ostringstream text;
-    text << std::ifstream(file).rdbuf();
-    return text.str();
 }
 
 [[noreturn]] void become(const std::vector<std::string>& command, const ProcessOptions& options,
@@ -129,6 +123,12 @@ Finished run(const std::vector<std::string>& command, const ProcessOptions& opti
     Process process(command, options);
     const int status = process.wait();
     return {status, process.out(), process.err()};
+}
+
+std::string contents(const fs::path& file) {
+    std::ostringstream text;
+    text << std::ifstream(file).rdbuf();
+    return text.str();
 }
 
 std::vector<std::string> lines_of(const std::string& text) {

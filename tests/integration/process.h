@@ -25,8 +25,8 @@ struct ProcessOptions {
     std::vector<std::string> environment;  // NAME=VALUE, beside what the test itself has
 };
 
-// A child process with no standard input whose output is collected. Killed, with no word, when it is destroyed and
-// still running; it dies with the test too.
+// A child process with no standard input whose output is collected. Killed silently if it still runs when this is
+// destroyed, and also when the test dies.
 class Process {
   public:
     explicit Process(const std::vector<std::string>& command, const ProcessOptions& options = {});
@@ -64,6 +64,9 @@ struct Finished {
     std::string err;
 };
 Finished run(const std::vector<std::string>& command, const ProcessOptions& options = {});
+
+// What a file holds; nothing where there is no file.
+std::string contents(const std::filesystem::path& file);
 
 // The lines of what a program wrote, without their ends.
 std::vector<std::string> lines_of(const std::string& text);

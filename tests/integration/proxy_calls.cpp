@@ -69,32 +69,14 @@ NATIVE(void, initialise)(JNIEnv* env, jclass) {
 }
 
 NATIVE(void, printMissingMembers)(JNIEnv* env, jclass) {
-#define PROXY(...)
 #define PROXY_FIELD(C, CLASS, KIND, NAME, DESCRIPTOR) print_if_missing(env, CLASS, KIND, #NAME, DESCRIPTOR);
-#define PROXY_WRAPPER(C, CLASS, KIND, NAME, DESCRIPTOR, ...) print_if_missing(env, CLASS, KIND, NAME, DESCRIPTOR);
-#define PROXY_UNWRAPPED(C, CLASS, KIND, NAME, DESCRIPTOR, ...) print_if_missing(env, CLASS, KIND, NAME, DESCRIPTOR);
+#define PROXY_METHOD(C, CLASS, KIND, NAME, DESCRIPTOR, ...) print_if_missing(env, CLASS, KIND, NAME, DESCRIPTOR);
 #include "members.inc"
-#undef PROXY
-#undef PROXY_FIELD
-#undef PROXY_WRAPPER
-#undef PROXY_UNWRAPPED
     fflush(stdout);
 }
 
 NATIVE(jboolean, threadIsAlive)(JNIEnv* env, jclass, jobject thread) {
     return NSThread::isAlive(env, thread);
-}
-
-NATIVE(jbyte, jComponentGetWriteObjCounter)(JNIEnv* env, jclass, jobject component) {
-    return NSJComponent::getWriteObjCounter(env, component);
-}
-
-NATIVE(void, jComponentSetWriteObjCounter)(JNIEnv* env, jclass, jobject component, jbyte count) {
-    NSJComponent::setWriteObjCounter(env, component, count);
-}
-
-NATIVE(jint, colorHSBtoRGB)(JNIEnv* env, jclass, jfloat hue, jfloat saturation, jfloat brightness) {
-    return NSColor::HSBtoRGB(env, hue, saturation, brightness);
 }
 
 NATIVE(jlong, threadGetId)(JNIEnv* env, jclass, jobject thread) {
@@ -109,55 +91,12 @@ NATIVE(jobject, objectToString)(JNIEnv* env, jclass, jobject object) {
     return NSObject::toString(env, object);
 }
 
-NATIVE(jobject, colorRGBtoHSB)(JNIEnv* env, jclass, jint red, jint green, jint blue, jfloatArray hsb) {
-    return NSColor::RGBtoHSB(env, red, green, blue, hsb);
-}
-
-NATIVE(jobject, componentGetListeners)(JNIEnv* env, jclass, jobject component, jclass type) {
-    return NSComponent::getListeners(env, component, type);
-}
-
-NATIVE(jint, threadEnumerate)(JNIEnv* env, jclass, jobjectArray threads) {
-    return NSThread::enumerate(env, threads);
-}
-
 NATIVE(jobject, threadNew)(JNIEnv* env, jclass, jobject group, jobject task, jobject name) {
     return NSThread::Thread(env, group, task, name);
 }
 
 NATIVE(void, threadSetPriority)(JNIEnv* env, jclass, jobject thread, jint priority) {
     NSThread::setPriority(env, thread, priority);
-}
-
-NATIVE(void, threadSleep)(JNIEnv* env, jclass, jlong millis) {
-    NSThread::sleep(env, millis);
-}
-
-NATIVE(void, graphicsFillPolygon)
-(JNIEnv* env, jclass, jobject graphics, jintArray xs, jintArray ys, jint count) {
-    NSGraphics::fillPolygon(env, graphics, xs, ys, count);
-}
-
-NATIVE(void, graphicsDrawChars)
-(JNIEnv* env, jclass, jobject graphics, jcharArray text, jint offset, jint length, jint x, jint y) {
-    NSGraphics::drawChars(env, graphics, text, offset, length, x, y);
-}
-
-NATIVE(void, graphicsDrawBytes)
-(JNIEnv* env, jclass, jobject graphics, jbyteArray text, jint offset, jint length, jint x, jint y) {
-    NSGraphics::drawBytes(env, graphics, text, offset, length, x, y);
-}
-
-NATIVE(void, graphics2DTranslate)(JNIEnv* env, jclass, jobject graphics, jdouble x, jdouble y) {
-    NSGraphics2D::translate(env, graphics, x, y);
-}
-
-NATIVE(jobject, colorNew)(JNIEnv* env, jclass, jfloat red, jfloat green, jfloat blue) {
-    return NSColor::Color(env, red, green, blue);
-}
-
-NATIVE(jboolean, arrayListAdd)(JNIEnv* env, jclass, jobject list, jobject element) {
-    return NSArrayList::add(env, list, element);
 }
 
 NATIVE(void, fireAll)(JNIEnv* env, jclass, jobject component) {

@@ -41,7 +41,7 @@ TEST_P(ProxiesInVm, InitialiseAndCallJava) {
     EXPECT_EQ(lines_with(program.out, "initialised ").size(), 17u);
     EXPECT_THAT(program.out, EndsWith("results as expected\n"));
 
-    // The members that the proxies know and this VM does not have. Another VM's differences are to be seen at once.
+    // The members that the proxies know and this VM does not have. For a VM that has no list yet, one is written.
     const std::vector<std::string> missing = lines_with(program.out, "missing ");
     const fs::path known = VANTREL_MISSING_MEMBERS "-" + std::to_string(GetParam()) + ".txt";
     if (!fs::exists(known)) {

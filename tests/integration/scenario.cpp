@@ -23,8 +23,8 @@ void Scenario::run_under_agent(const Arguments& options) {
     }
     asked_ = 0;
     std::filesystem::remove(folder.path / "commands");
-    // A program that runs for seconds is done sooner with the simpler compiler and collector, which take less of the
-    // processors' time away from it.
+    // A program that runs for seconds is done sooner with the simpler compiler and collector, which leave it more of
+    // the processors' time.
     const Arguments vm = {"-XX:TieredStopAtLevel=1", "-XX:+UseSerialGC", "-Duser.home=" + folder.path.string()};
     program.emplace(java_under_agent(GetParam(), vm + options),
                     ProcessOptions{.folder = folder.path, .environment = {x.display(), "XDG_CONFIG_HOME="}});

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr uint32_t kColour = 0xFFFFFF;  // what is above it means nothing
+constexpr uint32_t kColour = 0xFFFFFF;  // the byte above means nothing
 
 Place screen_of(const std::string& display) {
     const XConnection x(display);

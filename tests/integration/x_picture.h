@@ -18,7 +18,7 @@ struct Place {
 
 class Picture {
   public:
-    // Of nothing, and other than any.
+    // An empty picture, which equals no picture of a screen.
     Picture() = default;
 
     // The screen as it is now.

@@ -29,7 +29,7 @@ bool XServer::shows(const std::string& title) const {
 }
 
 void XServer::take_picture(const std::filesystem::path& file) const {
-    // The quality is that of the packing: the quickest.
+    // For PNG, -quality says how hard to compress: 10 is fast.
     const Finished import = run({"import", "-display", name_, "-window", "root", "-quality", "10", file});
     EXPECT_EQ(import.status, 0) << import.err;
 }

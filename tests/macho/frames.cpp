@@ -4,8 +4,8 @@
 #include <span>
 #include <vector>
 
-// libgcc's: a list of tables, each of which ends with a zero; the list ends with a null pointer. Two lists whose
-// addresses lie among each other would not do: it looks into one of them only.
+// libgcc's: a list of tables, each of which ends with a zero; the list ends with a null pointer. One list has all
+// tables, for of two whose address ranges overlap the unwinder would look into one only.
 extern "C" void __register_frame_table(void* tables);  // NOLINT(bugprone-reserved-identifier): its name
 
 namespace macho {

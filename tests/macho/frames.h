@@ -1,5 +1,6 @@
 // Exceptions through the code of a Mach-O library. macOS unwinds by a compact table (Apple's
-// mach-o/compact_unwind_encoding.h); the unwinder of this process reads DWARF only, so that table is said in DWARF.
+// mach-o/compact_unwind_encoding.h); the unwinder of this process reads DWARF only, so the table is translated to
+// DWARF.
 #ifndef VANTREL_MACHO_FRAMES_H
 #define VANTREL_MACHO_FRAMES_H
 

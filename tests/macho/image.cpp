@@ -21,7 +21,7 @@ std::deque<Image>& images() {
     static std::deque<Image> all;
     return all;
 }
-std::mutex lock;  // of these
+std::mutex lock;  // guards images()
 
 // The bytes of a pointer that is to be fixed: inside a segment that is written to.
 std::uint8_t* pointer_in(const Image& image, const File& file, std::uint64_t address) {

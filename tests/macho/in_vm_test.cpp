@@ -63,7 +63,7 @@ TEST_P(MachOInVm, TheHotKeyShowsTheInspectorAndCommandHighlights) {
     XKeys x_keys(x.name());
     x_keys.point_at(60, 40);
     type('c');
-    // Once more where the agent was asked before it knew of Command.
+    // Presses Control again if the agent was asked before the "c" had reached it.
     EXPECT_TRUE(sample->reaches([&] {
         x_keys.up(XK_Control_L);
         x_keys.down(XK_Control_L);

@@ -23,7 +23,7 @@
 namespace macho {
 namespace {
 
-// Functions that take and give the same on both systems; a FILE is only ever handed on.
+// Functions that are the same on both systems; the library never looks into a FILE.
 constexpr const char* kSame[] = {
     "__cxa_atexit",  "_Unwind_DeleteException",
     "_Unwind_GetIP", "_Unwind_GetLanguageSpecificData",

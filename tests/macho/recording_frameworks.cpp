@@ -1,4 +1,4 @@
-// Carbon and Quartz for the unit tests: write into the fake VM's record what is asked of the keyboard, by the words of
+// Carbon and Quartz for the unit tests: write into the fake VM's record what is asked of the keyboard, in the words of
 // tests/unit/recording_keyboard.cpp. Command is always held.
 #include <Carbon/Carbon.h>
 

@@ -14,6 +14,7 @@
 
 #include "fake_vm.h"
 #include "image.h"
+#include "proxied_classes.h"
 #include "recording_carbon.h"
 
 namespace fs = std::filesystem;
@@ -51,33 +52,6 @@ Agent for_linux() {
             {}};
 }
 
-// A VM that has everything the proxies look for.
-void script(FakeVm& vm) {
-    vm.add_property("java.home", "/jdk");
-    const jobject result = vm.add_object("result");
-    const auto method = [&](const char* owner, const char* name, const std::string& descriptor) {
-        const char returned = descriptor[descriptor.find(')') + 1];
-        const bool is_object = returned == 'L' || returned == '[' || std::string_view(name) == "<init>";
-        vm.add_method(vm.classes.at(owner), name, descriptor, is_object ? jvalue{.l = result} : kZero);
-    };
-#define PROXY(C, CLASS) vm.add_class(CLASS);
-#define PROXY_FIELD(C, CLASS, KIND, NAME, DESCRIPTOR) vm.add_field(vm.classes.at(CLASS), #NAME, DESCRIPTOR);
-#define PROXY_WRAPPER(...)
-#define PROXY_UNWRAPPED(...)
-#include "members.inc"
-#undef PROXY
-#undef PROXY_FIELD
-#undef PROXY_WRAPPER
-#undef PROXY_UNWRAPPED
-#define PROXY(...)
-#define PROXY_FIELD(...)
-#define PROXY_WRAPPER(C, CLASS, KIND, NAME, DESCRIPTOR, ...) method(CLASS, NAME, DESCRIPTOR);
-#define PROXY_UNWRAPPED(C, CLASS, KIND, NAME, DESCRIPTOR, ...) method(CLASS, NAME, DESCRIPTOR);
-#include "members.inc"
-    vm.add_method(vm.add_class("com/vantrel/util/BCIUtil"), "getComponentClassData", "()[B",
-                  vm.add_bytes("the class file", {-54, -2, -70, -66, 0}));
-}
-
 void load_class(FakeVm& vm, const char* name) {
     const unsigned char own_bytes[] = {0xCA, 0xFE};
     jint length = 0;
@@ -113,10 +87,12 @@ void call_natives(FakeVm& vm) {
     opacity(vm.jni, nullptr, 50);
 }
 
-// Twice the same: a VM's whole life, and another one after it.
+// The calls of two lives of a VM, one after the other.
 Calls live(const Agent& agent) {
     FakeVm vm;
-    script(vm);
+    add_proxied_classes(vm);
+    vm.add_method(vm.add_class("com/vantrel/util/BCIUtil"), "getComponentClassData", "()[B",
+                  vm.add_bytes("the class file", {-54, -2, -70, -66, 0}));
     const RecordedStdout recorded;
     record_call("attach " + std::to_string(agent.on_attach(vm.java_vm, nullptr, nullptr)));
     for (int life = 0; life < 2; ++life) {

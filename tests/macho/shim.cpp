@@ -1,10 +1,10 @@
 // An agent for a VM on Linux that is the macOS library:
 //
-//     -agentpath:SHIM=MACHO-FILE
+// -agentpath:SHIM=MACHO-FILE
 //
 // The keyboard is a named pipe, "keys" in the working folder: a "c" holds Command down, an "r" releases it, and a "p"
 // is a press of the hot key. Its handler is called on a thread that the VM knows as a daemon, which is what the main
-// thread of a program with windows is on a Mac. On stderr stands what Carbon was asked for, but for the state of the
+// thread of a program with windows is on a Mac. Writes to stderr what Carbon is asked for, except the state of the
 // keys.
 #include <jvmti.h>
 

@@ -2,9 +2,10 @@
 #
 #   PROXY(C, "internal/name")                                         each proxy
 #   PROXY_FIELD(C, "internal/name", KIND, name, "descriptor")         each cached field, in the order of Init
-#   PROXY_WRAPPER(C, "internal/name", KIND, "name", "descriptor", variable, function, result, parameters...)
-#   PROXY_UNWRAPPED(C, "internal/name", KIND, "name", "descriptor", variable)
-#                                                                     a method that is cached and has no wrapper
+#   PROXY_METHOD(C, "internal/name", KIND, "name", "descriptor", variable, function)
+#                                              each cached method; no function for one that has no wrapper
+#
+# Whoever includes the list defines the macros that it needs; the list undefines them at its end.
 #
 # KIND is CONSTRUCTOR, METHOD, STATIC_METHOD, FIELD or STATIC_FIELD. Run over the header and then the source of a proxy,
 # pair after pair. What is cached comes from the header's variables, what is wrapped from its prototypes and the
@@ -21,11 +22,8 @@ function end_of_proxy(    i, m) {
     }
     for (i = 1; i <= members; i++) {
         m = simple_name ", \"" class_name "\", " kind[i] ", \"" name[i] "\", "
-        if (prototypes > 0) {
-            printf "PROXY_WRAPPER(%s\"%s\", %s, %s)\n", m, descriptor[i], variable[i], prototype[i]
-        } else {
-            printf "PROXY_UNWRAPPED(%s\"%s\", %s)\n", m, looked_up[name[i]], variable[i]
-        }
+        printf "PROXY_METHOD(%s\"%s\", %s, %s)\n", m, (prototypes > 0 ? descriptor[i] : looked_up[name[i]]),
+            variable[i], (prototypes > 0 ? wrapper[i] : "")
     }
 }
 
@@ -58,17 +56,8 @@ FNR == 1 && FILENAME ~ /\.h$/ {
 /^\t[a-zA-Z]+ [A-Za-z0-9_]+\(JNIEnv \*env.*\); \/\/[0-9]+ \(/ {
     prototypes++
     descriptor[prototypes] = $NF
-    text = $0
-    sub(/^\t/, "", text)
-    sub(/\); \/\/.*$/, "", text)
-    split(text, part, /[ (]/)
-    parameters = text
-    sub(/^[^(]*\(/, "", parameters)
-    sub(/JNIEnv \*env/, "JNIEnv*", parameters)
-    gsub(/ [A-Za-z0-9_$]+(,|$)/, "&#", parameters)      # mark the parameters' names, then take them away
-    gsub(/ [A-Za-z0-9_$]+,#/, ",", parameters)
-    gsub(/ [A-Za-z0-9_$]+#/, "", parameters)
-    prototype[prototypes] = part[2] ", " part[1] ", " parameters
+    split($0, part, /[\t (]/)
+    wrapper[prototypes] = part[3]
 }
 
 # 		INIT_CACHE_STATIC_FIELD(jni_env, Thread, MIN_PRIORITY, "I");
@@ -87,6 +76,16 @@ FNR == 1 && FILENAME ~ /\.h$/ {
     class_name = quoted[2]
 }
 
+BEGIN {
+    split("PROXY PROXY_FIELD PROXY_METHOD", macros, " ")
+    for (i = 1; i <= 3; i++) {
+        printf "#ifndef %s\n#define %s(...)\n#endif\n", macros[i], macros[i]
+    }
+}
+
 END {
     end_of_proxy()
+    for (i = 1; i <= 3; i++) {
+        printf "#undef %s\n", macros[i]
+    }
 }

@@ -198,7 +198,7 @@ struct Member {  // a field or a method
 struct ClassFile {
     unsigned minor = 0;
     unsigned major = 49;
-    ConstantPool pool = {};  // what assemble needs besides is added behind what is here
+    ConstantPool pool = {};  // assemble adds after these what else it needs
     unsigned access = 0x0021;
     std::string name = "com/example/Sample";
     std::string super = "java/lang/Object";  // empty: none

@@ -178,11 +178,11 @@ std::size_t far_target(Random& random, const Draft& draft, const Instruction& fr
     const std::size_t distance = far_limit + reach / 8 - random.below(reach);
     const auto& instructions = draft.instructions;
     const bool room_ahead = from.planned + distance <= instructions.back().planned;
-    const bool room_behind = from.planned >= distance;
-    if (!room_ahead && !room_behind) {
+    const bool room_back = from.planned >= distance;
+    if (!room_ahead && !room_back) {
         return near_target(random, draft, from.pc);
     }
-    const bool forwards = room_ahead && (!room_behind || random.one_in(2));
+    const bool forwards = room_ahead && (!room_back || random.one_in(2));
     const std::size_t planned = forwards ? from.planned + distance : from.planned - distance;
     const std::size_t target = std::ranges::lower_bound(instructions, planned, {}, &Instruction::planned)->pc;
     return fits(from.pc, target) ? target : near_target(random, draft, from.pc);

@@ -18,7 +18,7 @@ using namespace typed_code;
 
 namespace {
 
-// A branch with an offset of two bytes reaches so far, less what one step below may add before it is placed.
+// How far a branch with an offset of two bytes reaches, less what one step may add before the branch's label is placed.
 constexpr std::size_t farthest = 32767 - 300;
 constexpr std::size_t longest_result = 63000;
 
@@ -74,7 +74,7 @@ struct Maker {
         code.branch(opcode, pops, label(pops));
     }
 
-    // Ends what runs straight on.
+    // Ends the code that is reachable here: by a return, a jump, a switch or a throw.
     void stop() {
         const std::size_t n = choices.below(6);
         if (n == 0 && !instructions.is_before_construction()) {
@@ -91,7 +91,7 @@ struct Maker {
             std::vector<std::size_t> labels;
             for (std::size_t i = choices.between(1, 4); i > 0; --i) {
                 labels.push_back(label(1));
-                // The first to come here says what is known there.
+                // The first branch to a label decides its types.
                 code.pending[labels.back()].state = code.pending[labels.back()].state.value_or(below_top());
             }
             std::vector<std::size_t> back;
@@ -132,7 +132,7 @@ struct Maker {
         code.stop();
     }
 
-    // Puts a pending label here; it may need what runs on to end before.
+    // Puts a pending label here. If its types do not fit those of the code before it, that code must end first.
     void place(std::size_t number) {
         if (code.is_reachable && (!code.can_reach(code.pending[number], 0) || choices.one_in(4))) {
             code.emit({op::aconst_null}, 0, {{Type::null}});
@@ -213,7 +213,7 @@ struct Maker {
             if (code.longest_way() >= farthest) {
                 place(farthest_pending());
             } else if (!code.is_reachable) {
-                // What nothing leads to must have a frame all the same.
+                // Code needs a frame even if nothing leads to it.
                 code.pending.empty() ? code.place_frame() : place(choices.below(code.pending.size()));
             } else if (stack().size() > highest) {
                 instructions.drop();

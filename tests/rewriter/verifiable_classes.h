@@ -1,6 +1,6 @@
 // Classes that a verifier takes, each the same for the same choices: one method of up to 60,000 bytes with every kind
 // of type among its locals and on its stack, and branches that just reach where they lead, before the rewriter's
-// injections or after them. Some bytes make such a method, so that a fuzzer can play with them.
+// injections or after them. A few bytes make such a method, so that a fuzzer can play with them.
 #ifndef VANTREL_VERIFIABLE_CLASSES_H
 #define VANTREL_VERIFIABLE_CLASSES_H
 

@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <map>
 #include <sstream>
 #include <string>
@@ -55,7 +54,7 @@ TEST_P(AtLoad, ArraysAreCountedAsTheyAreMade) {
     SKIP_WITHOUT_JDK(GetParam());
     const Tracked tracked = run_program(GetParam(), "MakesArrays");
     expect_same_and_balanced(tracked);
-    EXPECT_EQ(tracked.report.counts.at("arrays"), number_behind("arrays", tracked.plain.out));
+    EXPECT_EQ(tracked.report.counts.at("arrays"), number_after("arrays", tracked.plain.out));
 }
 
 TEST_P(AtLoad, OnlyMethodsThatAreLeftByAnExceptionLackAReturn) {
@@ -63,7 +62,7 @@ TEST_P(AtLoad, OnlyMethodsThatAreLeftByAnExceptionLackAReturn) {
     const Tracked tracked = run_program(GetParam(), "Leaving");
     expect_same_and_balanced(tracked);
     const std::map<std::string, long>& counts = tracked.report.counts;
-    EXPECT_EQ(counts.at("entries") - counts.at("returns"), number_behind("left", tracked.plain.out));
+    EXPECT_EQ(counts.at("entries") - counts.at("returns"), number_after("left", tracked.plain.out));
 }
 
 TEST_P(AtLoad, TheCountsAreOfOneMoment) {
@@ -78,15 +77,13 @@ std::map<std::string, std::string> files_of(const fs::path& folder) {
     std::map<std::string, std::string> files;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
         if (entry.is_regular_file()) {
-            std::ostringstream text;
-            text << std::ifstream(entry.path()).rdbuf();
-            files[fs::relative(entry.path(), folder)] = text.str();
+            files[fs::relative(entry.path(), folder)] = contents(entry.path());
         }
     }
     return files;
 }
 
-// A tool that somebody else wrote. Its classes are many, what it writes to its folder is the same both ways.
+// For a tool that somebody else wrote: it has many classes, and writes the same files both ways.
 void expect_same_work(int release, const Arguments& arguments, long least_classes, BothWays how = {}) {
     const ScratchFolder plain;
     const ScratchFolder rewritten;
@@ -100,8 +97,8 @@ void expect_same_work(int release, const Arguments& arguments, long least_classe
     const auto expected = files_of(plain.path);
     const auto actual = files_of(rewritten.path);
     EXPECT_EQ(actual.size(), expected.size());
-    for (const auto& [name, contents] : expected) {
-        EXPECT_TRUE(actual.contains(name) && actual.at(name) == contents) << name << " is another file";
+    for (const auto& [name, text] : expected) {
+        EXPECT_TRUE(actual.contains(name) && actual.at(name) == text) << name << " is another file";
     }
     std::cout << expected.size() << " files, " << tracked.report.classes << " classes\n";
     for (const auto& [name, count] : tracked.report.counts) {
@@ -136,7 +133,7 @@ TEST_P(AtLoad, JavacCompiles) {
 TEST_P(AtLoad, JEditOpensItsWindow) {
     SKIP_WITHOUT_JDK(GetParam());
     const XServer x;
-    const ScratchFolder home;  // for what the VM finds out about fonts, with the time
+    const ScratchFolder home;  // where the VM keeps what it finds out about fonts
     const std::string programs = kTestFolder / "rewriter-programs.jar";
     expect_same_work(GetParam(),
                      {"-Duser.home=" + home.path.string(), "-cp", programs + ":/usr/share/jedit/jedit.jar",

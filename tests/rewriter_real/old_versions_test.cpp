@@ -83,7 +83,7 @@ class OldVersions : public testing::TestWithParam<Kind> {
         ASSERT_EQ(compiling.status, 0) << compiling.out << compiling.err;
     }
 
-    // Runs a class of those that were compiled on each VM.
+    // Runs one of the compiled classes on each VM.
     void expect_same(const std::string& name) const {
         std::ifstream file(classes_.path / (name + ".class"), std::ios::binary);
         char header[8];
@@ -125,7 +125,13 @@ TEST_P(OldVersions, RunAsBefore) {
     expect_same("OldCode");
 }
 
-TEST_P(OldVersions, BranchesThatNoLongerFitRunAsBefore) {
+// The newest version with subroutines, one with neither those nor stack maps, one whose stack maps need not hold, and
+// one whose have to.
+class FarBranches : public OldVersions {};
+INSTANTIATE_TEST_SUITE_P(Of, FarBranches, testing::Values(kKinds[3], kKinds[4], kKinds[5], kKinds[7]),
+                         [](const auto& kind) { return std::string(kind.param.name); });
+
+TEST_P(FarBranches, ThatNoLongerFitRunAsBefore) {
     SKIP_WITHOUT_JDK(17);
     const fs::path source = classes_.path / "FarBranches.java";
     std::ofstream(source) << source_of_far_branches(GetParam().version);

@@ -94,7 +94,7 @@ void expect_same_and_balanced(const Tracked& tracked) {
                                     count("open without exception"));
 }
 
-long number_behind(const std::string& word, const std::string& output) {
+long number_after(const std::string& word, const std::string& output) {
     std::istringstream lines(output);
     for (std::string line; std::getline(lines, line);) {
         if (line.starts_with(word + " ")) {

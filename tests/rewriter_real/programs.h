@@ -48,6 +48,6 @@ Tracked run_both_ways(int release, const Arguments& arguments, const BothWays& h
 void expect_same_and_balanced(const Tracked& tracked);
 
 // The number after a word at the start of a line of a program's output.
-long number_behind(const std::string& word, const std::string& output);
+long number_after(const std::string& word, const std::string& output);
 
 #endif

@@ -112,7 +112,7 @@ INSTANTIATE_TEST_SUITE_P(
          "no\\x1b[2J\\n\\xc2\\x9b.jar: there"},
         {"DamagedEntry", with_tracker({"-o", "out", "damaged.jar"}), "cannot read damaged.jar: "},
         {"CutJar", with_tracker({"-o", "out", "short.jar"}), "cannot read short.jar: "},
-        {"CutJarBehindAGoodOne", with_tracker({"-o", "out", "program.jar", "short.jar"}), "cannot read short.jar: "},
+        {"CutJarAfterAGoodOne", with_tracker({"-o", "out", "program.jar", "short.jar"}), "cannot read short.jar: "},
         {"BadJarInAFolder", with_tracker({"-o", "out", "bad"}), "cannot read bad/text.jar: Not a zip archive"},
         {"EntriesThatOverlap", with_tracker({"-o", "out", "twofold.jar"}), "what it says of its entries is wrong"},
         {"Device", with_tracker({"-o", "out", "/dev/null"}), "/dev/null is neither a file nor a folder"}}),

@@ -77,7 +77,7 @@ TEST_P(Run, LetsTheProgramBeAskedWithoutAWarning) {
 }
 
 // An agent in Java that is started after ours would miss classes.
-TEST_P(Run, ComesBehindAgentsInJava) {
+TEST_P(Run, ComesAfterAgentsInJava) {
     const std::string agent = "-javaagent:" + kStartedJar.string();
     const struct {
         Words words;

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <fstream>
 #include <memory>
-#include <sstream>
 
 namespace fs = std::filesystem;
 
@@ -57,12 +56,6 @@ std::vector<std::string> options_in_help(const std::string& help) {
         }
     }
     return options;
-}
-
-std::string contents(const fs::path& file) {
-    std::ostringstream text;
-    text << std::ifstream(file).rdbuf();
-    return text.str();
 }
 
 void write(const fs::path& file, const std::string& text) {

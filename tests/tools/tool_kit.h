@@ -25,7 +25,6 @@ Finished rewrite(const Words& arguments, const std::filesystem::path& folder);
 // The long names of the options that a command's help lists, like --verbose.
 std::vector<std::string> options_in_help(const std::string& help);
 
-std::string contents(const std::filesystem::path& file);
 void write(const std::filesystem::path& file, const std::string& text);
 
 // The names of all that is in a folder, hidden or not, and in what is below it; sorted.

@@ -52,7 +52,7 @@ TEST(GetToken, SplitsAndRefusesWhatDoesNotFit) {
     }
 }
 
-TEST(GetToken, ReturnsThePositionBehindTheToken) {
+TEST(GetToken, ReturnsThePositionAfterTheToken) {
     std::string text = ",,abc,def";
     std::string separators = ",";
     char token[4];

@@ -9,7 +9,6 @@
 
 using testing::Contains;
 using testing::ElementsAre;
-using testing::ExitedWithCode;
 using testing::Not;
 
 namespace {
@@ -122,18 +121,6 @@ TEST_F(ComponentTracking, AnExceptionIsReported) {
     cbException(vm.jvmti, vm.jni, thread, method, 0, nullptr, nullptr, 0);
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "ERROR:GetMethodName!\n");
     EXPECT_THAT(vm.calls, ElementsAre(enter, "GetMethodName java/awt/Container.add:()V")) << "the monitor stays held";
-}
-
-TEST_F(ComponentTracking, AFailingMonitorEndsTheProcess) {
-    const char* message = "^ERROR: JVMTI: 113\\(error name 113\\): Cannot enter with raw monitor\n$";
-    for (const char* function : {"RawMonitorEnter", "RawMonitorExit"}) {
-        EXPECT_EXIT(
-            {
-                vm.fail(function);
-                modify_field(false, "parent", "addImpl", true);
-            },
-            ExitedWithCode(3), message);
-    }
 }
 
 }  // namespace

@@ -32,11 +32,7 @@ struct Compilable {
         FakeVm vm;
         const jclass clazz = vm.add_class("p/" + class_name);
         for (const NamedMember& member : members) {
-            if (member.descriptor.starts_with('(')) {
-                set_modifiers(vm.add_method(clazz, member.name, member.descriptor), member.modifiers);
-            } else {
-                set_modifiers(vm.add_field(clazz, member.name, member.descriptor), member.modifiers);
-            }
+            vm.add_member(clazz, member.name, member.descriptor, member.modifiers);
         }
         proxy = generator::read_proxy(vm.jvmti, clazz, "p/" + class_name);
         // Letters are what lies between U+00C0 and U+1D4B3, but for the euro sign.

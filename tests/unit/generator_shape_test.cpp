@@ -8,8 +8,10 @@
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "CodeGenerater/CodeGenerater.h"
 #include "CodeGenerater/generator.h"
 #include "fake_vm.h"
 #include "own_folder.h"
@@ -31,29 +33,15 @@ struct ProxyMember {
 
 // All members of the agent's proxies, in the order of their numbers.
 constexpr ProxyMember kMembers[] = {
-#define PROXY(C, CLASS)
 #define PROXY_FIELD(C, CLASS, KIND, NAME, DESCRIPTOR) {CLASS, KIND, #NAME, DESCRIPTOR, ""},
-#define PROXY_WRAPPER(C, CLASS, KIND, NAME, DESCRIPTOR, VARIABLE, FUNCTION, ...) \
-    {CLASS, KIND, NAME, DESCRIPTOR, #FUNCTION},
-#define PROXY_UNWRAPPED(C, CLASS, KIND, NAME, DESCRIPTOR, VARIABLE) {CLASS, KIND, NAME, DESCRIPTOR, ""},
+#define PROXY_METHOD(C, CLASS, KIND, NAME, DESCRIPTOR, VARIABLE, FUNCTION) {CLASS, KIND, NAME, DESCRIPTOR, #FUNCTION},
 #include "members.inc"
-#undef PROXY
-#undef PROXY_FIELD
-#undef PROXY_WRAPPER
-#undef PROXY_UNWRAPPED
 };
 
 // Internal names of the classes, by simple name.
 const std::map<std::string, std::string> kClasses = {
 #define PROXY(C, CLASS) {#C, CLASS},
-#define PROXY_FIELD(...)
-#define PROXY_WRAPPER(...)
-#define PROXY_UNWRAPPED(...)
 #include "members.inc"
-#undef PROXY
-#undef PROXY_FIELD
-#undef PROXY_WRAPPER
-#undef PROXY_UNWRAPPED
 };
 
 // The proxies that are written by hand as a whole: Init looks up their methods, and some have native methods.
@@ -112,9 +100,8 @@ void differ_as_the_agent(Method& method, const std::string& function) {
     method.wrapper = function;
 }
 
-// What the generator makes of a class with the members of the agent's proxy.
-generator::Proxy generate(const std::string& class_name) {
-    FakeVm vm;
+// Adds a class with the members of the agent's proxy to a fake VM. Returns the names of the proxy's wrappers, too.
+std::pair<jclass, std::vector<std::string>> add_class(FakeVm& vm, const std::string& class_name) {
     const jclass clazz = vm.add_class(class_name);
     std::vector<std::string> functions;
     for (const ProxyMember& member : kMembers) {
@@ -122,13 +109,18 @@ generator::Proxy generate(const std::string& class_name) {
             continue;
         }
         const jint modifiers = member.kind == STATIC_METHOD || member.kind == STATIC_FIELD ? generator::kStatic : 0;
-        if (member.kind == FIELD || member.kind == STATIC_FIELD) {
-            set_modifiers(vm.add_field(clazz, member.name, member.descriptor), modifiers);
-        } else {
-            set_modifiers(vm.add_method(clazz, member.name, member.descriptor), modifiers);
+        vm.add_member(clazz, member.name, member.descriptor, modifiers);
+        if (member.kind != FIELD && member.kind != STATIC_FIELD) {
             functions.emplace_back(member.function);
         }
     }
+    return {clazz, functions};
+}
+
+// What the generator makes of a class with the members of the agent's proxy.
+generator::Proxy generate_proxy(const std::string& class_name) {
+    FakeVm vm;
+    const auto [clazz, functions] = add_class(vm, class_name);
     generator::Proxy proxy = generator::read_proxy(vm.jvmti, clazz, class_name);
     EXPECT_EQ(proxy.methods.size(), functions.size());
     for (size_t i = 0; i < functions.size(); ++i) {
@@ -207,9 +199,26 @@ TEST(GeneratorShape, IsThatOfTheAgentsProxies) {
             continue;
         }
         SCOPED_TRACE(name);
-        const generator::Proxy proxy = generate(class_name);
+        const generator::Proxy proxy = generate_proxy(class_name);
         EXPECT_EQ(with_additions(generator::header_text(proxy), name + ".h"), proxy_file(name + ".h"));
         EXPECT_EQ(with_additions(generator::body_text(proxy), name + ".cpp"), proxy_file(name + ".cpp"));
+    }
+}
+
+// The library's own way to the files goes by records of fixed sizes, the command's does not. What fits into the records
+// comes out the same.
+TEST(GeneratorShape, IsTheSameByTheLibrarysRecords) {
+    const OwnFolder folder;
+    for (const auto& [name, class_name] : kClasses) {
+        SCOPED_TRACE(name);
+        FakeVm vm;
+        const jclass clazz = add_class(vm, class_name).first;
+        std::string internal_name = class_name;
+        char out[] = "out";
+        ASSERT_TRUE(GenerateFiles(vm.jvmti, vm.jni, internal_name.data(), out));
+        const generator::Proxy proxy = generator::read_proxy(vm.jvmti, clazz, class_name);
+        EXPECT_EQ(text_of("out\\" + name + ".h"), generator::header_text(proxy));
+        EXPECT_EQ(text_of("out\\" + name + ".cpp"), generator::body_text(proxy));
     }
 }
 

@@ -79,9 +79,6 @@ TEST(LazyProxies, InitLooksUpTheClassOnceAndEveryFieldEachTime) {
     FakeVm vm;
     const jclass owner = vm.add_class("java/awt/Component");
     std::vector<std::string> fields;
-#define PROXY(...)
-#define PROXY_WRAPPER(...)
-#define PROXY_UNWRAPPED(...)
 #define PROXY_FIELD(C, CLASS, KIND, NAME, DESCRIPTOR)                                                      \
     if (std::string_view(CLASS) == "java/awt/Component") {                                                 \
         vm.add_field(owner, #NAME, DESCRIPTOR);                                                            \
@@ -89,10 +86,6 @@ TEST(LazyProxies, InitLooksUpTheClassOnceAndEveryFieldEachTime) {
                          std::string(" global java/awt/Component " #NAME " " DESCRIPTOR));                 \
     }
 #include "members.inc"
-#undef PROXY
-#undef PROXY_FIELD
-#undef PROXY_WRAPPER
-#undef PROXY_UNWRAPPED
     NSComponent::_c_Class = nullptr;
     NSComponent::Init(vm.jvmti, vm.jni);
     const jclass cached = NSComponent::_c_Class;

@@ -11,11 +11,11 @@
 #include "agent_life.h"
 #include "all_proxies.h"
 #include "fake_vm.h"
+#include "proxied_classes.h"
 #include "vantrel-agent.h"
 
 using testing::Contains;
 using testing::ElementsAre;
-using testing::ExitedWithCode;
 using testing::IsEmpty;
 using testing::KilledBySignal;
 using testing::Not;
@@ -23,41 +23,10 @@ using testing::StartsWith;
 
 namespace {
 
-struct Method {
-    const char* class_name;
-    const char* name;
-    const char* descriptor;
-    jmethodID* variable;
-};
-const Method kMethods[] = {
-#define PROXY(...)
-#define PROXY_FIELD(...)
-#define PROXY_WRAPPER(C, CLASS, KIND, NAME, DESCRIPTOR, VARIABLE, ...) {CLASS, NAME, DESCRIPTOR, &NS##C::VARIABLE},
-#define PROXY_UNWRAPPED(C, CLASS, KIND, NAME, DESCRIPTOR, VARIABLE) {CLASS, NAME, DESCRIPTOR, &NS##C::VARIABLE},
-#include "members.inc"
-#undef PROXY
-#undef PROXY_FIELD
-#undef PROXY_WRAPPER
-#undef PROXY_UNWRAPPED
-};
-
 // A VM that has everything the proxies look for, and proxies that have not looked yet.
 struct VmLifecycle : testing::Test {
     void SetUp() override {
-        vm.add_property("java.home", "/jdk");
-        const jobject result = vm.add_object("result");
-#define PROXY(C, CLASS) vm.add_class(CLASS);
-#define PROXY_FIELD(C, CLASS, KIND, NAME, DESCRIPTOR) vm.add_field(vm.classes.at(CLASS), #NAME, DESCRIPTOR);
-#define PROXY_WRAPPER(...)
-#define PROXY_UNWRAPPED(...)
-#include "members.inc"
-#undef PROXY
-#undef PROXY_FIELD
-#undef PROXY_WRAPPER
-#undef PROXY_UNWRAPPED
-        for (const Method& method : kMethods) {
-            vm.add_method(vm.classes.at(method.class_name), method.name, method.descriptor, result);
-        }
+        add_proxied_classes(vm);
         empty_the_proxies();
         std::construct_at(&agent_life);
         gb_data.jvm = vm.java_vm;
@@ -74,17 +43,8 @@ struct VmLifecycle : testing::Test {
     // What a new process has: the proxies keep what they were filled with, even after it was given back.
     static void empty_the_proxies() {
 #define PROXY(C, CLASS) NS##C::_c_Class = nullptr;
-#define PROXY_FIELD(...)
-#define PROXY_WRAPPER(...)
-#define PROXY_UNWRAPPED(...)
+#define PROXY_METHOD(C, CLASS, KIND, NAME, DESCRIPTOR, VARIABLE, ...) NS##C::VARIABLE = nullptr;
 #include "members.inc"
-#undef PROXY
-#undef PROXY_FIELD
-#undef PROXY_WRAPPER
-#undef PROXY_UNWRAPPED
-        for (const Method& method : kMethods) {
-            *method.variable = nullptr;
-        }
     }
 
     FakeMember& method(const std::string& class_name, const std::string& name) {
@@ -173,21 +133,9 @@ TEST_F(VmLifecycle, FurtherInitialisationsAreHarmlessAndToldOnce) {
     }
 }
 
-TEST_F(VmLifecycle, TheResultIsWhatTheVmSaysToTheWatch) {
+TEST_F(VmLifecycle, InitCacheJavaObjectsReturnsTheWatchsError) {
     vm.fail("SetFieldModificationWatch", 1, JVMTI_ERROR_MUST_POSSESS_CAPABILITY);
     EXPECT_EQ(InitCacheJavaObjects(vm.jvmti, vm.jni), JVMTI_ERROR_MUST_POSSESS_CAPABILITY);
-}
-
-TEST_F(VmLifecycle, AFailingMonitorEndsTheProcess) {
-    const std::string message = "ERROR: JVMTI: 113\\(error name 113\\): Cannot enter with raw monitor\n$";
-    for (const char* function : {"RawMonitorEnter", "RawMonitorExit"}) {
-        EXPECT_EXIT(
-            {
-                vm.fail(function);
-                cbVMInit(vm.jvmti, vm.jni, nullptr);
-            },
-            ExitedWithCode(3), message);
-    }
 }
 
 TEST_F(VmLifecycle, APressLiftsTheSecurityManagerAndShowsTheInspector) {

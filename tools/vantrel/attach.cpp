@@ -101,7 +101,7 @@ void have_it_listen(const Program& program, const fs::path& temporary, const fs:
         refuse(program, "was started with -XX:+DisableAttachMechanism, and cannot be asked anything");
     }
     if (!catches_quit(program)) {
-        refuse(program, "cannot be asked: it was started with -Xrs, or its VM is about to start");
+        refuse(program, "cannot be asked yet: its VM is about to start");
     }
     const Trigger trigger(temporary / (".attach_pid" + id));
     kill(program.id, SIGQUIT);

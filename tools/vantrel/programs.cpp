@@ -75,7 +75,7 @@ std::string name_of(pid_t id) {
     for (std::string word; std::getline(line, word, '\0');) {
         words.push_back(word);
     }
-    const std::string program = launch::main_program(words);
+    std::string program = launch::main_program(words);
     if (!program.empty()) {
         return program;
     }

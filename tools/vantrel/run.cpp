@@ -75,11 +75,11 @@ bool is_java(const fs::path& program) {
 // What has a VM let us ask the program questions without a warning on its stderr each time: an option that VMs from
 // release 21 on need for that, and those before 9 do not know.
 Words let_ask(const fs::path& java) {
-    constexpr int kFirstThatWarns = 21;
+    constexpr long kFirstThatWarns = 21;
     constexpr std::string_view kVersion = "JAVA_VERSION=\"";
     std::ifstream release(fs::canonical(java).parent_path().parent_path() / "release");
     for (std::string line; std::getline(release, line);) {
-        if (line.starts_with(kVersion) && atoi(line.c_str() + kVersion.size()) >= kFirstThatWarns) {
+        if (line.starts_with(kVersion) && strtol(line.c_str() + kVersion.size(), nullptr, 10) >= kFirstThatWarns) {
             return {"-XX:+EnableDynamicAgentLoading"};
         }
     }

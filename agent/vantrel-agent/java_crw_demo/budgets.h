@@ -1,142 +1,186 @@
 // What widening.cpp keeps its accounts in: sums over the beginnings of a sequence, and budgets that are charged by the
-// range. Both take a logarithmic number of steps for a change.
+// range. There are never more than some twenty thousand of either, for a branch takes three bytes at least.
 #ifndef JAVA_CRW_DEMO_BUDGETS_H
 #define JAVA_CRW_DEMO_BUDGETS_H
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <utility>
+#include <cstring>
 #include <vector>
 
 namespace crw {
 
-// Sums over the beginnings of a sequence of numbers, which may change (a Fenwick tree).
+// Sums over the beginnings of a sequence of numbers, which may change. Asking is what has to be fast: a change goes
+// through one block, and then through all blocks that follow, which a processor does several at a time.
 class Sums {
   public:
-    explicit Sums(size_t size) : partial_(size + 1, 0) {}
+    explicit Sums(size_t size) : in_block_(size / kBlock * kBlock + kBlock, 0), before_block_(size / kBlock + 1, 0) {}
 
     void add(size_t at, int32_t amount) {
-        for (++at; at < partial_.size(); at += at & (~at + 1)) {
-            partial_[at] += amount;
+        const size_t block = at / kBlock;
+        for (size_t i = at + 1; i < (block + 1) * kBlock; ++i) {
+            in_block_[i] += amount;
+        }
+        for (size_t i = block + 1; i < before_block_.size(); ++i) {
+            before_block_[i] += amount;
         }
     }
 
     // Of the first `count` numbers.
-    [[nodiscard]] int32_t of_first(size_t count) const {
-        int32_t sum = 0;
-        for (; count > 0; count &= count - 1) {
-            sum += partial_[count];
-        }
-        return sum;
-    }
+    [[nodiscard]] int32_t of_first(size_t count) const { return before_block_[count / kBlock] + in_block_[count]; }
 
   private:
-    std::vector<int32_t> partial_;
+    static constexpr size_t kBlock = 128;
+
+    std::vector<int32_t> in_block_;  // by number, the sum of those before it in its block
+    std::vector<int32_t> before_block_;
 };
 
-// Budgets, each of which can be set, and those before or after a place be charged, to find one that is used up. A tree
-// whose entries have the least budget below them. They come in blocks, which a processor goes through several entries
-// at a time.
+// Budgets, each of which can be set, and those before or after a place be charged, to renew all that are used up.
+//
+// A tree, in blocks. An entry of the lowest level is a budget. Each one above it stands for a block of the level below,
+// and is no more than the least there. What a whole block is charged is only noted in the entry above it, and so no
+// entry knows what has been charged above.
 class Budgets {
   public:
+    static constexpr int32_t kPlenty = INT32_MAX / 2;
+
     explicit Budgets(size_t count) {
         do {
-            count = (count + kBlock - 1) / kBlock;
-            levels_.push_back({std::vector<int32_t>(count * kBlock, kPlenty), std::vector<int32_t>(count * kBlock, 0)});
+            count = count / kBlock + 1;  // a range may begin or end after the last one
+            levels_.emplace_back(count);
         } while (count > 1);
     }
 
     void set(size_t at, int32_t budget) {
         int32_t charged = 0;
-        size_t above = at;
+        size_t above = at / kBlock;
+        for (size_t level = 1; level < levels_.size(); ++level, above /= kBlock) {
+            charged += levels_[level][above / kBlock].charged[above % kBlock];
+        }
+        int32_t least = budget + charged;
+        levels_[0][at / kBlock].least[at % kBlock] = least;
         for (size_t level = 1; level < levels_.size(); ++level) {
-            above /= kBlock;
-            charged += levels_[level].charged[above];
-        }
-        levels_[0].least[at] = std::min(budget, kPlenty) + charged;
-        bool changes = true;
-        for (size_t level = 1; level < levels_.size() && changes; ++level) {
             at /= kBlock;
-            changes = update(level, at);
-        }
-    }
-
-    void charge_before(size_t end, int32_t amount) {
-        for (size_t level = 0; level < levels_.size(); ++level) {
-            const size_t block = end / kBlock;
-            charge(level, block * kBlock, end, amount);
-            update(level + 1, block);
-            end = block;
-        }
-    }
-
-    void charge_from(size_t begin, int32_t amount) {
-        size_t at = begin;
-        for (size_t level = 0; level < levels_.size(); ++level) {
-            const size_t block = at / kBlock;
-            charge(level, begin, std::min((block + 1) * kBlock, levels_[level].least.size()), amount);
-            update(level + 1, block);
-            // What is to be charged next may be in another block than the entry that has just been updated.
-            at = block;
-            begin = block + 1;
-        }
-    }
-
-    // Whether there is a budget that is used up. If so, `at` becomes one.
-    [[nodiscard]] bool find_used_up(size_t& at) const {
-        size_t entry = 0;
-        int32_t charged = 0;
-        for (size_t level = levels_.size(); level-- > 0;) {
-            const int32_t* least = &levels_[level].least[entry * kBlock];
-            const int32_t* end = least + kBlock;
-            const int32_t* found = std::find_if(least, end, [charged](int32_t budget) { return budget <= charged; });
-            if (found == end) {
-                return false;
+            Block& block = levels_[level][at / kBlock];
+            least -= block.charged[at % kBlock];
+            if (block.least[at % kBlock] <= least) {
+                return;
             }
-            entry = entry * kBlock + static_cast<size_t>(found - least);
-            charged += levels_[level].charged[entry];
+            block.least[at % kBlock] = least;
         }
-        at = entry;
-        return true;
+    }
+
+    // Both return false if no budget is used up.
+    bool charge_before(size_t end, int32_t amount) { return charge(end, amount, kBefore, kBefore); }
+    bool charge_from(size_t begin, int32_t amount) { return charge(begin, amount, kFrom, kFrom - 1); }
+
+    // Gives each budget that is used up the value that `renew` returns for its place, which must be more than 0.
+    template <typename Renew>
+    void renew_used_up(const Renew& renew) {
+        renew_in(levels_.size() - 1, 0, 0, renew);
     }
 
   private:
-    static constexpr size_t kBlock = 16;
-    static constexpr int32_t kPlenty = INT32_MAX / 2;
+    static constexpr size_t kBlock = 32;
 
-    // The budgets themselves, or what stands above the blocks of the level below.
-    struct Level {
-        std::vector<int32_t> least;    // without what is charged above
-        std::vector<int32_t> charged;  // to all below
+    // Four numbers, which a processor handles at once.
+    using Four = int32_t __attribute__((vector_size(16)));
+
+    struct Block {
+        Block() { std::fill_n(least, kBlock, kPlenty); }
+
+        alignas(Four) int32_t least[kBlock];
+        alignas(Four) int32_t charged[kBlock] = {};  // to all below
     };
 
-    void charge(size_t level, size_t begin, size_t end, int32_t amount) {
-        for (size_t i = begin; i < end; ++i) {
-            levels_[level].least[i] -= amount;
-            levels_[level].charged[i] += amount;
+    // Which entries of a block are charged, if that begins or ends at its first one: all bits of a number or none. If
+    // it does at a later one, the numbers begin as many places earlier.
+    static constexpr std::array<int32_t, 4 * kBlock> kMasks = [] {
+        std::array<int32_t, 4 * kBlock> masks{};
+        std::fill_n(masks.begin(), kBlock, -1);
+        std::fill_n(masks.begin() + 3 * kBlock, kBlock, -1);
+        return masks;
+    }();
+    static constexpr const int32_t* kBefore = kMasks.data() + kBlock;
+    static constexpr const int32_t* kFrom = kMasks.data() + 3 * kBlock;
+
+    static Four load(const int32_t* from) {
+        Four four;
+        memcpy(&four, from, sizeof four);
+        return four;
+    }
+    static void store(int32_t* to, Four four) { memcpy(to, &four, sizeof four); }
+    static Four choose(Four mask, Four first, Four second) { return (first & mask) | (second & ~mask); }
+    static Four least_of(Four first, Four second) { return choose(first < second, first, second); }
+    static int32_t least_of(Four four) { return std::min(std::min(four[0], four[1]), std::min(four[2], four[3])); }
+
+    // Charges in one block of each level: the one where the range begins or ends, by a mask for the lowest level and
+    // one for those above.
+    bool charge(size_t at, int32_t amount, const int32_t* mask, const int32_t* mask_above) {
+        int32_t least = charge(levels_[0][at / kBlock], mask - at % kBlock, amount);
+        for (size_t level = 1; level < levels_.size(); ++level) {
+            at /= kBlock;
+            Block& block = levels_[level][at / kBlock];
+            const int32_t others = charge(block, mask_above - at % kBlock, amount);
+            const int32_t entry = least - block.charged[at % kBlock];
+            block.least[at % kBlock] = entry;
+            least = std::min(entry, others);
         }
+        return least <= 0;
     }
 
-    // Makes an entry what the block below it says, if there is one. Returns whether it was something else.
-    bool update(size_t level, size_t at) {
-        if (level == levels_.size() || at * kBlock >= levels_[level - 1].least.size()) {
-            return false;
+    // Returns the least of the block.
+    static int32_t charge(Block& block, const int32_t* mask, int32_t amount) {
+        const Four amounts = {amount, amount, amount, amount};
+        Four least_of_all = {kPlenty, kPlenty, kPlenty, kPlenty};
+        for (size_t i = 0; i < kBlock; i += 4) {
+            const Four part = load(mask + i) & amounts;
+            const Four least = load(block.least + i) - part;
+            store(block.least + i, least);
+            store(block.charged + i, load(block.charged + i) + part);
+            least_of_all = least_of(least_of_all, least);
         }
-        const int32_t least = least_of(&levels_[level - 1].least[at * kBlock]) - levels_[level].charged[at];
-        return std::exchange(levels_[level].least[at], least) != least;
+        return least_of(least_of_all);
     }
 
-    // Of a block. Four at a time, which do not wait for each other.
-    static int32_t least_of(const int32_t* block) {
-        int32_t least[4] = {block[0], block[1], block[2], block[3]};
-        for (size_t i = 4; i < kBlock; ++i) {
-            least[i % 4] = std::min(least[i % 4], block[i]);
+    // Renews what is used up in one block, and below it. `charged` is what has been charged above it. Returns the least
+    // of the block.
+    template <typename Renew>
+    // NOLINTNEXTLINE(misc-no-recursion): as deep as the tree, which is three levels for all branches of a method
+    int32_t renew_in(size_t level, size_t number, int32_t charged, const Renew& renew) {
+        Block& block = levels_[level][number];
+        const Four limit = {charged, charged, charged, charged};
+        const Four plenty = {kPlenty, kPlenty, kPlenty, kPlenty};
+        Four least_of_others = plenty;
+        Four bit = {1, 2, 4, 8};
+        Four bits = {};
+        for (size_t i = 0; i < kBlock; i += 4) {
+            const Four least = load(block.least + i);
+            const Four is_used_up = least <= limit;
+            least_of_others = least_of(least_of_others, choose(is_used_up, plenty, least));
+            bits |= is_used_up & bit;
+            bit <<= 4;
         }
-        return std::min(std::min(least[0], least[1]), std::min(least[2], least[3]));
+        int32_t least_of_all = least_of(least_of_others);
+        for (auto used_up = static_cast<uint32_t>(bits[0] | bits[1] | bits[2] | bits[3]); used_up != 0;
+             used_up &= used_up - 1) {
+            const auto i = static_cast<size_t>(std::countr_zero(used_up));
+            const size_t at = number * kBlock + i;
+            if (level == 0) {
+                block.least[i] = renew(at) + charged;
+            } else {
+                block.least[i] = renew_in(level - 1, at, charged + block.charged[i], renew) - block.charged[i];
+            }
+            least_of_all = std::min(least_of_all, block.least[i]);
+        }
+        return least_of_all;
     }
 
-    std::vector<Level> levels_;
+    std::vector<std::vector<Block>> levels_;
 };
 
 }  // namespace crw

@@ -34,7 +34,7 @@ std::vector<Candidate> find_candidates(MethodRewriteState& mi, const uint8_t* co
         const int32_t new_pc = mi.map[site.pc];
         const int32_t grown_pc = new_pc + growth_before[i];
         if (is_switch(site)) {
-            candidates.push_back({&site, new_pc, 0, grown_pc, 0});
+            candidates.push_back({&site, new_pc, 0, grown_pc, 0, 0});
         } else if (site.kind == Site::kBranch) {
             const uint32_t target = target_of(site, offset_of(site, code));
             const int32_t offset = mi.map[target] - new_pc;
@@ -42,7 +42,7 @@ std::vector<Candidate> find_candidates(MethodRewriteState& mi, const uint8_t* co
             const int32_t grown_offset = offset + growth_before[before] - growth_before[i];
             // One that lies far away without growing may come nearer: a switch's padding may shrink.
             if (!fits(grown_offset) || !fits(offset)) {
-                candidates.push_back({&site, new_pc, offset, grown_pc, growth_of(code[site.pc]), before});
+                candidates.push_back({&site, new_pc, offset, grown_pc, before, growth_of(code[site.pc])});
             }
         }
     }

@@ -50,15 +50,15 @@ void apply_widenings(MethodRewriteState& mi) {
     std::for_each(from, mi.map + mi.code_len + 1, [shift](int32_t& pc) { pc += shift; });
 }
 
-// For code in which no branch can become too long. The paddings follow one from the other.
+// The paddings of all switches, one after the other, when it is known which branches grow.
 void adjust_paddings(MethodRewriteState& mi) {
     int32_t shift = 0;
     for (Site& site : mi.sites) {
         if (is_switch(site)) {
             const auto pc = static_cast<int32_t>(site.pc);
             site.widening = static_cast<int8_t>(padding_at(mi.map[site.pc] + shift) - padding_at(pc));
-            shift += site.widening;
         }
+        shift += site.widening;
     }
 }
 
@@ -134,11 +134,10 @@ void adjust_instructions(MethodRewriteState& mi) {
     const Outlook outlook = look_at_branches(mi, code);
     if (!fits(outlook.longest_new_code)) {
         settle_widenings(mi, code);
-    } else if (outlook.has_switch) {
-        adjust_paddings(mi);
-    } else {
+    } else if (!outlook.has_switch) {
         return;
     }
+    adjust_paddings(mi);
     apply_widenings(mi);
 }
 

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <sstream>
 
 #include "scenario.h"
 
@@ -17,12 +16,6 @@ const fs::path kSources = VANTREL_SCENARIO_SOURCES;
 const fs::path kFile = kSources / "scenario" / "MainFrame.java";
 const std::string kList = "vantrel.addedAt.list";
 const std::string kMessage = "vantrel.addedAt.message";
-
-std::string contents(const fs::path& file) {
-    std::ostringstream text;
-    text << std::ifstream(file).rdbuf();
-    return text.str();
-}
 
 class AddedAt : public Scenario {
   protected:

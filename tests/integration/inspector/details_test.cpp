@@ -94,6 +94,44 @@ TEST_P(InspectorDetails, TellWhoHasSetAProperty) {
         << shown("vantrel.changes.stack.list");
 }
 
+// Why a component cannot be seen, in words that lead to what they name, and that can be copied.
+TEST_P(InspectorDetails, SayWhyAndLeadThere) {
+    start();
+    open_inspector();
+    ask("select invisible");
+    ASSERT_TRUE(shows("It is invisible.", "vantrel.why")) << shown("vantrel.why");
+    ask("set right visible false");
+    const std::string line = "Commands.java:" + std::to_string(line_of("Commands.java", ".invoke(component"));
+    const std::string who = "is invisible: Commands.call(" + line + ") hid it.";
+    EXPECT_TRUE(shows("JPanel \"right\", which it is in, " + who + "\nIt is invisible itself.", "vantrel.why"))
+        << shown("vantrel.why");
+    take_picture("details-why");
+    Place words = where("vantrel.why");
+    words.width = 40;
+    words.height = 12;
+    click(words);
+    EXPECT_TRUE(eventually([&] { return ask("selected") == "right"; })) << ask("selected");
+    EXPECT_TRUE(shows("It " + who, "vantrel.why")) << shown("vantrel.why");
+
+    click(words);
+    expect_focus("vantrel.why");
+    keys.press({XK_Control_L, XK_a});
+    keys.press({XK_Control_L, XK_c});
+    EXPECT_TRUE(eventually([&] { return ask("clipboard") == "It " + who; })) << ask("clipboard");
+    keys.press({XK_End});
+    for (size_t i = 0; i < std::string("1) hid it.").size(); ++i) {
+        keys.press({XK_Left});
+    }
+    keys.press({XK_Return});
+    const std::string link = "at scenario.Commands.call(" + line + ")";
+    EXPECT_TRUE(eventually([&] { return ask("clipboard") == link; })) << "no editor is set: " << ask("clipboard");
+
+    // What is as it should be is told all the same.
+    ask("set right visible true");
+    EXPECT_TRUE(shows("GridLayout of JPanel \"top\" makes all cells alike, ", "vantrel.why")) << shown("vantrel.why");
+    EXPECT_EQ(program->err(), kAgentErr);
+}
+
 TEST_P(InspectorDetails, EditsAreSeenInTheProgramAndCanBeUndone) {
     start();
     open_inspector();

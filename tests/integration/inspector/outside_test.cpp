@@ -133,6 +133,7 @@ TEST_P(Outside, ShowsWhatThereIsToSayOfAComponent) {
     const std::string set = "Commands.java:" + std::to_string(line_of("Commands.java", ".invoke(component"));
     const std::string shown = told("show", {"field[name=amount]"});
     EXPECT_THAT(shown, StartsWith("path: frame[name=main]/\u2026/field[name=amount]\nclass: javax.swing.JTextField\n"));
+    EXPECT_THAT(told("show", {"label[name=invisible]"}), HasSubstr("\nwhy: It is invisible"));
     EXPECT_THAT(shown, AllOf(HasSubstr(added), HasSubstr("  editable: false\n    Set by "), HasSubstr(set)));
 }
 

@@ -1,34 +1,38 @@
 package com.vantrel.count.x0000000000000000;
 
 /**
- * What classes call that vantrel-rewrite has rewritten with --count or --unused. Each jar and folder gets these classes
- * under a package name of its own, and so its own counters: the numbers of classes and methods are those of that jar.
+ * Called by classes that vantrel-rewrite has rewritten with --count or --unused. Each jar and folder gets a copy of
+ * these classes, in a package with a name of its own. So each has its own counters, for the numbers of its own classes
+ * and methods.
  *
- * <p>The calls come from any thread at any time, also while this class or the program's own are being initialised, and
- * from the program's class loaders and security managers. So nothing here calls back into the program, and whatever
- * might is in {@link Counters}, which a thread reaches once for each class or so.
+ * <p>The calls come from any thread at any time: also while this class or the program's own classes are being
+ * initialised, and from inside of the program's class loaders and security managers. So nothing here calls code of the
+ * program. Whatever might do so is in {@link Counters}, which a thread calls about once for each class.
  *
- * <p>A thread counts in a table of its own. What costs most is to find it; so the thread that counts most is known, and
- * finds it at once. Virtual threads may be a million, and share one table.
+ * <p>A thread counts in a table of its own. Finding that table is what costs most, so the thread that counts most is
+ * remembered here with its table. There may be a million virtual threads, so these share one table.
  */
 public final class Calls {
-    /** What is counted of a method: a number for each of these in a row. */
+    /** What is counted of a method: where these numbers are among the COUNTS numbers that a row has for it. */
     static final int CALLS = 0;
     static final int RETURNS = 1;
     static final int ARRAYS = 2;
     static final int COUNTS = 3;
 
     /**
-     * A thread's table. In row 0 is how often it was looked for, then follows a row for each class with the counts of
-     * its methods. Nothing but the JDK's classes, so that a thread that lives on does not hold the class loader of this
-     * one.
+     * A thread's table. Row 0 has how often the table was looked for; then comes a row for each class, with the counts
+     * of its methods. It is made of the JDK's types only, so that a thread that lives on does not hold this class's
+     * loader.
      */
     static final ThreadLocal<long[][]> OWN = new ThreadLocal<>();
     static final int FIRST_CLASS = 1;
-    /** By class and method, whether it has run. It is replaced as it grows; what is seen late is marked once more. */
+    /**
+     * Whether a method has run, by class and method. The arrays are replaced as they grow, without a lock for readers:
+     * a thread that sees an old one only marks a method once more.
+     */
     static boolean[][] ran = new boolean[0][];
     private static Recent recent = new Recent(null, null);
-    /** The class of virtual threads; null where the VM has none, and then it costs nothing to ask. */
+    /** The class of virtual threads; null in a VM that has none. */
     private static final Class<?> VIRTUAL = classOfVirtualThreads();
 
     private Calls() {
@@ -46,7 +50,7 @@ public final class Calls {
         count(type, COUNTS * number(method) + ARRAYS);
     }
 
-    /** In the place of the others where nobody wants to know more than that. */
+    /** Called instead of the others where the program was rewritten with --unused only. */
     public static void ran(int type, int method) {
         boolean[][] known = ran;
         int at = number(method);
@@ -56,7 +60,7 @@ public final class Calls {
         }
     }
 
-    /** An instruction pushes the numbers of methods as if they had a sign. */
+    /** Undoes the sign: the instruction that pushes a method's number takes 16 bits for a signed number. */
     private static int number(int pushed) {
         return pushed & 0xFFFF;
     }
@@ -77,8 +81,8 @@ public final class Calls {
     }
 
     /**
-     * The current thread's table, and null if it has none. Whoever looks for it often becomes the one that is known.
-     * Threads write nothing that others read but then: it would cost them more than to look.
+     * The current thread's table; null if it has none. A thread that looks often becomes the one that is remembered.
+     * Not at every look, because a write to memory that other threads read costs more than the look does.
      */
     private static long[][] find() {
         final int often = 4096;
@@ -90,14 +94,15 @@ public final class Calls {
     }
 
     /**
-     * Gives the current thread a new table. From now on it must not find the old one, whose rows are no longer grown.
+     * Gives the current thread a new table, and remembers that: it must not find the old table any more, which gets no
+     * longer rows.
      */
     static void setOwn(long[][] table) {
         OWN.set(table);
         recent = new Recent(Thread.currentThread(), table);
     }
 
-    /** A thread and its table, which do not change, so that others see either both or neither. */
+    /** A thread and its table. The fields are final, so that other threads see either both or neither. */
     private static final class Recent {
         final Thread thread;
         final long[][] table;

@@ -9,26 +9,26 @@ import java.util.Map;
 import java.util.concurrent.atomic.AtomicLongArray;
 
 /**
- * The counters' growth, and the record by which they are found when the table is written.
+ * Makes the counters longer as needed, and keeps the record through which they are found when the table is written.
  *
- * <p>The record holds nothing but the JDK's classes: it is read by the {@link Watcher} of whichever jar came first, and
- * outlives a class loader that the program drops. Its monitor guards all in it, except that a thread adds to its own
- * rows, and marks are read, without.
+ * <p>The record is made of the JDK's types only: the {@link Watcher} of whichever jar came first reads it, and it
+ * outlives a class loader that the program drops. Its monitor guards everything in it, with two exceptions: a thread
+ * adds to its own rows, and marks are read, without it.
  */
 final class Counters {
-    /** In the record: bytes, the packed names of the methods. */
+    /** Keys of the record. This one is for a byte array, the packed names of the methods. */
     static final String METHODS = "methods";
-    /** List of Object[], by thread: weak reference to it, and its table (long[][]). */
+    /** For a list with an Object[] for each thread: a weak reference to the thread, and its table (long[][]). */
     static final String THREADS = "threads";
-    /** AtomicLongArray[][], what virtual threads share: by class and block of methods. */
+    /** For an AtomicLongArray[][], the table that virtual threads share: by class and block of methods. */
     static final String SHARED = "shared";
-    /** boolean[][], by class and method. */
+    /** For a boolean[][], the marks by class and method. */
     static final String RAN = "ran";
 
     static final int THREAD = 0;
     static final int TABLE = 1;
 
-    /** Counts of so many methods are one array of those that virtual threads share: it never moves. */
+    /** The length of an array in the shared table: a class has one for each 64 methods, which never has to grow. */
     static final int BLOCK = 64 * Calls.COUNTS;
 
     private static final List<Object[]> threads = new ArrayList<>();
@@ -69,8 +69,8 @@ final class Counters {
     }
 
     /**
-     * A table that a thread has left when it ended goes to the next one, with what has been counted in it: there are no
-     * more of them than there are threads at a time.
+     * The current thread's entry in the list. When a thread has ended, the next new one takes over its table with the
+     * counts in it, so that there are never more tables than threads have lived at one time.
      */
     private static Object[] ownedByThread() {
         Thread current = Thread.currentThread();
@@ -102,7 +102,7 @@ final class Counters {
         block.incrementAndGet(at % BLOCK);
     }
 
-    /** Replaces arrays of references rather than changing them, for they are read without the monitor. */
+    /** Replaces the arrays of references instead of changing them, because they are read without the monitor. */
     private static AtomicLongArray sharedBlock(int type, int number) {
         begin();
         synchronized (record) {
@@ -137,15 +137,15 @@ final class Counters {
         }
     }
 
-    /** A length with which an index is inside. */
+    /** A new length for an array that is too short for an index. */
     private static int longer(int index, int length) {
         final int few = 12;
         return Math.max(Math.max(index + few, 2 * length), few);
     }
 
     /**
-     * Makes the record known, the first time. The program may be called from there (a class loader of its own that
-     * looks for the methods' names), and so this may be entered again: whatever is called then is counted already.
+     * Registers the record, the first time. This may call code of the program (its class loader, for the file with the
+     * methods' names), and so come back here: those calls are counted already.
      */
     private static void begin() {
         synchronized (record) {

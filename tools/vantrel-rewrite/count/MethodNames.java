@@ -12,8 +12,8 @@ import java.util.zip.GZIPInputStream;
 /**
  * The file "methods.gz" beside these classes, as vantrel-rewrite has written it: a line that says what is to be listed,
  * a line with the name of the jar or folder, and a line for each method that has code: class number, method number,
- * class, name and descriptor, with tabs between them. It is taken for characters of one byte each and comes out as it
- * went in, whatever is in a name. It stays packed while the program runs, for it is a tenth of its size then.
+ * class, name and descriptor, with tabs between them. It is read and written as ISO 8859-1, which keeps all bytes as
+ * they are, whatever encoding a name has. It stays packed while the program runs, which takes a tenth of the memory.
  */
 final class MethodNames {
     private static final char TAB = '\t';
@@ -24,7 +24,9 @@ final class MethodNames {
     final boolean listsUnused;
     final String place;
 
-    /** The number of the class and the method that next() has come to, and class, name and descriptor as they stand. */
+    /**
+     * What next() has read: the numbers of class and method, and class, name and descriptor with tabs between them.
+     */
     int type;
     int method;
     String name;
@@ -51,7 +53,10 @@ final class MethodNames {
         return true;
     }
 
-    /** Early, for at the end of the program the class loader may be closed and its jar removed. */
+    /**
+     * Reads the packed file. To be called early: at the end of the program, the class loader may be closed and its jar
+     * removed.
+     */
     static byte[] read() throws IOException {
         try (InputStream input = Calls.class.getResourceAsStream("methods.gz")) {
             if (input == null) {

@@ -1,11 +1,14 @@
 package com.vantrel.count.x0000000000000000;
 
-/** A method's counts under its name. The most called come first. */
+/** A line of the table: a method's name and counts. Methods that were called most come first. */
 final class Row implements Comparable<Row> {
     /** Class, name, descriptor and the jar or folder, with tabs between them. */
     final String name;
     final long[] counts = new long[Calls.COUNTS];
-    /** Whether the table has it, by what the jar was rewritten for. */
+    /**
+     * Whether the table has the method if it was called, and if it was not: that depends on the options of
+     * vantrel-rewrite.
+     */
     boolean isListedIfCalled;
     boolean isListedIfUnused;
 

@@ -12,8 +12,8 @@ import java.util.Map;
 import java.util.zip.GZIPOutputStream;
 
 /**
- * The counts of all methods with their names. What several class loaders have loaded from one jar, and the versions of
- * a class in a multi-release jar, come together under their name.
+ * The counts of all methods, with their names. Counts of methods of the same name are added up: those of classes that
+ * several class loaders have loaded from one jar, and those of the versions of a class in a multi-release jar.
  */
 final class Table {
     private final Map<String, Row> rows = new HashMap<>();
@@ -66,7 +66,10 @@ final class Table {
         output.write((line + '\n').getBytes(StandardCharsets.ISO_8859_1));
     }
 
-    /** Loads all classes that a table takes, for at the end of the program their class loader may be closed. */
+    /**
+     * Has all classes loaded that writing a table needs, because at the end of the program their class loader may be
+     * closed.
+     */
     static void rehearse() throws IOException {
         ByteArrayOutputStream methods = new ByteArrayOutputStream();
         try (OutputStream packer = new GZIPOutputStream(methods)) {

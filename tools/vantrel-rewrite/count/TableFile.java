@@ -6,7 +6,7 @@ import java.io.FileOutputStream;
 import java.io.IOException;
 import java.io.OutputStream;
 
-/** Where the table goes. */
+/** The file that the table is written to. */
 final class TableFile {
     private static final String PROPERTY = "vantrel.count.file";
     private static final String USUAL = "vantrel-count-%p.txt";
@@ -17,8 +17,8 @@ final class TableFile {
     }
 
     /**
-     * The file that the property names, where %p is the number of the process: several programs, or one that runs
-     * again, do not replace each other's table then.
+     * The file that the property names. In the name, %p stands for the number of the process, so that several programs,
+     * or one that runs again, do not replace each other's table.
      */
     static File fromProperties() {
         String name = System.getProperty(PROPERTY, USUAL);
@@ -36,11 +36,11 @@ final class TableFile {
     }
 
     /**
-     * Writes the table whole or not at all, and replaces what is there. Returns whether that was possible; if not, it
-     * has said why.
+     * Writes the whole table or nothing, and replaces an older one. If that is not possible it says why, and returns
+     * false.
      */
     static boolean write(File file, Table table) {
-        boolean isFile = file.isFile() || !file.exists(); // not a pipe or a device
+        boolean isFile = file.isFile() || !file.exists(); // otherwise it is a pipe or a device
         File part = isFile ? new File(file + "." + PROCESS + ".part") : file;
         try {
             try (OutputStream output = new BufferedOutputStream(new FileOutputStream(part))) {

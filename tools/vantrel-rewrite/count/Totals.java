@@ -5,7 +5,7 @@ import java.util.List;
 import java.util.Map;
 import java.util.concurrent.atomic.AtomicLongArray;
 
-/** A record's counts, summed over its threads: by class, a row as threads have them. */
+/** A record's counts, summed over its threads: a row for each class, in the form of a thread's rows. */
 final class Totals {
     private Totals() {
     }
@@ -52,7 +52,7 @@ final class Totals {
         long[][] grown = type < totals.length ? totals : Arrays.copyOf(totals, 2 * type + 1);
         long[] row = grown[type] == null ? new long[0] : grown[type];
         row = Arrays.copyOf(row, Math.max(row.length, from + counts.length));
-        // A thread may be counting meanwhile: calls come last, so that there are not less of them than of returns.
+        // Backwards, because a thread may be counting meanwhile: calls are read after returns, and so cannot be less.
         for (int at = counts.length - 1; at >= 0; --at) {
             row[from + at] += counts[at];
         }

@@ -11,13 +11,14 @@ import java.util.function.Consumer;
  * The one thread in a VM that knows all counters, whichever jars and class loaders they are in. It writes the table
  * when a file asks for it, and has another thread write it at the end of the program.
  *
- * <p>Classes of the same name from several jars and loaders have nothing in common but the JDK's. So a second one finds
- * the first one's watcher by its name among the threads of the VM, and gives its record to it as to any consumer.
+ * <p>The copies of this class from several jars and class loaders share no types but the JDK's. So the second one finds
+ * the first one's watcher by its name among the VM's threads, and passes its record to it as a
+ * java.util.function.Consumer.
  */
 final class Watcher extends Thread implements Consumer<Map<String, Object>> {
-    /** Other versions of the record would have another number. */
+    /** The number is the version of the record's form. */
     private static final String NAME = "vantrel-count-1";
-    /** A literal is one object in the whole VM. */
+    /** One object in the whole VM, as every string literal is, so that the copies of this class can lock it. */
     private static final Object VM_WIDE = NAME;
     private static final int PAUSE_MS = 500;
 
@@ -32,10 +33,10 @@ final class Watcher extends Thread implements Consumer<Map<String, Object>> {
         setContextClassLoader(null);
     }
 
-    /** Has the table written with what is in a record, too. */
+    /** Adds a record to those that the table is written from. */
     static void register(Map<String, Object> record) throws IOException {
         synchronized (VM_WIDE) {
-            // The program's own groups end with what it has in them, and it may count their threads.
+            // Not one of the program's own groups, which it may destroy, and whose threads it may count.
             ThreadGroup top = Thread.currentThread().getThreadGroup();
             while (top.getParent() != null) {
                 top = top.getParent();
@@ -89,14 +90,14 @@ final class Watcher extends Thread implements Consumer<Map<String, Object>> {
         if (asked == 0 || asked == answered) {
             return;
         }
-        answered = asked; // if it cannot be removed
+        answered = asked; // or it would be answered again and again if it cannot be removed
         write();
         if (request.delete()) {
             answered = 0;
         }
     }
 
-    /** Returns the table that was written; null where that was not possible, which has been said then. */
+    /** Writes the table, and returns it; null if that was not possible, which has been reported then. */
     synchronized Table write() throws IOException {
         Table table = new Table();
         for (Map<String, Object> record : records) {
@@ -105,7 +106,7 @@ final class Watcher extends Thread implements Consumer<Map<String, Object>> {
         return TableFile.write(file, table) ? table : null;
     }
 
-    /** The table at the end of the program: of main, by System.exit, or by a signal. */
+    /** Writes the table when the program ends: after its last thread, by System.exit, or by a signal. */
     private static final class AtEnd extends Thread {
         private final Watcher watcher;
 

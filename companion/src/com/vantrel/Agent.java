@@ -4,8 +4,9 @@ import java.awt.Component;
 import java.awt.Graphics2D;
 
 /**
- * What the inspector asks of the agent. The agent goes before the last threads of a VM that ends, and its native
- * methods with it: whoever asks then gets nothing, and nothing is said, for there is nobody left to care.
+ * What the inspector asks of the agent. When the VM ends, the agent and its native methods are gone before the last
+ * threads are. What is asked of it then is answered with nothing or false, and nothing is printed, for nobody could see
+ * the result any more.
  */
 final class Agent {
     private Agent() {

@@ -9,12 +9,14 @@ import javax.swing.Timer;
 import com.vantrel.model.Ours;
 
 /**
- * Whether the inspector's window can be seen, as far as that is known here: the toolkit tells nobody which window lies
- * over which. Where the user works with a window of the program that has room for all of the inspector, as one in full
- * screen has, the inspector is taken to be below it. For the event thread.
+ * Guesses whether a window of the program covers the inspector's. The toolkit does not tell which window lies over
+ * which. But when the active window is the program's and the whole inspector lies within its bounds, as with a window
+ * in full screen, the inspector is taken to be below it. For the event thread.
  */
 final class Cover {
-    /** Until the window manager has brought to the front what was clicked: as a rule, and where the machine is busy. */
+    /**
+     * How long the window manager takes to bring a clicked window to the front: usually, and when the machine is busy.
+     */
     private static final int MILLIS_TO_RAISE = 150;
     private static final int MILLIS_AT_MOST = 1000;
 
@@ -37,8 +39,8 @@ final class Cover {
     }
 
     /**
-     * The program's window has been clicked for our sake: brings ours back to the front where that click has put the
-     * other one over it.
+     * To be called when the user has picked a component by clicking a window of the program. If that click brings the
+     * window to the front, over ours, brings ours back.
      */
     void takeOff() {
         until = System.currentTimeMillis() + MILLIS_AT_MOST;

@@ -9,7 +9,7 @@ import com.vantrel.pick.Highlighter;
 import com.vantrel.pick.Picker;
 import com.vantrel.view.Sight;
 
-/** Joins the window's parts with what is done in the program, and that with the agent. */
+/** Connects the parts of the inspector's window with the picker and the highlighter, and these with the agent. */
 final class PickSight implements Sight {
     private final Highlighter highlighter;
     private final Picker picker;

@@ -35,11 +35,12 @@ public final class Vantrel {
 
     /**
      * Shows the inspector's window, or hides it if it is shown; brings it back if it is minimised. May be called from
-     * any thread. Does nothing but say so where there can be no window.
+     * any thread. Where there can be no window, it only says so on stderr.
      *
      * @param component the component to select; null for none
      */
     public static void showVantrel(Component component) {
+        // The hot key's call has no component. The same press may have come among the program's events already.
         if (component != null || HOT_KEY.isNewCall()) {
             toggle(component);
         }

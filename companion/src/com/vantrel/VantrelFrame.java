@@ -22,15 +22,18 @@ import com.vantrel.view.Placement;
 import com.vantrel.view.WindowIcon;
 
 /**
- * The inspector's window. A window that exists, shown or not, keeps the event thread and with it the VM alive, so this
- * one exists only while it is shown, and goes when nothing else is left of the program. What is in it is made when it
- * is shown, in the look and feel of that moment, and dropped when it is closed. It stays usable while a modal dialog of
- * the program is open.
+ * The inspector's window. A displayable window, shown or not, keeps the event thread alive, and with it the VM. So this
+ * one is displayable only while it is shown, and is disposed of when no other window and no thread of the program is
+ * left. What is in it is made when it is shown, in the look and feel of that moment, and dropped when it is closed. It
+ * stays usable while a modal dialog of the program is open.
  */
 public final class VantrelFrame extends JFrame implements Ours {
     private static final long serialVersionUID = 1L;
 
-    /** What is left of the main thread when it has ended, and the AWT's wait for its own end. */
+    /**
+     * Threads that are not the program's: what the main thread becomes when {@code main} returns, and the thread that
+     * waits for the end of the AWT.
+     */
     private static final List<String> OF_THE_VM = Arrays.asList("DestroyJavaVM", "AWT-Shutdown");
 
     private static final int MILLIS_BETWEEN_LOOKS = 250;
@@ -39,11 +42,11 @@ public final class VantrelFrame extends JFrame implements Ours {
     private static VantrelFrame instance;
 
     private transient volatile Selection selection;
-    /** Who sets what while the window is shown. */
+    /** Records, while the window is shown, who sets which property. */
     private final transient ChangeRecorder recorder = new ChangeRecorder(component -> true);
     private transient PickSight sight;
     private InspectorPane pane;
-    /** What somebody has selected while the window was not shown. */
+    /** The component to select when the window is shown next. */
     private transient WeakReference<Component> toSelect = new WeakReference<>(null);
 
     private final Timer looks = new Timer(MILLIS_BETWEEN_LOOKS, event -> {
@@ -89,7 +92,7 @@ public final class VantrelFrame extends JFrame implements Ours {
         }
     }
 
-    /** Shows the window, or brings it back where nobody can see it; hides it otherwise. */
+    /** Shows the window, or brings it to the front if it is minimised or covered. Otherwise hides it. */
     void toggle() {
         if (isVisible() && (getExtendedState() & ICONIFIED) != 0) {
             setExtendedState(getExtendedState() & ~ICONIFIED);
@@ -165,9 +168,9 @@ public final class VantrelFrame extends JFrame implements Ours {
                 return true;
             }
         }
-        return count == threads.length;
+        return count == threads.length; // the array was too short after all: some may be missing
     }
 
-    /** Asks for a window that is translucent, in percent. The agent does nothing with it. */
+    /** Asks the agent for a translucent window, in percent. The agent ignores it. */
     public native void setOpacity(int opacity);
 }

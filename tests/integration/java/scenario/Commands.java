@@ -32,7 +32,7 @@ import javax.swing.SwingUtilities;
 
 /**
  * What the program can be told. A command is a word and its arguments, separated by spaces; the last argument may hold
- * spaces. Each runs on the event thread, but those that only look at it from outside.
+ * spaces. Each runs on the event thread, except those that only measure it from outside.
  */
 final class Commands {
     private static final Set<String> FROM_OUTSIDE = Set.of("busy", "held");

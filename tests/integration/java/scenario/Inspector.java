@@ -72,10 +72,9 @@ final class Inspector {
     }
 
     /**
-     * What a person would read of a component: of a list or table its rows, with "* " before those that are selected
-     * and
-     * "- " before the others, and " | " between cells; of anything else its text, be it only one that is read aloud to
-     * those who do not see; of a panel all texts below it.
+     * What a person would read of a component. Of a list or table: its rows, with "* " before those that are selected,
+     * "- " before the others, and " | " between cells. Of a panel: all texts below it. Of anything else: its text, or
+     * the one that screen readers say.
      */
     static String describe(String name) {
         return String.join("\n", lines(find(name)));

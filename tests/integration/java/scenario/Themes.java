@@ -16,8 +16,8 @@ final class Themes {
     }
 
     /**
-     * "dark" is Metal in dark colours. "bare" knows how to paint, but has no colours, borders or icons; without fonts,
-     * a text field or menu of the JDK fails by itself. Any other name is a class's.
+     * "dark" is Metal in dark colours. "bare" knows how to paint, but has no colours, borders or icons; it keeps its
+     * fonts, because text fields and menus of the JDK fail without them. Any other name is a class's.
      */
     static void use(String name) throws Exception {
         if (name.equals("dark")) {

@@ -19,7 +19,7 @@ final class Things {
         return known(name, component);
     }
 
-    /** Lets commands call a component by a name of which it knows nothing. */
+    /** Lets commands call a component by a name that is not set in the component itself. */
     <C extends Component> C known(String name, C component) {
         byName.put(name, component);
         names.put(component, name);

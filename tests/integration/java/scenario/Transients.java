@@ -91,7 +91,7 @@ final class Transients {
         return "";
     }
 
-    /** Has the screen to itself with the main window, as the toolkit does that. */
+    /** Gives the main window the whole screen, or takes it back, by the toolkit's own function. */
     String fullScreen(String state) {
         JFrame main = things.get("main", JFrame.class);
         main.getGraphicsConfiguration().getDevice().setFullScreenWindow(state.equals("on") ? main : null);

@@ -1,6 +1,9 @@
 package base;
 
-/** What a VM's own classes call, rewritten: before it can do much, so it does next to nothing. */
+/**
+ * What a VM's own classes call when they are rewritten. Some do so before the VM can do much, so this does next to
+ * nothing.
+ */
 public final class BaseTracker {
     private static long calls;
 

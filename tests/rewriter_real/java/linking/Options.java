@@ -14,7 +14,7 @@ final class Options {
     boolean strict;
     /** Rewrites by the door for the class files of today. */
     boolean modern;
-    /** Only every so manyth class is linked; the others are there for those. */
+    /** Of so many classes one is linked; the others are there if it needs them. */
     int every = 1;
     /** A sequence of bytes, in Latin-1, that is replaced in rewritten images by one of the same length. */
     String damaged;

@@ -11,8 +11,8 @@ import java.util.TreeMap;
 import java.util.stream.Stream;
 
 /**
- * Links every class of the VM's own modules, where the VM has them from: its image, or what --patch-module says. Writes
- * a line a class, with what the VM says where it could not be linked, and how many it was.
+ * Links every class of the VM's own modules, from the VM's image or from where --patch-module says. Writes a line for
+ * each class, "linked" or the VM's reason why not, and how many were linked.
  */
 public final class Platform {
     private Platform() {

@@ -11,7 +11,7 @@ final class Rewriter {
     private Rewriter() {
     }
 
-    /** Throws a Refusal. The name may be null. Modern is what takes the class files of today. */
+    /** Throws a Refusal. The name may be null. If modern, by the function that takes the class files of today. */
     static native byte[] rewrite(
             byte[] image, String name, int trackers, int classNumber, boolean systemClass, boolean modern);
 

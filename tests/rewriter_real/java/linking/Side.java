@@ -16,7 +16,7 @@ final class Side extends ClassLoader {
         this.change = change;
     }
 
-    /** Links a class without initialising it. Says nothing when the VM did so, or else why it did not. */
+    /** Links a class without initialising it. Returns an empty text if the VM did so, or else why it did not. */
     String link(String name) {
         Class<?> type = null;
         try {

@@ -26,7 +26,7 @@ public final class SideBySide {
     private final Images images;
     private final Map<String, Integer> counts = new TreeMap<>();
     private final List<String> failures = new ArrayList<>();
-    /** Those that only version 50 lets pass. */
+    /** Classes that fail in version 51, which therefore stay in version 50. */
     private final Set<String> lenient = new HashSet<>();
     private int position;
 
@@ -142,7 +142,7 @@ public final class SideBySide {
         counts.merge(what, 1, Integer::sum);
     }
 
-    /** The class of the error that is told of. */
+    /** The error's class, out of a reason. */
     private static String kind(String reason) {
         int end = reason.indexOf(':');
         return end < 0 ? reason : reason.substring(0, end);

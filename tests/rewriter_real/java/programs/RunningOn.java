@@ -1,4 +1,4 @@
-/** Ends while a thread of it runs on, which leaves methods in both ways all the time. */
+/** Ends while one of its threads still runs, which leaves methods by returns and by exceptions all the time. */
 public final class RunningOn {
     private RunningOn() {
     }

@@ -11,7 +11,7 @@ final class Calls {
     /** The methods that are entered and not left, class number in the upper half, the innermost last. */
     long[] open = new long[64];
     int depth;
-    /** So many of the outermost open methods were there when an exception was thrown: they may be left by it. */
+    /** How many of the outermost open methods were open when an exception was thrown: it may leave them. */
     int exposed;
 
     /** By class number and method number. */

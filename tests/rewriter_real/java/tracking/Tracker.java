@@ -59,7 +59,7 @@ public final class Tracker {
         calls.lock.unlock();
     }
 
-    /** Called by the agent when an exception was thrown, on the thread of that. */
+    /** Called by the agent when an exception is thrown, on the thread that throws it. */
     static void thrown() {
         Calls calls = locked();
         calls.thrown();
@@ -68,7 +68,7 @@ public final class Tracker {
 
     /**
      * Called by the agent at the VM's end. A line a count, and a line a method: numbers, entries, returns. Other
-     * threads may be running still; each stands where it was counted.
+     * threads may still be running; each waits at its next call once it has been counted.
      */
     static void report(String file) throws IOException {
         try (PrintWriter out = new PrintWriter(file, "UTF-8")) {

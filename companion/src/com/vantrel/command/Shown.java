@@ -11,6 +11,8 @@ import com.vantrel.model.SetBy;
 import com.vantrel.model.Showing;
 import com.vantrel.model.Target;
 import com.vantrel.record.SetBys;
+import com.vantrel.why.Sentence;
+import com.vantrel.why.Why;
 
 /** All there is to say of one component, as text. */
 final class Shown {
@@ -47,6 +49,9 @@ final class Shown {
         line(text, "added", added.line());
         if (!added.stack().isEmpty()) {
             text.append(added.stack().text()).append('\n');
+        }
+        for (Sentence sentence : Why.of(component)) {
+            line(text, "why", sentence.toString());
         }
         String group = "";
         for (Row row : reading.rows()) {

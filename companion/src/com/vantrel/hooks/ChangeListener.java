@@ -4,8 +4,9 @@ import java.awt.Component;
 import java.awt.Container;
 
 /**
- * Hears of components that are about to change, on whatever thread changes them, perhaps with the AWT's tree lock held:
- * what it is told of is for it to note, and to look at later, on the event thread. Not every call changes something.
+ * Hears of components that are about to change, on the thread that changes them, which may hold the AWT's tree lock. So
+ * a listener only takes a note, and looks at the component later, on the event thread. It also hears of calls that in
+ * the end change nothing, such as setting the value that is there.
  */
 public interface ChangeListener {
     /**

@@ -6,15 +6,15 @@ import java.lang.invoke.MethodHandles;
 import java.lang.invoke.MethodType;
 
 /**
- * A field that the agent adds to {@code Component}, through the static methods that it adds with it: what lies there
- * goes with its component. Without the agent there is no such field, and nothing that is set stays. May be used by any
- * thread.
+ * A field that the agent adds to {@code Component}, with two static methods that read and write it. Its value lives as
+ * long as its component. Without the agent there is no such field: then nothing is stored, and what is read is null.
+ * May be used by any thread.
  */
 public final class ComponentField {
     private final MethodHandle get;
     private final MethodHandle set;
 
-    /** Looks for the field, which takes a while: not for a time at which a program starts. */
+    /** Looks for the two methods. That takes a while, and is not to be done while the program starts. */
     public ComponentField(String name) {
         get = accessor(name, MethodType.methodType(Object.class, Component.class));
         set = accessor(name, MethodType.methodType(void.class, Component.class, Object.class));
@@ -28,7 +28,7 @@ public final class ComponentField {
         }
     }
 
-    /** What lies there; null for nothing. */
+    /** The field's value; null if none was set. */
     public Object get(Component component) {
         try {
             return get == null ? null : (Object) get.invokeExact(component);
@@ -47,7 +47,7 @@ public final class ComponentField {
         }
     }
 
-    /** The accessors only read and write a field. */
+    /** For what cannot happen: the methods only read and write a field. */
     private static RuntimeException unexpected(Throwable e) {
         if (e instanceof Error) {
             Error error = (Error) e;

@@ -5,8 +5,9 @@ import java.lang.reflect.InvocationTargetException;
 import java.lang.reflect.Method;
 
 /**
- * The toolkit's module, whose packages are closed to others where the VM has modules: {@code setAccessible} fails for
- * what is private there. The agent adds a method to {@code Component}, and so to that module, that opens them to us.
+ * The module {@code java.desktop}. Where the VM has modules, its packages are closed to other modules, so that {@code
+ * setAccessible} fails for their private members, and only the module's own code may open them. Therefore the agent
+ * adds a method to {@code Component} that does so.
  */
 public final class DesktopModule {
     private DesktopModule() {

@@ -8,9 +8,9 @@ public interface EventFilter {
     /**
      * An event that is about to be dispatched, on the thread that dispatches it: the event thread, as a rule.
      *
-     * @param source whose {@code dispatchEvent} was called: a window for what its lightweight components will get, and
-     *               then each of these
-     * @return whether nobody else is to see the event
+     * @param source whose {@code dispatchEvent} was called. An event for a lightweight component comes more than once:
+     *               first with its window, which passes it on, then with the component itself
+     * @return true if nobody else is to see the event
      */
     boolean keep(Component source, AWTEvent event);
 }

@@ -8,26 +8,31 @@ import java.util.Arrays;
 import java.util.List;
 
 /**
- * What the agent makes {@code java.awt.Component} and {@code Container} call, and where the inspector says what it
- * wants to be told of. It runs with every event and every change of the program: while nobody listens, each call is one
- * test of one field. A listener that throws is reported, the first time, and disturbs nobody.
+ * The calls that the agent adds to {@code java.awt.Component} and {@code Container}, and where the inspector registers
+ * for them. They are made with every event and every change in the program, so while nobody is registered each of them
+ * is one test of one field. What a listener throws never reaches the program; the first time, it is printed.
  *
- * <p>Whoever registers unregisters: what is registered is called, and kept, until then. Both may be done on any thread,
- * within a call of a listener, too.
+ * <p>What is registered is held, and called, until it is removed. Both may be done on any thread, also by a listener
+ * while it is being called.
  */
 public final class Hooks {
     /** Position and size. */
     public static final String BOUNDS = "bounds";
     public static final String VISIBLE = "visible";
-    /** The order of a container's components; additions and removals are told by themselves. */
+    /**
+     * The order of a container's components; additions and removals are told by {@link ChangeListener#moving} instead.
+     */
     public static final String ORDER = "order";
-    /** A size or layout that was worked out is no longer valid, for whatever reason. */
+    /** The component was invalidated: its computed sizes and its layout hold no longer. */
     public static final String VALID = "valid";
     public static final String ENABLED = "enabled";
     public static final String CURSOR = "cursor";
     public static final String FOCUSABLE = "focusable";
 
-    /** Null while there are none, so that calls cost next to nothing then; replaced and never changed otherwise. */
+    /**
+     * Null while there are none, so that calls cost next to nothing then. An array is only replaced, never changed, so
+     * that it can be read without a lock.
+     */
     private static volatile EventFilter[] filters;
     private static volatile ChangeListener[] listeners;
 
@@ -52,12 +57,14 @@ public final class Hooks {
         listeners = without(listeners, listener);
     }
 
-    /** Called first by {@code Component.dispatchEvent}. Whether the event is to go no further. */
+    /**
+     * Called by {@code Component.dispatchEvent} before anything else. Returns whether the event is to go no further.
+     */
     public static boolean event(Component source, AWTEvent event) {
         return filters != null && kept(source, event);
     }
 
-    /** Called first by each method of {@code Component} that changes what listeners want to know of. */
+    /** Called at the start of each method of {@code Component} that changes something which listeners are told of. */
     public static void changing(Component component, String what) {
         if (listeners != null) {
             tell(component, what);
@@ -106,7 +113,7 @@ public final class Hooks {
         }
     }
 
-    /** Once, for what fails on one event fails on thousands. */
+    /** Only once, because what fails on one event fails on thousands. */
     private static void report(Throwable fault) {
         try {
             if (!reported) {
@@ -115,7 +122,7 @@ public final class Hooks {
                 fault.printStackTrace();
             }
         } catch (Throwable e) {
-            // Out of memory or of stack: the program is to find that out by itself.
+            // There is no memory or stack left to print with. The program will notice that by itself.
         }
     }
 

@@ -6,8 +6,8 @@ import java.awt.Window;
 import com.vantrel.stacktrace.StackTraceManager;
 
 /**
- * Where a component was added to its container: the recorded stack, and one line that says it. Holds nothing of the
- * program. May be used by any thread.
+ * Where a component was added to its container: the recorded stack, and a summary of it in one line. Holds nothing of
+ * the program. May be used by any thread.
  */
 public final class AddedAt {
     private final CallStack stack;

@@ -24,10 +24,13 @@ final class Borders {
     private Borders() {
     }
 
-    /** What a border is; one of another class by the class alone, and nothing is called of the program's. */
+    /**
+     * A border as text. Of a border that is not the toolkit's only the class is told, so that no code of the program is
+     * called.
+     */
     static String write(Border border) {
         Class<?> type = border.getClass();
-        // The look and feel's have the same bases, but what they paint is something else.
+        // Borders of the look and feel extend the simple ones, but paint something else.
         if (border instanceof UIResource || !Code.isToolkit(type)) {
             return Code.shortName(type);
         }

@@ -13,11 +13,11 @@ import javax.swing.JComponent;
 import javax.swing.border.Border;
 
 /**
- * Where a component and what is around it lies, in numbers: for a drawing. Holds components weakly, and is made anew
- * when something moves. For the event thread.
+ * The bounds of a component, of its parent and of its siblings, and its insets, for a drawing. A snapshot, which is
+ * made anew when something moves. Holds components weakly. For the event thread.
  */
 public final class Boxes {
-    /** A neighbour. */
+    /** A sibling, or the component itself. */
     public static final class Box {
         private final WeakReference<Component> component;
         private final Rectangle bounds;
@@ -81,7 +81,10 @@ public final class Boxes {
         return new Boxes(component, (Rectangle) bounds, reading);
     }
 
-    /** What a border takes, where that can be asked for; the same as all insets in most cases. */
+    /**
+     * The insets of the border alone, which in most cases are all insets; null if they cannot be asked for without
+     * calling code of the program.
+     */
     private static Insets border(Component component) {
         boolean askable = component instanceof JComponent && Code.overrider(component.getClass(), "getBorder") == null;
         Border border = askable ? ((JComponent) component).getBorder() : null;

@@ -3,8 +3,9 @@ package com.vantrel.model;
 /** Lines of recorded stacks: whose they are, and how they are written. */
 public final class CallSite {
     /**
-     * What stands between a program and the container that it adds to: the JDK, ourselves, and the run times of
-     * languages that do not call Java directly. The name alone decides, for a recorded stack has no classes.
+     * Packages whose lines are not the program's: the JDK, ourselves, and the run times of languages that do not call
+     * Java directly. On a stack they stand between the program and the container that it adds to. The name alone
+     * decides, for a recorded stack has no classes.
      */
     private static final String[] MACHINERY = {"java.", "javax.", "sun.", "com.sun.", "jdk.", "com.apple.", "apple.",
             "com.vantrel.", "kotlin.", "groovy.lang.", "org.codehaus.groovy.", "org.apache.groovy.", "scala.",
@@ -28,7 +29,8 @@ public final class CallSite {
         String name = line.getMethodName();
         if (name.startsWith("lambda$") && name.lastIndexOf('$') > "lambda$".length()) {
             name = name.substring("lambda$".length(), name.lastIndexOf('$'));
-            // A compiler cannot use the names that the VM has for these.
+            // These are the compiler's names for a constructor and a static initializer, whose own names no method of a
+            // lambda could contain.
             name = name.equals("new") ? "<init>" : name.equals("static") ? "<clinit>" : name;
         }
         return line.getClassName().substring(packageName(line).length()).replaceFirst("^\\.", "") + "." + name;
@@ -51,7 +53,7 @@ public final class CallSite {
         return line.getLineNumber() < 0 ? line.getFileName() : line.getFileName() + ":" + line.getLineNumber();
     }
 
-    /** A line in one: {@code OrderForm.build(OrderForm.java:42)}. */
+    /** The whole line as text: {@code OrderForm.build(OrderForm.java:42)}. */
     public static String summary(StackTraceElement line) {
         return method(line) + "(" + place(line) + ")";
     }

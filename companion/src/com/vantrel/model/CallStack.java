@@ -6,11 +6,13 @@ import java.util.Collections;
 import java.util.List;
 
 /**
- * A recorded stack, innermost call first: the program's line in it, and the whole of it folded. Holds nothing of the
+ * A recorded stack, innermost call first: tells the program's line in it, and folds the rest. Holds nothing of the
  * program. Does not change. May be used by any thread.
  */
 public final class CallStack {
-    /** The longest round of calls that is looked for when repetitions are folded. */
+    /**
+     * How many parts a recursion may have between one call and its repetition, for repetitions to be found and folded.
+     */
     private static final int LONGEST_ROUND = 12;
 
     /** What a part of the stack is. */
@@ -79,6 +81,11 @@ public final class CallStack {
         return null;
     }
 
+    /** All of it, innermost call first. */
+    public List<StackTraceElement> lines() {
+        return Collections.unmodifiableList(Arrays.asList(trace));
+    }
+
     /** The whole stack as a program would print it, a line each; empty if there is none. */
     public String text() {
         StringBuilder text = new StringBuilder();
@@ -133,12 +140,15 @@ public final class CallStack {
         return folded;
     }
 
-    /** How many parts from a place on make the round that saves most lines when its repetitions go; 0 if none does. */
+    /**
+     * How many parts one round of a recursion has that begins at a place. If there are several such lengths, the one
+     * whose folding saves the most lines; 0 if none saves any.
+     */
     private static int roundAt(List<Part> parts, int at) {
         int best = 0;
         int mostSaved = 0;
         for (int round = 1; round <= LONGEST_ROUND; round++) {
-            int saved = endOfRepeats(parts, at, round) - at - round - 1; // one line says that there are more
+            int saved = endOfRepeats(parts, at, round) - at - round - 1; // a line is needed to say how often it repeats
             if (saved > mostSaved) {
                 best = round;
                 mostSaved = saved;

@@ -10,8 +10,9 @@ import java.util.Set;
 import java.util.concurrent.TimeUnit;
 
 /**
- * Asks many objects for properties that somebody named, of which some run code of the program. What throws, or takes
- * its time, is not asked again on any object of its class as long as this object lives. For the event thread.
+ * Asks many objects for properties that the user has named in a search, which may call code of the program. A getter
+ * that throws or is slow is not called again on any object of the same class, as long as this object lives. For the
+ * event thread.
  */
 final class Calls {
     static final Object NO_ANSWER = new Object();
@@ -59,7 +60,10 @@ final class Calls {
         return NO_METHOD;
     }
 
-    /** A method that may be called because its class is public, too; the program's override is what runs. */
+    /**
+     * A public method whose class is public too, so that it may be called by reflection. Where the program overrides
+     * it, the program's method runs.
+     */
     private static Method publicMethod(Class<?> type, String name) {
         try {
             Method method = type.getMethod(name);

@@ -4,15 +4,15 @@ import java.awt.CardLayout;
 import java.awt.Component;
 import java.lang.reflect.Field;
 
-/** The names that the cards of a CardLayout were given, which it keeps to itself. For the event thread. */
-final class Cards {
+/** The names of the cards of a CardLayout, which it keeps in a private field. For the event thread. */
+public final class Cards {
     private static final Field ALL = Members.field(CardLayout.class, "vector");
 
     private Cards() {
     }
 
     /** The name of a component's card; null where it has none, or the toolkit's module is closed to us. */
-    static String name(CardLayout layout, Component child) throws IllegalAccessException {
+    public static String name(CardLayout layout, Component child) throws IllegalAccessException {
         if (ALL == null) {
             return null;
         }

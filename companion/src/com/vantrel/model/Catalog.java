@@ -20,11 +20,13 @@ import javax.swing.text.Document;
 import javax.swing.text.JTextComponent;
 
 /**
- * The properties of a component, in groups: those that most components have in an order that is easy to find things
- * in, then what each of its classes adds. Decides which of them may be read unasked. For the event thread.
+ * The properties of a component, in groups: first those that most components have, always in the same order, then what
+ * each of its classes adds. Decides which of them are read unasked, that is, without the user asking for them. For the
+ * event thread.
  *
- * <p>Unasked are read the toolkit's own getters, as long as the program overrides nothing of what they ask. What the
- * program has written may block, throw, load data or change something: that is read when the user asks for it.
+ * <p>The toolkit's own getters are read unasked, as long as the program overrides none of the methods that they call. A
+ * method that the program has written may block, throw, load data or change something, so it is only called when the
+ * user asks for its property.
  */
 final class Catalog {
     static final String IDENTITY = "Identity";
@@ -34,7 +36,7 @@ final class Catalog {
     static final String ACCESSIBILITY = "Accessibility";
     static final String CLIENT_PROPERTIES = "Client properties";
 
-    /** By group, the properties in it, in order. */
+    /** The names of the properties in each group, in order. */
     private static final Map<String, List<String>> GROUPS = new LinkedHashMap<>();
 
     static {
@@ -62,18 +64,21 @@ final class Catalog {
         GROUPS.put(CLIENT_PROPERTIES, new ArrayList<>());
     }
 
-    /** What the toolkit works out anew each time, by asking much else. */
+    /** Properties that the toolkit computes anew each time, by calling many other methods. */
     private static final Set<String> COMPUTED = new HashSet<>(
             Arrays.asList("minimumSize", "preferredSize", "maximumSize", "preferredScrollableViewportSize"));
 
-    /** Getters of which only sizes are made, or that nothing else is made of. */
+    /**
+     * Getters from which the toolkit computes sizes only, or nothing at all: where the program overrides one of these,
+     * the other properties can still be read unasked.
+     */
     private static final Set<String> FOR_SIZES = new HashSet<>(Arrays.asList("getMinimumSize", "getPreferredSize",
             "getMaximumSize", "getPreferredScrollableViewportSize", "getInsets", "getBaseline", "getAlignmentX",
             "getAlignmentY", "getScrollableTracksViewportWidth", "getScrollableTracksViewportHeight",
             "getScrollableUnitIncrement", "getScrollableBlockIncrement", "getBackground", "getForeground", "getFont",
             "isOpaque", "isOptimizedDrawingEnabled", "isValidateRoot", "isFocusCycleRoot"));
 
-    /** Of the properties that most components have, those that some classes make of others. */
+    /** Of the properties that most components have, those that some classes compute from others. */
     private static final Set<String> DERIVED = new HashSet<>(Arrays.asList("label", "actionCommand"));
 
     private static final Set<String> NEEDS_LAYOUT = new HashSet<>(
@@ -81,8 +86,9 @@ final class Catalog {
 
     private final Component component;
     private final Class<?> type;
-    /** The program's class that overrides a getter, or null; and one that other things may be worked out from. */
+    /** The program's class that overrides any getter that the toolkit computes with; null for none. */
     private final Class<?> getterOverrider;
+    /** The same without regard to getters that only sizes are computed from. */
     private final Class<?> valueOverrider;
     private final Map<String, Map<String, Property>> found = new LinkedHashMap<>();
 
@@ -170,7 +176,7 @@ final class Catalog {
         storeOnlyWhatIsSet(property, read);
     }
 
-    /** Has an undo put back "none of its own" where a value came from the parent or was computed. */
+    /** Where a value comes from the parent or is computed, has an undo put back null, for "none of its own". */
     private void storeOnlyWhatIsSet(Property property, Method read) {
         Property.Get value = on -> Members.call(read, on);
         switch (property.name()) {
@@ -216,7 +222,7 @@ final class Catalog {
     }
 
     private void addIdentity() {
-        // None of these may hold the component, as a lambda that reads a field of this object would.
+        // No lambda here may hold the component, as one would that reads a field of this object.
         add(IDENTITY, "class", Class.class, Component::getClass);
         Class<?> toolkit = Code.toolkitClass(type);
         if (toolkit != type) {
@@ -287,17 +293,9 @@ final class Catalog {
         for (Property property : all) {
             if (programs != null) {
                 askProgram(property, programs);
-            } else if (!hasContext()) {
+            } else if (Fields.ACCESSIBLE.of(component, null) == null) {
                 property.asked("The component makes its accessible context when it is first asked for it.");
             }
-        }
-    }
-
-    private boolean hasContext() {
-        try {
-            return ContextField.FIELD != null && ContextField.FIELD.get(component) != null;
-        } catch (IllegalAccessException e) {
-            return false;
         }
     }
 
@@ -307,10 +305,5 @@ final class Catalog {
             throw new IllegalStateException("it has no accessible context");
         }
         return context;
-    }
-
-    /** Known only where the toolkit's module is open to us. */
-    private static final class ContextField {
-        static final java.lang.reflect.Field FIELD = Members.field(Component.class, "accessibleContext");
     }
 }

@@ -22,7 +22,7 @@ public final class Cells {
     /**
      * Has the renderer prepare its component for a cell, as with every painting.
      *
-     * @return null if the cell or its renderer is no more
+     * @return null if there is no such cell or renderer any more
      */
     static Component prepare(Target target) {
         Component owner = target.component();
@@ -41,7 +41,7 @@ public final class Cells {
             prepared = prepare((JList<?>) owner, target.row());
         }
         if (prepared != null && prepared.getParent() == null) {
-            // As large as it is painted, which only the painting itself would otherwise see to.
+            // Gives it the size that it is painted with, for otherwise only the painting would.
             prepared.setSize(at.width, at.height);
         }
         return prepared;

@@ -8,7 +8,10 @@ import java.util.List;
 
 import javax.swing.JMenu;
 
-/** What lies in a container: not the windows that it owns, but the items of a menu. For the event thread. */
+/**
+ * The components in a container. The windows that it owns are not among them, the items of a menu are. For the event
+ * thread.
+ */
 final class Children {
     private Children() {
     }
@@ -16,7 +19,7 @@ final class Children {
     static List<Component> of(Container container) {
         List<Component> children = new ArrayList<>(Arrays.asList(Facts.inside(container)));
         if (container instanceof JMenu && Code.overrider(container.getClass(), "getPopupMenu") == null) {
-            // Its popup is not a child of it, and is its child in all but name.
+            // The popup that holds a menu's items is not a child of the menu.
             children.addAll(of(((JMenu) container).getPopupMenu()));
         }
         return children;

@@ -64,7 +64,9 @@ public final class ClassFacts {
         return fullName;
     }
 
-    /** Whether the class's name contains a word in lower case: with its package only if the word has a dot. */
+    /**
+     * Whether the class's name contains a word, which is in lower case. The package counts only if the word has a dot.
+     */
     boolean isCalled(String word) {
         return word.indexOf('.') < 0 ? lowerName.contains(word) : lowerFullName.contains(word);
     }
@@ -78,7 +80,7 @@ public final class ClassFacts {
         return programs;
     }
 
-    /** Whether calling a method without parameters runs code of the toolkit's. */
+    /** Whether a call of a method without parameters runs the toolkit's own method. */
     boolean isToolkits(String method) {
         return written != null && !written.contains(method);
     }

@@ -9,8 +9,9 @@ import java.util.List;
 import javax.swing.JComponent;
 
 /**
- * Which client properties a component has. Nothing public tells; where the toolkit is open to us its table is read,
- * elsewhere the keys that the toolkit, its looks and feels, and many programs use are tried. For the event thread.
+ * Which client properties a component has. No public method lists them. Where the toolkit's module is open to us, its
+ * table is read; elsewhere the keys are tried that the toolkit, its looks and feels, and many programs use. For the
+ * event thread.
  */
 final class ClientProperties {
     private static final Field TABLE = Members.field(JComponent.class, "clientProperties");

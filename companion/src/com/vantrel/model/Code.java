@@ -15,15 +15,19 @@ import javax.swing.LookAndFeel;
 import javax.swing.UIManager;
 
 /**
- * Whose a class is, and what people call it. What is not the toolkit's is the program's, and may do anything when it is
- * called: so nothing here calls anything of the classes and objects that it is asked about. For any thread.
+ * Whether a class is the toolkit's or the program's, and what people call it. What is not the toolkit's counts as the
+ * program's, and may do anything when it is called: so nothing here calls a method of the classes and objects that it
+ * is asked about. For any thread.
  */
 public final class Code {
-    /** What the VM calls the class of a lambda or method reference: the name of the class that it stands in first. */
+    /**
+     * The VM's name of the class of a lambda or method reference. It begins with the name of the class that contains
+     * it.
+     */
     private static final Pattern LAMBDA = Pattern.compile("(.+?)\\$\\$Lambda.*");
     private static final Pattern NESTED = Pattern.compile("\\$(?=[^0-9$])");
 
-    /** Getters that the toolkit computes nothing with, but names, tooltips and popups. */
+    /** Getters that the toolkit uses for names, tooltips and popups only, and computes nothing else with. */
     private static final Set<String> ASIDE = new HashSet<>(Arrays.asList("getName", "getToolTipText",
             "getToolTipLocation", "getPopupLocation", "getAccessibleContext", "getUIClassID", "isFocusable"));
 
@@ -40,7 +44,9 @@ public final class Code {
         return loader;
     }
 
-    /** Whether a class is the JDK's. The inspector's own are nobody's business, and count as its, too. */
+    /**
+     * Whether a class is the JDK's. The inspector's own classes count as the JDK's: they interest the user as little.
+     */
     public static boolean isToolkit(Class<?> type) {
         ClassLoader loader = type.getClassLoader();
         return (loader == null || loader == PLATFORM) && !Proxy.isProxyClass(type);
@@ -70,8 +76,8 @@ public final class Code {
     }
 
     /**
-     * The program's class that has the say when a public or protected method is called, or null where that is the
-     * toolkit's. A class whose methods cannot be listed, because it mentions others that are not there, has it, too.
+     * The program's class whose method runs when a public or protected method is called; null if the toolkit's does. A
+     * class whose methods cannot be listed, because it mentions classes that are not there, is taken to have one.
      */
     public static Class<?> overrider(Class<?> type, String method, Class<?>... parameters) {
         for (Class<?> at = type; at != null && !isToolkit(at); at = at.getSuperclass()) {
@@ -91,11 +97,11 @@ public final class Code {
      * The program's class that overrides one of the getters that the toolkit computes with, or null. Whoever asks such
      * an object for its size may be asking the program for anything.
      */
-    static Class<?> getterOverrider(Class<?> type) {
+    public static Class<?> getterOverrider(Class<?> type) {
         return getterOverrider(type, Collections.emptySet());
     }
 
-    /** As above, for getters other than some. */
+    /** As above, leaving some getters out. */
     static Class<?> getterOverrider(Class<?> type, Set<String> but) {
         Class<?> toolkit = toolkitClass(type);
         for (Class<?> at = type; at != toolkit; at = at.getSuperclass()) {
@@ -157,7 +163,7 @@ public final class Code {
         return name.substring(name.lastIndexOf('.', end - 1) + 1, end);
     }
 
-    /** A component in a few words, class and name, and no call into the program. */
+    /** A component's class and name, such as {@code JTextField "amount"}. Calls no code of the program. */
     public static String describe(Component component) {
         String name = Facts.name(component);
         return shortName(component.getClass()) + (name == null ? "" : " \"" + name + "\"");

@@ -12,14 +12,12 @@ import java.util.function.Consumer;
 import java.util.function.Supplier;
 
 /**
- * All windows of the program with all that is in them, as rows to show: what is expanded, without the machinery unless
- * that is asked for, or what a search has found. Follows the program by comparing, so that whoever looks at it keeps
- * place. For the event thread.
+ * All windows of the program with all components in them, as rows to show: either what is expanded, without the
+ * machinery unless that is asked for, or what a search has found. It follows the program by comparing what is there
+ * with what was there before, so that a row stays the same row while its component stays. For the event thread.
  */
 public final class ComponentTree {
-    /**
-     * How many rows a window that has just come may take: a small one is expanded whole, a large one as far as this.
-     */
+    /** How many rows at most a window is expanded to when it has just come; a small one is expanded whole. */
     private static final int ROWS_OF_NEW_WINDOW = 200;
     private static final int ROWS_OF_OTHERS = 20;
 
@@ -32,12 +30,12 @@ public final class ComponentTree {
     /** Machinery that is shown all the same: the selected component, and the parts that it is in. */
     private final List<TreeNode> revealed = new ArrayList<>();
 
-    /** @param windows answers with the windows that nothing else owns, in their order, ours not among them */
+    /** @param windows gives the program's windows that have no owner, in order, without ours */
     public ComponentTree(Supplier<? extends Component[]> windows) {
         this.windows = windows;
     }
 
-    /** What is to be seen, from top to bottom. Not to be changed; a list once handed out stays as it is. */
+    /** The rows to show, from top to bottom. An unmodifiable list that later changes leave as it is. */
     public List<TreeNode> rows() {
         return rows;
     }
@@ -56,7 +54,7 @@ public final class ComponentTree {
         layOut();
     }
 
-    /** Looks at the program again. Returns whether the rows may be others now. */
+    /** Looks at the program again. Returns whether the rows may have changed. */
     public boolean refresh() {
         boolean changed = top.readChildren(windows.get());
         List<TreeNode> newcomers = new ArrayList<>();
@@ -113,7 +111,10 @@ public final class ComponentTree {
         return number[0];
     }
 
-    /** What would be a node's rows if it were expanded: its children, and in the place of machinery what is in that. */
+    /**
+     * Goes through the rows that a node would have if it were expanded: its children, but instead of machinery what is
+     * in that.
+     */
     private void eachRowIn(TreeNode node, Consumer<TreeNode> consumer) {
         for (TreeNode child : node.children()) {
             if (!isFolded(child)) {
@@ -196,7 +197,7 @@ public final class ComponentTree {
         layOut();
     }
 
-    /** All nodes that may be rows, as they follow each other if everything is expanded. */
+    /** All nodes that would be rows if everything were expanded, in that order. */
     List<TreeNode> all() {
         List<TreeNode> all = new ArrayList<>(count);
         addAll(top, all);
@@ -230,7 +231,7 @@ public final class ComponentTree {
         return node == top ? null : node;
     }
 
-    /** The row that a row is in; null for one at the top. */
+    /** The row that a row is indented below; null for one at the top. */
     public TreeNode parentOf(TreeNode node) {
         TreeNode at = node.parent();
         while (at != null && at != top && isFolded(at)) {
@@ -239,7 +240,10 @@ public final class ComponentTree {
         return at == top ? null : at;
     }
 
-    /** Makes sure that there is a row for a node, machinery or not, whatever is collapsed; null for nothing special. */
+    /**
+     * Makes sure that there is a row for a node, machinery or not, whatever is collapsed. Null: no row is forced any
+     * more.
+     */
     public void reveal(TreeNode node) {
         revealed.clear();
         if (node != null) {
@@ -257,7 +261,7 @@ public final class ComponentTree {
         layOut();
     }
 
-    /** Shows what a search has found, and what it is in, and nothing else; null for everything again. */
+    /** Shows only what a search has found and what contains it; null shows everything again. */
     void showOnly(Collection<TreeNode> found) {
         searched = found != null;
         Deque<TreeNode> open = new ArrayDeque<>(top.children());

@@ -15,7 +15,7 @@ import javax.swing.ScrollPaneConstants;
 import javax.swing.SwingConstants;
 import javax.swing.WindowConstants;
 
-/** The names of numbers that stand for something, by the property that has them. */
+/** The names of numeric constants, such as LEFT and CENTER, by the property that they are values of. */
 final class Constants {
     private static final Map<String, Format> BY_PROPERTY = new HashMap<>();
 

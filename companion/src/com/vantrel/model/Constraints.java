@@ -17,10 +17,10 @@ import java.util.regex.Pattern;
 import javax.swing.JLayeredPane;
 
 /**
- * What a component's parent was told about where to put it, for those layout managers that can be asked: as text, and
- * changed. For the event thread.
+ * A component's layout constraints, for the layout managers that can be asked for them: reads them, writes them as
+ * text, and sets them. For the event thread.
  */
-final class Constraints {
+public final class Constraints {
     private static final List<String> REGIONS = Arrays.asList(BorderLayout.CENTER, BorderLayout.NORTH,
             BorderLayout.SOUTH, BorderLayout.WEST, BorderLayout.EAST, BorderLayout.PAGE_START, BorderLayout.PAGE_END,
             BorderLayout.LINE_START, BorderLayout.LINE_END);
@@ -36,7 +36,10 @@ final class Constraints {
     private static final Format LAYER =
             Format.typed("a layer: type a whole number", String::valueOf, (text, old) -> Integer.valueOf(text.trim()));
 
-    /** The library takes texts and objects of its own; those are replaced by a text, never edited as one. */
+    /**
+     * MigLayout's constraints are texts, or objects of its own. Such an object is shown as an empty text: it can be
+     * replaced by one, but not edited.
+     */
     private static final Format TEXT =
             Format.typed("a text", value -> value instanceof String ? (String) value : "", (text, old) -> text);
 
@@ -65,7 +68,7 @@ final class Constraints {
     }
 
     /** A component's constraints; null if it has none. */
-    static Object of(Component component) throws Throwable {
+    public static Object of(Component component) throws Throwable {
         Container parent = component.getParent();
         LayoutManager layout = parent == null ? null : parent.getLayout();
         if (layout instanceof BorderLayout) {
@@ -96,7 +99,9 @@ final class Constraints {
         }
     }
 
-    /** Two components in one region would leave the one that was there without a place, for good. */
+    /**
+     * Refuses a region that is taken: the component there would be without a place from then on, even after an undo.
+     */
     private static void setRegion(BorderLayout layout, Container parent, Component component, Object region) {
         Component there = region == null ? null : layout.getLayoutComponent(region);
         if (there != null && there != component && there.getParent() == parent) {
@@ -108,7 +113,7 @@ final class Constraints {
         }
     }
 
-    /** What of the constraints differs from the default, and always the place. */
+    /** The constraints as text: always the cell, and whatever else differs from the default. */
     static String write(GridBagConstraints at) {
         GridBagConstraints usual = new GridBagConstraints();
         StringBuilder text = new StringBuilder();

@@ -1,27 +1,26 @@
 package com.vantrel.model;
 
 import java.awt.Component;
+import java.awt.Container;
 import java.awt.KeyboardFocusManager;
 import java.awt.Rectangle;
+import java.awt.Window;
 import java.util.ArrayList;
 import java.util.List;
+
+import javax.swing.JLayeredPane;
 
 import com.vantrel.stacktrace.StackTraceManager;
 
 /** A component in words, to paste into a report or a script. Runs nothing of the program. For the event thread. */
 public final class Description {
     private static final int MOST_FRAMES = 12;
+    private static final int MOST_WORDS = 4;
 
     private Description() {
     }
 
-    /** A component's class and name, such as {@code JTextField "amount"}. */
-    public static String label(Component component) {
-        String name = Facts.name(component);
-        return ClassFacts.of(component.getClass()).name() + (name == null ? "" : " \"" + name + "\"");
-    }
-
-    /** The components that a component is in, from its window on, itself the last; without the machinery. */
+    /** The way to a component, from its window through the containers to itself, without the machinery. */
     public static List<Component> path(Component component) {
         List<Component> path = new ArrayList<>();
         for (Component at = component; at != null; at = Facts.parent(at)) {
@@ -39,12 +38,64 @@ public final class Description {
     public static String pathText(Component component) {
         StringBuilder text = new StringBuilder();
         for (Component at : path(component)) {
-            text.append(text.length() == 0 ? "" : " > ").append(label(at));
+            text.append(text.length() == 0 ? "" : " > ").append(Code.describe(at));
             if (Facts.name(at) == null && Facts.parent(at) != null) {
                 text.append('[').append(number(at)).append(']');
             }
         }
         return text.toString();
+    }
+
+    /**
+     * A component in as few words as tell it from others: {@code JPanel "form"}, or {@code JPanel "form" > JLabel[2]}
+     * where it has no name itself and is of no class of the program; a window by its title, and its content pane as
+     * that.
+     */
+    public static String shortPath(Component component) {
+        List<String> words = new ArrayList<>();
+        Component at = component;
+        while (!saysEnough(at)) {
+            words.add(0, Code.describe(at) + '[' + number(at) + ']');
+            at = owner(at);
+        }
+        words.add(0, words(at));
+        if (words.size() > MOST_WORDS) {
+            words.subList(1, words.size() - MOST_WORDS + 2).clear();
+            words.add(1, "\u2026");
+        }
+        return String.join(" > ", words);
+    }
+
+    /** Whether a component need not be told from its siblings by what it is in. */
+    private static boolean saysEnough(Component component) {
+        return component instanceof Window || Facts.parent(component) == null || Facts.name(component) != null
+                || ClassFacts.of(component.getClass()).isPrograms();
+    }
+
+    private static String words(Component component) {
+        Container parent = Facts.parent(component);
+        boolean isWindow = component instanceof Window;
+        String title = isWindow && Facts.name(component) == null ? Facts.text(component) : null;
+        if (title != null) {
+            return Code.describe(component) + " titled \"" + title + "\"";
+        }
+        if (isWindow || parent == null) {
+            return Code.describe(component);
+        }
+        if (Machinery.of(component, parent) == Machinery.BETWEEN && parent instanceof JLayeredPane) {
+            return "the content pane of " + shortPath(owner(component));
+        }
+        return Facts.name(component) != null ? Code.describe(component)
+                                             : Code.describe(component) + '[' + number(component) + ']';
+    }
+
+    /** The nearest container around a component that is not machinery. */
+    private static Component owner(Component component) {
+        Container at = Facts.parent(component);
+        while (Facts.parent(at) != null && Machinery.of(at, Facts.parent(at)) != Machinery.NO) {
+            at = Facts.parent(at);
+        }
+        return at;
     }
 
     private static int number(Component component) {
@@ -58,9 +109,11 @@ public final class Description {
         return number;
     }
 
-    /** Everything that whoever reads a report would ask: which component, where, how it is, and where it was added. */
+    /**
+     * Everything that a reader of a report would ask for: which component, where, how it is, and where it was added.
+     */
     public static String of(Component component) {
-        StringBuilder text = new StringBuilder(label(component)).append('\n');
+        StringBuilder text = new StringBuilder(Code.describe(component)).append('\n');
         line(text, "class", component.getClass().getName());
         line(text, "path", pathText(component));
         line(text, "text", Facts.text(component));

@@ -10,11 +10,11 @@ import java.util.regex.Matcher;
 import java.util.regex.Pattern;
 
 /**
- * Opens lines in the user's editor: {@link #COMMAND} is the command, {@link #SOURCES} says where source files are.
- * All waiting is done by a thread of its own.
+ * Opens lines in the user's editor: {@link #COMMAND} is the command, {@link #SOURCES} says where source files are. Each
+ * attempt has a thread of its own, because it may have to wait.
  */
 public final class Editor {
-    /** Settings; the second one is a list like a class path. */
+    /** Names of {@link Settings}. The source folders are separated as in a class path. */
     public static final String COMMAND = "editor";
     public static final String SOURCES = "sources";
 
@@ -37,7 +37,10 @@ public final class Editor {
         }
     }
 
-    /** In an exception's text: "error=2, No such file" or, on newer VMs, "error: 2 (No such file)". */
+    /**
+     * The system's reason in the text of an exception: "error=2, No such file" or, on newer VMs, "error: 2 (No such
+     * file)".
+     */
     private static final Pattern REASON = Pattern.compile("error[=:] ?\\d+[ ,(]+([^)]+)");
 
     private Editor() {
@@ -61,7 +64,7 @@ public final class Editor {
             } catch (IllegalArgumentException | IOException e) {
                 told.accept(new Outcome(e.getMessage(), true));
             } catch (InterruptedException e) {
-                // Somebody ends all threads; whether the editor fails is of no interest any more.
+                // Somebody ends all threads, so nobody waits for the editor's status any more.
             }
         }, "vantrel-editor");
         thread.setDaemon(true);
@@ -96,7 +99,9 @@ public final class Editor {
         }
     }
 
-    /** An editor that runs on Java would have the inspector, too, where this program was given it by a variable. */
+    /**
+     * Where the agent came into this program by an environment variable, an editor that runs on Java would inherit it.
+     */
     private static void leaveOutTheAgent(Map<String, String> environment) {
         String options = environment.get("JAVA_TOOL_OPTIONS");
         if (options != null && options.contains("vantrel-agent")) {

@@ -14,13 +14,13 @@ import javax.swing.border.CompoundBorder;
 import javax.swing.border.TitledBorder;
 
 /**
- * What the user has changed in the program, to be undone and done again: each through the component's own setter, on
- * the component's event thread. Belongs to the inspector's event thread. Holds components weakly.
+ * Changes properties of the program's components for the user, and undoes and redoes those changes: by the component's
+ * own setter, on the component's event thread. To be called on the inspector's event thread. Holds components weakly.
  */
 public final class Edits {
     private static final int MOST_REMEMBERED = 200;
 
-    /** One change. A failing one leaves the value that was there. */
+    /** One change, which has been made. */
     private static final class Edit {
         final WeakReference<Component> component;
         final String what;
@@ -36,7 +36,10 @@ public final class Edits {
             this.after = after;
         }
 
-        /** Whether it is to be forgotten. What the program has made may lead back to the component, and keep it. */
+        /**
+         * Whether it is to be forgotten: its component has been collected, or is in no window any more while a value of
+         * a class of the program's could keep it from being collected.
+         */
         boolean isGone() {
             Component at = component.get();
             return at == null || !at.isDisplayable() && (mayHoldComponents(before) || mayHoldComponents(after));
@@ -75,7 +78,7 @@ public final class Edits {
         listeners.add(listener);
     }
 
-    /** Says who is told, in a sentence, when an undo or redo fails. */
+    /** Sets who is told, in a sentence, when an undo or redo fails. */
     public void onComplaint(Consumer<String> listener) {
         complaints = listener;
     }
@@ -150,7 +153,7 @@ public final class Edits {
         });
     }
 
-    /** Forgets the changes of components that are no more, or of which nothing must be held any more. */
+    /** Forgets the changes whose components are gone, and those that could keep theirs from being collected. */
     public void forgetGone() {
         forgetGone(done.iterator());
         forgetGone(undone.iterator());
@@ -199,7 +202,7 @@ public final class Edits {
         try {
             property.write(component, value);
         } catch (Throwable thrown) {
-            // A setter may have done half of it before a listener threw.
+            // The setter may have stored the value before a listener of the program threw.
             if (restore) {
                 try {
                     property.write(component, before);

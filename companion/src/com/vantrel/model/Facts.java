@@ -1,5 +1,6 @@
 package com.vantrel.model;
 
+import java.awt.AWTEvent;
 import java.awt.Button;
 import java.awt.Checkbox;
 import java.awt.Component;
@@ -7,6 +8,7 @@ import java.awt.Container;
 import java.awt.Dialog;
 import java.awt.Frame;
 import java.awt.Label;
+import java.awt.LayoutManager;
 import java.awt.Rectangle;
 import java.awt.TextComponent;
 import java.awt.Window;
@@ -26,14 +28,16 @@ import javax.swing.text.Document;
 import javax.swing.text.JTextComponent;
 
 /**
- * What is asked of every component unasked, again and again. Never runs code of the program: where a class of the
- * program has written the method, the toolkit's field is read instead, and where that cannot be read the answer is that
- * there is nothing. A component that throws, blocks or lies when it is asked is shown like any other. For the event
- * thread.
+ * What the inspector reads of every component, again and again, without being told to. It never runs code of the
+ * program: where a class of the program overrides the method, the toolkit's own field is read instead; where that
+ * cannot be read, the answer is a default. So a component whose methods throw, block or lie is shown like any other.
+ * For the event thread.
  */
 public final class Facts {
     private static final Component[] NONE = new Component[0];
-    /** Nobody reads more in a row, and a document may hold a book. */
+    private static final long MOUSE =
+            AWTEvent.MOUSE_EVENT_MASK | AWTEvent.MOUSE_MOTION_EVENT_MASK | AWTEvent.MOUSE_WHEEL_EVENT_MASK;
+    /** Longer texts are cut: a row shows no more, and a document may hold a book. */
     private static final int LONGEST_TEXT = 200;
 
     private Facts() {
@@ -101,6 +105,24 @@ public final class Facts {
         return toolkits(component, "isVisible") ? component.isVisible() : (Boolean) Fields.VISIBLE.of(component, true);
     }
 
+    /** A container's layout manager; null for none. */
+    public static LayoutManager layout(Container container) {
+        return toolkits(container, "getLayout") ? container.getLayout()
+                                                : (LayoutManager) Fields.LAYOUT.of(container, null);
+    }
+
+    /** Whether nothing in a container has changed since it was laid out. */
+    public static boolean isValid(Component component) {
+        return toolkits(component, "isValid") ? component.isValid() : (Boolean) Fields.VALID.of(component, true);
+    }
+
+    /** Whether a component takes events of the mouse, which would otherwise go to what lies below it. */
+    public static boolean takesMouse(Component component) {
+        long mask = (Long) Fields.EVENT_MASK.of(component, 0L);
+        return (mask & MOUSE) != 0 || Fields.MOUSE.of(component, null) != null
+                || Fields.MOUSE_MOTION.of(component, null) != null || Fields.MOUSE_WHEEL.of(component, null) != null;
+    }
+
     public static boolean isEnabled(Component component) {
         return toolkits(component, "isEnabled") ? component.isEnabled() : (Boolean) Fields.ENABLED.of(component, true);
     }
@@ -119,7 +141,7 @@ public final class Facts {
         try {
             return textOf(component);
         } catch (BadLocationException | RuntimeException e) {
-            return null; // a document or peer that is just being changed
+            return null; // the document or peer is just being changed
         }
     }
 
@@ -197,14 +219,14 @@ public final class Facts {
         if (!(component instanceof JComponent)) {
             return null;
         }
-        // Of which the method of the same purpose is only a reader.
+        // Where setToolTipText() keeps it; getToolTipText() may be the program's.
         Object text = ((JComponent) component).getClientProperty(JComponent.TOOL_TIP_TEXT_KEY);
         return text instanceof String ? cut((String) text) : null;
     }
 
     /**
-     * The accessible name that was set on a component; null for none. A component that has not been asked for its
-     * accessible side before is not asked now either: that makes one, which listens to models.
+     * The accessible name that was set on a component; null for none. A component that has no accessible context yet is
+     * not asked for one, because it would make one, which would listen to its models.
      */
     static String accessibleName(Component component) {
         Object context = Fields.ACCESSIBLE.of(component, null);

@@ -4,9 +4,9 @@ import java.awt.Component;
 import java.lang.reflect.Field;
 
 /**
- * A field of the toolkit's, for what a program's class answers in its own way when it is asked by method. Reading it
- * runs nothing. Whether it can be read is the VM's business: its module may not be open to us, or the field not be
- * there; who asks says what holds then. For any thread.
+ * Private fields of the toolkit's classes, read where a class of the program overrides the getter: reading a field runs
+ * no code. A field cannot be read where its module is closed to us, or where the VM's version of the class has no such
+ * field; the caller says what to assume then. For any thread.
  */
 final class Fields {
     static final Fields NAME = new Fields(Component.class, "name");
@@ -14,11 +14,17 @@ final class Fields {
     static final Fields PARENT = new Fields(Component.class, "parent");
     static final Fields VISIBLE = new Fields(Component.class, "visible");
     static final Fields ENABLED = new Fields(Component.class, "enabled");
+    static final Fields VALID = new Fields(Component.class, "valid");
+    static final Fields EVENT_MASK = new Fields(Component.class, "eventMask");
+    static final Fields MOUSE = new Fields(Component.class, "mouseListener");
+    static final Fields MOUSE_MOTION = new Fields(Component.class, "mouseMotionListener");
+    static final Fields MOUSE_WHEEL = new Fields(Component.class, "mouseWheelListener");
     static final Fields X = new Fields(Component.class, "x");
     static final Fields Y = new Fields(Component.class, "y");
     static final Fields WIDTH = new Fields(Component.class, "width");
     static final Fields HEIGHT = new Fields(Component.class, "height");
     static final Fields CHILDREN = new Fields(java.awt.Container.class, "component");
+    static final Fields LAYOUT = new Fields(java.awt.Container.class, "layoutMgr");
     static final Fields LABEL_TEXT = new Fields(javax.swing.JLabel.class, "text");
     static final Fields BUTTON_TEXT = new Fields(javax.swing.AbstractButton.class, "text");
     static final Fields FRAME_TITLE = new Fields(java.awt.Frame.class, "title");

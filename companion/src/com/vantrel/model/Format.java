@@ -52,7 +52,7 @@ public final class Format {
         });
     }
 
-    /** As above, where there are values beside those to choose from that can be written, too. */
+    /** As above, for a property that may have other values than those to choose from; the writer writes those, too. */
     static Format chosen(List<?> values, List<String> names, Writer writer) {
         Parser parser = (text, old) -> {
             int at = names.indexOf(text);
@@ -92,8 +92,8 @@ public final class Format {
         try {
             return parser.parse(text, old);
         } catch (IllegalArgumentException e) {
-            // A parser that knows better than to name what it expects has a message; a number's has one, too, of no
-            // use.
+            // A parser that can say more than what is expected does so in its message. That of a NumberFormatException
+            // is of no use to a user.
             boolean own = e.getMessage() != null && !(e instanceof NumberFormatException);
             throw new IllegalArgumentException(
                     own ? e.getMessage() : "\u201c" + text + "\u201d is not " + expects + ".", e);

@@ -22,7 +22,7 @@ import java.util.regex.Pattern;
 import javax.swing.border.Border;
 
 /** The formats of the types that can be typed or chosen. Stateless, for any thread. */
-final class Formats {
+public final class Formats {
     private static final Pattern NUMBER = Pattern.compile("[+-]?\\d+");
     private static final Pattern NUMBERS = Pattern.compile("[\\s,;x\u00d7+\\d-]+");
     private static final Pattern HEX = Pattern.compile("#?([0-9a-fA-F]{3}|[0-9a-fA-F]{6}|[0-9a-fA-F]{8})");
@@ -138,19 +138,21 @@ final class Formats {
         return insets.top + ", " + insets.left + ", " + insets.bottom + ", " + insets.right;
     }
 
-    static String write(Dimension size) {
+    public static String write(Dimension size) {
         return size(size.width, size.height);
     }
 
-    static String write(Rectangle at) {
+    public static String write(Rectangle at) {
         return at.x + ", " + at.y + ", " + size(at.width, at.height);
     }
 
-    static String size(int width, int height) {
+    public static String size(int width, int height) {
         return extent(width) + " \u00d7 " + extent(height);
     }
 
-    /** A width or height. The toolkit means "as large as you like" by a few values that nobody reads as that. */
+    /**
+     * A width or height. Short.MAX_VALUE and more are the toolkit's "as large as you like", and written as infinite.
+     */
     static String extent(int length) {
         return length >= Short.MAX_VALUE ? "\u221e" : Integer.toString(length);
     }
@@ -196,7 +198,7 @@ final class Formats {
         }
         require(!family.isEmpty());
         Font font = new Font(family, style, 1).deriveFont(size);
-        // What the toolkit falls back to for a family that it has not got.
+        // The toolkit falls back to this family where it has not got the one asked for.
         if (font.getFamily(Locale.ROOT).equals(Font.DIALOG) && !family.equalsIgnoreCase(Font.DIALOG)) {
             throw new IllegalArgumentException("There is no font family \u201c" + family + "\u201d on this machine.");
         }
@@ -213,7 +215,7 @@ final class Formats {
         return text.trim().isEmpty() ? null : otherwise.get();
     }
 
-    /** Whole numbers with anything between them that people put there. */
+    /** Whole numbers, with anything between them that people write between numbers. */
     private static int[] numbers(String text, int count) {
         String plain = text.replace("\u221e", Integer.toString(Short.MAX_VALUE));
         require(NUMBERS.matcher(plain).matches());

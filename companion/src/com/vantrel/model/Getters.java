@@ -14,16 +14,16 @@ import java.util.Map;
 import java.util.Set;
 
 /**
- * The properties that a class of components has by its public getters and setters, found without asking the program:
- * no bean info of its is loaded, no method called. For any thread.
+ * The properties that a class of components has by its public getters and setters, found without calling the program:
+ * none of its BeanInfo classes is loaded. For any thread.
  */
 final class Getters {
     /** One getter, and the setter that belongs to it. */
     static final class Getter {
         final String name;
-        /** As the class itself declares it; a method that is overridden may promise less. */
+        /** As the lowest class declares it: the methods that it overrides may declare a less specific type. */
         final Class<?> type;
-        /** The topmost declaration: that is where its class can be reached from. */
+        /** The topmost declaration, in a class that is public even if those below are not. */
         Method method;
         /** The lowest class of the program's that declares it; null if the toolkit alone does. */
         Class<?> programs;
@@ -35,7 +35,10 @@ final class Getters {
         }
     }
 
-    /** What is told elsewhere, cannot be told in a line, or is made anew, looked up or waited for when it is asked. */
+    /**
+     * Properties that are shown elsewhere or do not fit in a line, and those whose getters make, look up or wait for
+     * something.
+     */
     private static final Set<String> LEFT_OUT = new HashSet<>(Arrays.asList("class", "graphics", "treeLock", "toolkit",
             "inputContext", "inputMethodRequests", "peer", "colorModel", "components", "parent", "rootPane",
             "topLevelAncestor", "accessibleContext", "actionMap", "inputMap", "registeredKeyStrokes",
@@ -71,7 +74,7 @@ final class Getters {
 
     private static List<Method> publicMethods(Class<?> type) {
         List<Method> methods = new ArrayList<>();
-        // Those of the toolkit's inner classes cannot be called, and are declared further up as well.
+        // Methods of the toolkit's internal classes cannot be called, and public classes above declare the same ones.
         if (Code.isToolkit(type) && (!Modifier.isPublic(type.getModifiers()) || !isApi(type))) {
             return methods;
         }
@@ -85,7 +88,7 @@ final class Getters {
         } catch (LinkageError e) {
             // The class mentions another one that is not there: it has no methods that could be listed.
         }
-        // The VM lists them in any order, and another one each time that it starts.
+        // The VM's order differs from one start to the next.
         methods.sort((one, other) -> one.getName().compareTo(other.getName()));
         return methods;
     }

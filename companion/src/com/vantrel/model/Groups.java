@@ -3,6 +3,7 @@ package com.vantrel.model;
 import java.awt.Component;
 import java.lang.reflect.Field;
 import java.util.ArrayList;
+import java.util.Collections;
 import java.util.List;
 
 import javax.swing.GroupLayout;
@@ -11,16 +12,14 @@ import javax.swing.GroupLayout;
  * The groups of a GroupLayout, which it keeps to itself: read where the toolkit's module is open to us. For the event
  * thread.
  */
-final class Groups {
+public final class Groups {
     private static final Field HORIZONTAL = Members.field(GroupLayout.class, "horizontalGroup");
     private static final Field VERTICAL = Members.field(GroupLayout.class, "verticalGroup");
 
     private Groups() {
     }
 
-    /**
-     * A line for each direction: what stands in brackets comes after each other, what stands in braces side by side.
-     */
+    /** Adds a row for each direction, with sequential groups in brackets and parallel groups in braces. */
     static void describe(List<Row> rows, String group, GroupLayout layout) throws Throwable {
         if (HORIZONTAL == null || VERTICAL == null) {
             rows.add(Row.of(group, "groups", "not seen")
@@ -35,6 +34,31 @@ final class Groups {
                 layout.getAutoCreateGaps() + " between, " + layout.getAutoCreateContainerGaps() + " around"));
     }
 
+    /**
+     * The sizes that the program has given a child for one direction, such as {@code default..90..\u221e}; empty where
+     * it has given none, or the layout keeps them to itself.
+     */
+    public static String told(GroupLayout layout, Component child, boolean horizontally) throws IllegalAccessException {
+        Field group = horizontally ? HORIZONTAL : VERTICAL;
+        Object spring = group == null ? null : find(group.get(layout), child);
+        return spring == null ? "" : sizes(spring).trim();
+    }
+
+    private static Object find(Object spring, Component child) throws IllegalAccessException {
+        Field component = field(spring, "component");
+        if (component != null) {
+            return component.get(spring) == child ? spring : null;
+        }
+        Field springs = field(spring, "springs");
+        for (Object part : springs == null ? Collections.emptyList() : (List<?>) springs.get(spring)) {
+            Object found = find(part, child);
+            if (found != null) {
+                return found;
+            }
+        }
+        return null;
+    }
+
     private static String text(Object spring) throws Throwable {
         StringBuilder text = new StringBuilder();
         write(text, spring);
@@ -46,7 +70,7 @@ final class Groups {
         if (springs != null) {
             List<?> parts = (List<?>) springs.get(spring);
             if (parts.size() == 1) {
-                write(text, parts.get(0)); // the layout puts one around what the program has given it
+                write(text, parts.get(0)); // the layout wraps the program's group in one of its own
                 return;
             }
             boolean sequential = spring instanceof GroupLayout.SequentialGroup;

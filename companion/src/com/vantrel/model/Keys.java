@@ -28,8 +28,8 @@ import javax.swing.plaf.UIResource;
 import javax.swing.text.JTextComponent;
 
 /**
- * Which keys do what in a component: the input maps of all three conditions, its own and those up its parents, and
- * which of them would take a key. For the event thread.
+ * Which keys do what in a component: the bindings in its own input maps and in those of its parents, for all three
+ * conditions, and which of them would take a key. For the event thread.
  */
 public final class Keys {
     private static final String[] CONDITIONS = {
@@ -39,7 +39,9 @@ public final class Keys {
     private Keys() {
     }
 
-    /** All bindings that could take a key while a component has the focus, in the order in which they are asked. */
+    /**
+     * All bindings that could take a key while a component has the focus, in the order in which the toolkit tries them.
+     */
     public static List<Row> of(Component component) {
         List<Row> rows = new ArrayList<>();
         for (Place place : places(component)) {
@@ -68,7 +70,7 @@ public final class Keys {
         }
     }
 
-    /** In the order in which the toolkit asks them. */
+    /** In the order in which the toolkit tries them. */
     private static List<Place> places(Component focused) {
         List<Place> places = new ArrayList<>();
         if (focused instanceof JComponent) {
@@ -89,7 +91,7 @@ public final class Keys {
         return places;
     }
 
-    /** Menu bars come last, whatever lies in the window. */
+    /** The toolkit tries menu bars after everything else in the window. */
     private static void addWindow(List<Place> places, Container window, Component focused) {
         List<Place> inWindow = new ArrayList<>();
         List<Place> inMenus = new ArrayList<>();
@@ -111,7 +113,10 @@ public final class Keys {
         }
     }
 
-    /** Whether there is a map to ask for: one that is asked for is made, and the program's is not to be changed. */
+    /**
+     * Whether a component has an input map for a condition. Asking for one that is missing would create it, and so
+     * change the program.
+     */
     private static boolean hasStrokes(JComponent component, int condition) {
         if (Code.overrider(component.getClass(), "getRegisteredKeyStrokes") != null) {
             return true;
@@ -119,7 +124,7 @@ public final class Keys {
         KeyStroke[] strokes = component.getRegisteredKeyStrokes();
         Set<KeyStroke> seen = new HashSet<>();
         for (KeyStroke stroke : strokes) {
-            // A stroke that is in two maps is listed twice, and told to be in the first one.
+            // A stroke that is in two maps is listed twice, but its condition is that of the first map both times.
             if (!seen.add(stroke) || component.getConditionForKeyStroke(stroke) == condition) {
                 return true;
             }
@@ -181,7 +186,7 @@ public final class Keys {
             }
             for (InputMap map = place.map; map != null; map = map.getParent()) {
                 if (map.keys() != null && Arrays.asList(map.keys()).contains(stroke)) {
-                    // A text component's keymap is a map of a class of its own.
+                    // The wrapper of a text component's keymap is of another class, and not the program's.
                     return !(map instanceof UIResource)
                             && (map.getClass() == InputMap.class || map.getClass() == ComponentInputMap.class);
                 }
@@ -189,7 +194,7 @@ public final class Keys {
             return false;
         }
 
-        /** What keeps it from taking its key; null if nothing does. */
+        /** Why it would not take its key; null if it would. */
         String hindrance() {
             if (action == null) {
                 return "no action of this name";
@@ -208,7 +213,7 @@ public final class Keys {
             }
         }
 
-        /** A menu's items need not show: their menu bar must. */
+        /** A menu item takes its accelerator while its menu is closed, as long as the menu bar shows. */
         private static boolean isReachable(Component component) {
             for (Component at = component; at != null;
                     at = at instanceof JPopupMenu ? ((JPopupMenu) at).getInvoker() : at.getParent()) {
@@ -219,7 +224,10 @@ public final class Keys {
             return component.isShowing();
         }
 
-        /** The toolkit's actions are nested in the classes that people know. */
+        /**
+         * The name of an action's class. The toolkit's actions are nested in classes that people know, so it is the
+         * outermost one's.
+         */
         private static String actor(Class<?> type) {
             Class<?> outermost = type;
             while (Code.isToolkit(type) && outermost.getEnclosingClass() != null) {
@@ -259,7 +267,7 @@ public final class Keys {
         return rows;
     }
 
-    /** Adds those for a stroke; returns whether it moves the focus. */
+    /** Adds the rows for one stroke. Returns whether it moves the focus. */
     private static boolean takers(List<Row> rows, String group, Component component, KeyStroke stroke) {
         if (addTraversal(rows, group, component, stroke)) {
             return true;
@@ -295,7 +303,7 @@ public final class Keys {
         return false;
     }
 
-    /** Keys that move the focus never reach a binding. */
+    /** Adds a row if the key moves the focus: such a key never reaches a binding. */
     private static boolean addTraversal(List<Row> rows, String group, Component component, KeyStroke stroke) {
         if (!component.getFocusTraversalKeysEnabled()) {
             return false;

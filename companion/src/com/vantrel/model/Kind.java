@@ -43,7 +43,10 @@ import javax.swing.JToolBar;
 import javax.swing.JTree;
 import javax.swing.text.JTextComponent;
 
-/** The kinds of component that people tell apart at a glance. */
+/**
+ * The kinds of component that people tell apart at a glance. The first one that fits counts, so subclasses come before
+ * their superclasses: a JCheckBox is a button, too.
+ */
 public enum Kind {
     FRAME(Frame.class, JInternalFrame.class, JInternalFrame.JDesktopIcon.class),
     DIALOG(Dialog.class),

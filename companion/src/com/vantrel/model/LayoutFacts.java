@@ -7,7 +7,7 @@ import java.awt.Rectangle;
 import java.util.ArrayList;
 import java.util.List;
 
-/** Why a component is as large as it is and where it is, in lines. For the event thread. */
+/** Why a component has its size and its place, in rows. For the event thread. */
 public final class LayoutFacts {
     private static final String SIZE = "Size";
     private static final String PARENT = "In its parent";
@@ -18,7 +18,7 @@ public final class LayoutFacts {
     private LayoutFacts() {
     }
 
-    /** @param reading of the component; what it has not read is not told */
+    /** @param reading what was read of the component; what it has not read has no row */
     public static List<Row> of(Reading reading) {
         List<Row> rows = new ArrayList<>();
         Component component = reading.target().component();

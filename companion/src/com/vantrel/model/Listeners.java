@@ -55,7 +55,7 @@ public final class Listeners {
                         models.put(name.toLowerCase(Locale.ROOT), model);
                     }
                 } catch (Throwable thrown) {
-                    // Without it there is nothing to be said of who listens to it.
+                    // Then there is no model whose listeners could be told.
                 }
             }
         }
@@ -84,7 +84,7 @@ public final class Listeners {
         }
     }
 
-    /** The methods that the toolkit declares and everybody may call, in a lasting order. */
+    /** The public methods that the toolkit's public classes declare, always in the same order. */
     private static List<Method> publicMethods(Class<?> type) {
         List<Method> methods = new ArrayList<>();
         for (Class<?> at = Code.toolkitClass(type); at != null; at = at.getSuperclass()) {
@@ -149,7 +149,7 @@ public final class Listeners {
         if (programs) {
             return Row.of(kind, name, from).note(note).type(called.getClass().getName()).programs(true);
         }
-        // One group for all of the toolkit's, in which the kind of event has to be said in each line.
+        // All of the toolkit's listeners are in one group, so each row must say the kind of event.
         return Row.of("The toolkit's own", kind, from).note(note).type(called.getClass().getName()).folded();
     }
 

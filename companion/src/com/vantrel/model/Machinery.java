@@ -23,7 +23,7 @@ import javax.swing.plaf.basic.BasicSplitPaneDivider;
  * What Swing and the look and feel put into a window of their own accord, and what people would rather not see while
  * they look for their own components.
  */
-enum Machinery {
+public enum Machinery {
     /** Somebody's own component. */
     NO,
     /** Stands between a component and its real content: a root pane, a viewport. */
@@ -32,7 +32,7 @@ enum Machinery {
     PART;
 
     /** What a component is in its parent. Classes of the program are never machinery. */
-    static Machinery of(Component component, Container parent) {
+    public static Machinery of(Component component, Container parent) {
         if (ClassFacts.of(component.getClass()).isPrograms()) {
             return NO;
         }
@@ -60,7 +60,10 @@ enum Machinery {
         return scrolls || arrow ? PART : NO;
     }
 
-    /** The glass pane and content pane that every window begins with: other classes are somebody's choice. */
+    /**
+     * The glass pane and content pane that every window begins with are plain panels. One of another class is the
+     * program's choice.
+     */
     private static Machinery ofPanel(Component panel, Container parent) {
         if (panel.getClass() == JPanel.class && parent instanceof JRootPane) {
             return Facts.isVisible(panel) ? NO : PART;

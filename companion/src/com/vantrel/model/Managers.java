@@ -27,7 +27,7 @@ import javax.swing.plaf.UIResource;
  * What there is to know of a layout manager: what it was set to, and what it was told of one child. For the event
  * thread.
  */
-final class Managers {
+public final class Managers {
     private static final List<String> ALIGNMENTS = Arrays.asList("LEFT", "CENTER", "RIGHT", "LEADING", "TRAILING");
     private static final List<String> REGIONS = Arrays.asList(BorderLayout.NORTH, BorderLayout.SOUTH, BorderLayout.WEST,
             BorderLayout.EAST, BorderLayout.CENTER, BorderLayout.PAGE_START, BorderLayout.PAGE_END,
@@ -58,10 +58,11 @@ final class Managers {
     }
 
     /**
-     * A manager's class as people say it. Those inside of the toolkit's classes have names that say little by
-     * themselves, such as "Handler"; what is only marked as a look and feel's is called by what it is.
+     * A manager's class as people say it. The toolkit's nested classes have names that say little by themselves, such
+     * as "Handler", so they are named with the class around them. A class that only marks another one as the look and
+     * feel's is named as that one.
      */
-    static String name(LayoutManager layout) {
+    public static String name(LayoutManager layout) {
         Class<?> type = layout.getClass();
         if (layout instanceof UIResource && Code.isToolkit(type)) {
             type = type.getSuperclass() == Object.class ? type : type.getSuperclass();
@@ -144,8 +145,8 @@ final class Managers {
         return Values.cut(text.toString());
     }
 
-    /** Whether a BoxLayout lays out from left to right or the other way. */
-    static boolean isHorizontal(BoxLayout layout, Container of) {
+    /** Whether a BoxLayout lays out in a row, from left to right or from right to left. */
+    public static boolean isHorizontal(BoxLayout layout, Container of) {
         boolean leftToRight = of.getComponentOrientation().isHorizontal();
         switch (layout.getAxis()) {
             case BoxLayout.LINE_AXIS:
@@ -157,7 +158,7 @@ final class Managers {
         }
     }
 
-    /** What a child is to its parent's manager, in one line without a line feed; empty where nothing is known. */
+    /** Where its parent's manager puts a child, in one line; empty where nothing is known. */
     static String place(Component child) {
         Container parent = child.getParent();
         LayoutManager layout = parent == null ? null : parent.getLayout();
@@ -196,8 +197,11 @@ final class Managers {
         }
     }
 
-    /** Whether a component can be asked for its alignment: its own layout may ask all that is in it. */
-    private static boolean canTellAlignment(Component child) {
+    /**
+     * Whether a component can be asked for its alignment without calling code of the program: its own layout may ask
+     * all that is in it.
+     */
+    public static boolean canTellAlignment(Component child) {
         if (Code.getterOverrider(child.getClass()) != null) {
             return false;
         }

@@ -8,8 +8,10 @@ import java.lang.reflect.Modifier;
 
 import com.vantrel.hooks.DesktopModule;
 
-/** Members of classes that are called or read by reflection. For any thread; who calls decides on which. */
-final class Members {
+/**
+ * Members of classes that are called or read by reflection. May be used by any thread, if what is called allows it.
+ */
+public final class Members {
     static {
         DesktopModule.open("java.awt", "javax.accessibility", "javax.swing");
     }
@@ -19,7 +21,7 @@ final class Members {
 
     /** Calls a method and gives what it returns, or throws what it throws. */
     static Object call(Method method, Object on, Object... arguments) throws Throwable {
-        // A public method of a class that is not public, as most of a program's are.
+        // A public method can be called at once only if its class is public, too, and most of a program's are not.
         if (!Modifier.isPublic(method.getDeclaringClass().getModifiers())) {
             open(method);
         }
@@ -35,7 +37,7 @@ final class Members {
      *
      * @return null where there is no such field, or where the toolkit's module keeps it to itself
      */
-    static Field field(Class<?> type, String name) {
+    public static Field field(Class<?> type, String name) {
         try {
             Field field = type.getDeclaredField(name);
             return open(field) ? field : null;

@@ -4,20 +4,20 @@ import java.awt.Component;
 import java.awt.LayoutManager;
 
 /**
- * Layout managers of the library MigLayout, which is the program's if it is there at all: reached by the names of its
- * public methods. For the event thread.
+ * Layout managers of the library MigLayout. It belongs to the program, if it is there at all, so its public methods are
+ * called by reflection. For the event thread.
  */
-final class MigLayouts {
+public final class MigLayouts {
     private MigLayouts() {
     }
 
     /** Whether a manager is one, and not a class of the program's that extends it. */
-    static boolean isOne(LayoutManager layout) {
+    public static boolean isOne(LayoutManager layout) {
         return layout.getClass().getName().equals("net.miginfocom.swing.MigLayout");
     }
 
     /** The constraints of a component, as the program gave them: a text, or an object of the library's. */
-    static Object constraints(LayoutManager layout, Component component) throws Throwable {
+    public static Object constraints(LayoutManager layout, Component component) throws Throwable {
         return Members.call(layout.getClass().getMethod("getComponentConstraints", Component.class), layout, component);
     }
 
@@ -31,7 +31,7 @@ final class MigLayouts {
      *
      * @param what "Layout", "Column" or "Row"
      */
-    static Object ofAll(LayoutManager layout, String what) throws Throwable {
+    public static Object ofAll(LayoutManager layout, String what) throws Throwable {
         return Members.call(layout.getClass().getMethod("get" + what + "Constraints"), layout);
     }
 }

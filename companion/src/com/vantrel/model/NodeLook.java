@@ -31,7 +31,7 @@ public final class NodeLook {
         String text = Facts.text(component);
         boolean isHint = text == null;
         if (isHint) {
-            text = Facts.toolTip(component); // of a button with an icon, it says what the text would
+            text = Facts.toolTip(component); // for a button with only an icon, it says what the text would
         }
         return new NodeLook(className, name == null ? "" : name, oneLine(text), isHint, Showing.of(component));
     }

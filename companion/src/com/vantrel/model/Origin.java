@@ -17,14 +17,14 @@ import javax.swing.border.Border;
 import javax.swing.plaf.UIResource;
 
 /**
- * Where a value that is looked at comes from: the component's own, its parent's, or the look and feel's, and then from
- * which of its defaults. Says nothing where that cannot be known. For the event thread.
+ * Where a property's value comes from: the component itself, its parent, or the look and feel, and then which of its
+ * defaults. Says nothing where that cannot be known. For the event thread.
  */
 final class Origin {
     static final String OWN = "own";
     static final String LOOK_AND_FEEL = "look and feel";
 
-    /** Where a default is called otherwise than the property that it is for. */
+    /** The properties whose default has another name, and that name. */
     private static final Map<String, String> CALLED = new HashMap<>();
 
     static {
@@ -55,7 +55,10 @@ final class Origin {
         return value != null && (set != null || isLook(value)) ? OWN : "";
     }
 
-    /** Whether a component has a value of its own for a property that it would else have from its parent. */
+    /**
+     * Whether a component has a value of its own for a property that it otherwise inherits from its parent; null for
+     * all other properties.
+     */
     static Boolean isSet(Component component, String property) {
         switch (property) {
             case "background":
@@ -96,8 +99,7 @@ final class Origin {
         if (value.equals(defaults.get(called))) {
             return called;
         }
-        // A background may come from "inactiveBackground": of the keys that end alike, the one that has this very
-        // object.
+        // A background may come from "inactiveBackground": looks for a key that ends alike and has this very object.
         String end = property.toLowerCase(Locale.ROOT);
         for (Object key : defaults.keySet()) {
             if (key instanceof String && ((String) key).startsWith(prefix)

@@ -3,8 +3,9 @@ package com.vantrel.model;
 import java.awt.Component;
 
 /**
- * Marks the inspector's own windows. They, and what they own, are left out of trees, picks, logs and counts. A type and
- * not a set of windows, so that asking calls nothing that a program may have overridden.
+ * Marks the inspector's own windows. They, and what they own, are left out of trees, picks, logs and counts. It is a
+ * type, and not a set of windows, because a set would call methods of the program's windows that it may have
+ * overridden.
  */
 public interface Ours {
     /** Whether a component is one of our windows or lies in one. May be called from any thread. */

@@ -5,16 +5,14 @@ import java.util.Map;
 import java.util.WeakHashMap;
 
 /**
- * Which properties of which classes take long to read, and are not read unasked any more: each of them is met once and
- * not with every component that is selected. Belongs to the event thread; holds no class.
+ * Remembers which properties of which classes took long to read, so that they are not read unasked any more. The user
+ * waits for each of them once, and not with every component of the class. Belongs to the event thread; holds no class.
  */
-final class Patience {
-    /** The JDK's own getters take a thousandth of it. */
+public final class Patience {
+    /** Longer than this is slow. The JDK's own getters take a thousandth of it. */
     private static final long SLOW_NANOS = 50_000_000;
 
-    /**
-     * What the machine may have held up, by collecting garbage or by having other things to do, gets a second chance.
-     */
+    /** What is slow gets a second chance up to here, for the machine may have been collecting garbage or been busy. */
     private static final long TOO_SLOW_NANOS = 400_000_000;
     private static final int CHANCES = 2;
 
@@ -24,7 +22,7 @@ final class Patience {
     }
 
     /** Whether a property is not to be read unasked. */
-    static boolean isLost(Class<?> type, String property) {
+    public static boolean isLost(Class<?> type, String property) {
         Map<String, Integer> strikes = STRIKES.get(type);
         return strikes != null && strikes.getOrDefault(property, 0) >= CHANCES;
     }
@@ -34,7 +32,7 @@ final class Patience {
      *
      * @return whether it is not to be read unasked from now on
      */
-    static boolean took(Class<?> type, String property, long nanos) {
+    public static boolean took(Class<?> type, String property, long nanos) {
         if (nanos > SLOW_NANOS) {
             int strikes = nanos > TOO_SLOW_NANOS ? CHANCES : 1;
             STRIKES.computeIfAbsent(type, key -> new HashMap<>()).merge(property, strikes, Integer::sum);

@@ -16,7 +16,7 @@ public final class ProgramWindows {
     public static Component[] withoutOwner() {
         List<Component> found = new ArrayList<>();
         for (Window window : Window.getWindows()) {
-            // Whom a window belongs to is told by its parent, too, and that can be read whatever the program overrides.
+            // A window's parent is its owner. Unlike getOwner(), it can be read whatever the program overrides.
             if (Facts.parent(window) == null && counts(window)) {
                 found.add(window);
             }
@@ -24,7 +24,7 @@ public final class ProgramWindows {
         return found.toArray(NONE);
     }
 
-    /** Whether a window is one to show: the program's, and there, which a disposed one and a used-up popup are not. */
+    /** Whether a window is the program's and in use: neither disposed of nor a popup that is kept to be used again. */
     static boolean counts(Window window) {
         if (window instanceof Ours || !window.isDisplayable()) {
             return false;

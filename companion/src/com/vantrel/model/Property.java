@@ -3,8 +3,8 @@ package com.vantrel.model;
 import java.awt.Component;
 
 /**
- * Something about a component that has a value: how it is read, how it is set if it can be, and whether that may be
- * done unasked. Belongs to a class of component and not to one component, of which it holds nothing.
+ * A property of a class of components: how it is read, how it is set if it can be, and whether it may be read unasked.
+ * Holds no component.
  */
 public final class Property {
     /** Reads a value off a component, or throws whatever the component throws. */
@@ -41,7 +41,9 @@ public final class Property {
         return this;
     }
 
-    /** How to read what the component itself has, where its value may be its parent's or computed: null if nothing. */
+    /**
+     * For a value that may be inherited or computed: how to read the component's own, which is null if it has none.
+     */
     Property stored(Get how) {
         stored = how;
         return this;

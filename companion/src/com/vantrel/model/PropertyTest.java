@@ -4,7 +4,7 @@ import java.awt.Color;
 import java.awt.Component;
 import java.util.regex.Pattern;
 
-/** A condition on a property of a component, or on one of its value's, as it was typed: {@code font.size>11}. */
+/** A condition on a property of a component, or on a property of that property's value, as in {@code font.size>11}. */
 final class PropertyTest {
     private final String[] path;
     private final String operator;

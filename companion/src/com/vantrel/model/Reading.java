@@ -17,14 +17,14 @@ import javax.swing.JComponent;
 
 /**
  * The properties of one component or cell as they are now, read again and again. Holds the component weakly, and of its
- * values only what is written of them. Belongs to the event thread, which it never holds for long: a getter that takes
- * its time is asked once, and from then on only when the user asks.
+ * values only their texts and copies of numbers and sizes. Belongs to the event thread, which it never holds for long:
+ * a getter that takes its time is asked once, and from then on only when the user asks.
  */
 public final class Reading {
-    /** What reading may take each time before the rest waits for the next time; half of what anybody feels. */
+    /** How long one refresh reads before it leaves the rest to the next one: half of what a user would feel. */
     private static final long MOST_NANOS = 40_000_000;
 
-    /** Identifies a cell's renderer among the properties that may be slow. */
+    /** The name under which {@link Patience} remembers a slow renderer of cells, as if it were a property. */
     private static final String RENDERER = "renderer";
 
     /** One property, and the line that was made of it last. */
@@ -33,7 +33,10 @@ public final class Reading {
         Row row;
         /** Whether it has neither been read nor been found to be one that is not read unasked. */
         boolean untouched = true;
-        /** What the note was made for: finding where a value comes from takes longer than reading it. */
+        /**
+         * The value that the note was made for. Finding out where a value comes from takes longer than reading it, so
+         * it is done only when the value has changed.
+         */
         WeakReference<Object> notedValue = new WeakReference<>(null);
         Boolean notedSet;
         String note = "";
@@ -48,7 +51,7 @@ public final class Reading {
     private final List<Slot> slots = new ArrayList<>();
     private final Map<String, Slot> clientProperties = new LinkedHashMap<>();
     private final Map<String, Object> plainValues = new HashMap<>();
-    /** What the slots are for. A cell may be painted by another component each time. */
+    /** The class whose properties the slots are: a renderer may give a component of another class each time. */
     private Class<?> shape;
     private int next;
     private boolean askedForCell;
@@ -66,7 +69,7 @@ public final class Reading {
         List<Row> rows = new ArrayList<>();
         boolean client = false;
         for (Slot slot : slots) {
-            // The client properties are not the class's, and stand before what the class adds.
+            // Client properties belong to no class, and stand before what the classes add.
             if (!client && !Catalog.isCommon(slot.property.group())) {
                 addClientProperties(rows);
                 client = true;
@@ -101,8 +104,8 @@ public final class Reading {
     }
 
     /**
-     * Reads what may be read unasked, for a few dozen milliseconds at most unless something takes long by itself; goes
-     * on the next time where it ended.
+     * Reads what may be read unasked, for a few dozen milliseconds unless a single getter takes longer. The next call
+     * goes on where this one ended.
      *
      * @return whether the component is still there
      */
@@ -145,7 +148,7 @@ public final class Reading {
     }
 
     /**
-     * The value of a line as it is to be edited: all of it, where the line may have less.
+     * The value of a line as text to edit: all of it, while the line may show less.
      *
      * @throws IllegalStateException if it cannot be read any more
      */
@@ -154,7 +157,7 @@ public final class Reading {
     }
 
     /**
-     * Makes a value for a line of a text that the user has typed.
+     * Makes a line's new value from a text that the user has typed.
      *
      * @throws IllegalArgumentException whose message says what is wrong and what to type
      * @throws IllegalStateException    if the line's value cannot be read any more
@@ -172,7 +175,7 @@ public final class Reading {
         }
     }
 
-    /** Whether all has been read that is read unasked; if not, the next reading goes on. */
+    /** Whether everything that is read unasked has been read; if not, the next refresh goes on. */
     public boolean isComplete() {
         for (Slot slot : slots) {
             if (slot.untouched) {
@@ -187,7 +190,10 @@ public final class Reading {
         return target.isCell() ? Cells.bounds(target) : null;
     }
 
-    /** The lines that wait to be asked for, one by one, so that the program can go on between them. */
+    /**
+     * The lines that are read on demand only. The caller asks for one at a time, so that the program can go on in
+     * between.
+     */
     public List<Row> unasked() {
         List<Row> unasked = new ArrayList<>();
         for (Slot slot : slots) {
@@ -198,7 +204,7 @@ public final class Reading {
         return unasked;
     }
 
-    /** What is read: the component, or the one that paints the cell, which is not to be held. */
+    /** What is read: the component, or the one that paints the cell, which must not be held. */
     private Component component() {
         Component owner = target.component();
         if (!target.isCell() || owner == null) {
@@ -333,7 +339,7 @@ public final class Reading {
         }
     }
 
-    /** Their keys come and go, so that each has to be looked for each time. */
+    /** Reads all client properties anew, for their keys come and go. */
     private void readClientProperties(JComponent component) {
         Map<String, Slot> now = new LinkedHashMap<>();
         try {

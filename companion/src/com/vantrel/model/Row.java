@@ -108,14 +108,14 @@ public final class Row {
         return this;
     }
 
-    /** The same line with who has set what it tells of; null for nobody that is known. */
+    /** The same line, with who has set the value; null if that is not known. */
     public Row setBy(SetBy who) {
         Row row = in(group);
         row.setBy = who;
         return row;
     }
 
-    /** Who has set what the line tells of; null if that is not known. */
+    /** Who has set the value; null if that is not known. */
     public SetBy setBy() {
         return setBy;
     }
@@ -166,7 +166,7 @@ public final class Row {
         return check;
     }
 
-    /** What the line is the value of, where it is a property: it can be asked for, and perhaps set. */
+    /** The property that the line shows, which can be read and perhaps set; null if it shows something else. */
     public Property property() {
         return property;
     }
@@ -185,7 +185,7 @@ public final class Row {
         return name.equals(other.name) && group.equals(other.group);
     }
 
-    /** Whether a line says what another one says. */
+    /** Whether two lines look the same. */
     public boolean isSameAs(Row other) {
         return isAbout(other) && saysSame(other) && note.equals(other.note) && type.equals(other.type)
                 && programs == other.programs && explanation.equals(other.explanation)

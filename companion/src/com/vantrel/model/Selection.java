@@ -5,9 +5,8 @@ import java.util.ArrayList;
 import java.util.List;
 
 /**
- * What is selected in the inspector, and what was: the one place that all parts of the window look at and write to.
- * Belongs to the inspector's event thread. Holds nothing of the program strongly; what is gone is left out of the
- * history.
+ * What is selected in the inspector, and what was selected before. All parts of the window share one. Belongs to the
+ * inspector's event thread. Holds nothing of the program strongly; the history leaves out what has been collected.
  */
 public final class Selection {
     private static final int MOST_REMEMBERED = 100;
@@ -39,7 +38,7 @@ public final class Selection {
         select(component == null ? null : Target.of(component));
     }
 
-    /** Selects a target; null for none. What was undone by {@link #back} is forgotten. */
+    /** Selects a target; null for none. Forgets what {@link #forward} would have led to. */
     public void select(Target target) {
         if (target == null) {
             if (at >= 0) {

@@ -34,12 +34,12 @@ public final class SetBy {
         return TIME.format(Instant.ofEpochMilli(millis).atZone(ZoneId.systemDefault()));
     }
 
-    /** File and line, or who else it was, in two words. */
+    /** File and line; or, if it was not the program, who else in two words. */
     public String place() {
         return place;
     }
 
-    /** All of it. */
+    /** Who, where, when and on which thread, in one sentence. */
     public String sentence() {
         return sentence;
     }

@@ -11,8 +11,8 @@ import java.nio.file.StandardCopyOption;
 import java.util.Properties;
 
 /**
- * What the inspector remembers from one program to the next, by name. A value is, in this order, what was set since
- * this VM started, the system property {@code vantrel.NAME}, and what the settings file remembers.
+ * What the inspector remembers from one program to the next, by name. A value is what was set since this VM started, or
+ * else the system property {@code vantrel.NAME}, or else what the settings file has.
  *
  * <p>The file is the user's {@code .config/vantrel/settings}, or the one that {@code -Dvantrel.settings} names. A file
  * that cannot be read remembers nothing. May be used by any thread.
@@ -67,7 +67,7 @@ public final class Settings {
         return all;
     }
 
-    /** Puts a whole file in the place of the one that is there, which another program may be reading. */
+    /** Writes another file and moves it into place, so that no other program ever reads half of one. */
     private static boolean write(Properties all) {
         Path file = file();
         if (file == null) {

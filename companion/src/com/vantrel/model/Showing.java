@@ -17,7 +17,7 @@ public enum Showing {
     NO_SIZE("no size"),
     CLIPPED("clipped away"),
     OFF_SCREEN("outside of the screen"),
-    /** An internal frame that is an icon, or in one: it is in no window then, and its icon is. */
+    /** In an internal frame that is iconified: it is in no window then, only its icon is. */
     ICON("in an icon"),
     NO_WINDOW("in no window");
 
@@ -32,7 +32,7 @@ public enum Showing {
         return words;
     }
 
-    /** How it is with a component now: the first reason that holds, from what is its own to what is the screen's. */
+    /** Whether a component shows now, or the first reason that holds, from the component outwards to the screen. */
     public static Showing of(Component component) {
         if (!Facts.isVisible(component)) {
             return INVISIBLE;

@@ -13,12 +13,14 @@ import java.util.List;
  * program was started in.
  */
 public final class SourceFolders {
-    /** Below a project's folder, where packages usually begin; the folder itself comes first. */
+    /** Where packages usually begin below a given folder, the folder itself first. */
     private static final String[] INSIDE = {"", "src", "src/main/java", "src/main/kotlin", "src/java"};
 
     private final List<Path> folders = new ArrayList<>();
 
-    /** @param list folders, separated as in a class path; "~/" is the user's home; what is no path is left out */
+    /**
+     * @param list folders, separated as in a class path; "~/" is the user's home; anything that is no path is left out
+     */
     public SourceFolders(String list) {
         for (String folder : list.split(File.pathSeparator)) {
             add(folder.trim());
@@ -38,7 +40,7 @@ public final class SourceFolders {
         }
     }
 
-    /** The file of a line; null if it is in none of the folders. Reads folders, which may take a while. */
+    /** The file of a line; null if it is in none of the folders. It asks the file system, which may take a while. */
     public Path find(StackTraceElement line) {
         if (line.getFileName() == null) {
             return null;

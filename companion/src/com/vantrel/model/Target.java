@@ -4,8 +4,8 @@ import java.awt.Component;
 import java.lang.ref.WeakReference;
 
 /**
- * What can be picked and selected: a component of the program, or one cell of a table, tree or list, which is painted
- * by a renderer that is in no window. Holds the component weakly, as everything must that outlives a click.
+ * What can be picked and selected: a component of the program, or one cell of a table, tree or list, which is no
+ * component: a renderer paints it. Holds the component weakly, as everything must that is kept after a click.
  */
 public final class Target {
     private static final int NO_CELL = -1;

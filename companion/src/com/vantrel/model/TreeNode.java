@@ -23,19 +23,19 @@ public final class TreeNode {
     private Machinery machinery = Machinery.NO;
     private NodeLook look;
 
-    /** Whether nobody has said yet whether it is to be expanded. */
+    /** Whether it is new, so that it is still to be decided whether it is expanded. */
     boolean fresh = true;
     boolean expanded;
-    /** Whether it was collapsed by hand among what a search has found, where all is expanded otherwise. */
+    /** Whether the user has collapsed it among the rows of a search, which are all expanded at first. */
     boolean collapsedInSearch;
-    /** As the rows have it: machinery that is folded away takes no level. */
+    /** How far its row is indented; machinery that is folded away does not count. */
     int level;
     boolean expandable;
-    /** Whether the last search found it, or something below it. */
+    /** Whether the last search found it. */
     boolean match;
     boolean onPath;
 
-    /** Of nothing: what all windows are below. */
+    /** The root, which stands for no component and has the windows for children. */
     TreeNode() {
         parent = null;
         component = new WeakReference<>(null);
@@ -60,7 +60,7 @@ public final class TreeNode {
         return facts;
     }
 
-    /** The node that this one is in, folded away or not; one of nothing for a window without an owner. */
+    /** The node that this one is in, folded away or not; the root for a window without an owner. */
     TreeNode parent() {
         return parent;
     }
@@ -123,7 +123,7 @@ public final class TreeNode {
         return !same;
     }
 
-    /** Nodes for components, those that there are already among them. */
+    /** A node for each component: the one that it had, or a new one. */
     private List<TreeNode> reuse(Component[] now) {
         List<TreeNode> nodes = new ArrayList<>(now.length);
         Map<Component, TreeNode> old = new IdentityHashMap<>(Math.max(FEW, children.size()));

@@ -5,8 +5,9 @@ import java.util.Collections;
 import java.util.List;
 
 /**
- * A search in the tree, in pieces short enough for an event thread: whoever started it has it work until it is done,
- * and starts it over when the program has changed. What it found stays shown meanwhile. For the event thread.
+ * A search in the tree, done in pieces that are short enough for the event thread. Whoever started it calls {@link
+ * #work} until it is done, and starts it over when the program has changed; meanwhile the tree goes on showing what was
+ * found before. For the event thread.
  */
 public final class TreeSearch {
     /** How many components are looked at between two looks at the clock. */
@@ -15,7 +16,7 @@ public final class TreeSearch {
     private final ComponentTree tree;
     private Calls calls = new Calls();
     private Query query = Query.parse("", calls);
-    /** What is to be looked at; null where that is yet to be seen. */
+    /** The nodes to look at; null until the next piece of work has listed them. */
     private List<TreeNode> open = Collections.emptyList();
     private int next;
     private List<TreeNode> finds = new ArrayList<>();
@@ -50,7 +51,7 @@ public final class TreeSearch {
         return open == null || next < open.size();
     }
 
-    /** Goes on for a while, in nanoseconds. Returns whether the rows are others now. */
+    /** Goes on for some nanoseconds. Returns whether the rows have changed. */
     public boolean work(long duration) {
         long end = System.nanoTime() + duration;
         if (open == null) {

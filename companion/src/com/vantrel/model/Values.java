@@ -25,16 +25,16 @@ import javax.swing.KeyStroke;
 import javax.swing.border.Border;
 
 /**
- * Values of any kind as one line of text. Calls no method that a program may have written: of an object of the
- * program's there is the class, and nothing else, for even its {@code toString} may do anything. For the event thread.
+ * Values of any kind as one line of text. Calls no method that a program may have written, for even a {@code toString}
+ * may do anything: of an object of the program's, only the class is told. For the event thread.
  */
-final class Values {
-    /** What is longer than this is cut: nobody reads it in a cell, and measuring it takes time with every paint. */
+public final class Values {
+    /** Longer texts are cut: nobody reads them in a cell, and measuring them takes time with every paint. */
     static final int LONGEST = 1000;
 
     private static final int MOST_ELEMENTS = 16;
 
-    /** Classes of the JDK whose {@code toString} tells what people want to know, and asks nobody else for it. */
+    /** Classes of the JDK whose {@code toString} tells what people want to know, and calls no other class. */
     private static final Set<Class<?>> SELF_TOLD = new HashSet<>(Arrays.<Class<?>>asList(Boolean.class, Byte.class,
             Short.class, Integer.class, Long.class, Float.class, Double.class, Character.class, Locale.class,
             File.class, URI.class, URL.class, Date.class, StringBuilder.class));
@@ -78,7 +78,7 @@ final class Values {
         if (value instanceof Dimension) {
             return Formats.write((Dimension) value);
         }
-        if (type == Rectangle.class) { // a caret is one, too
+        if (type == Rectangle.class) { // a subclass may be something else, as a caret is
             return Formats.write((Rectangle) value);
         }
         if (value instanceof Border) {
@@ -128,7 +128,7 @@ final class Values {
         return cut(text + (length > MOST_ELEMENTS ? ", \u2026" : ""));
     }
 
-    /** An object that is told from others of its class, and nothing more. */
+    /** An object's class, and a number to tell it from others of its class. */
     static String object(Object value) {
         return Code.shortName(value.getClass()) + "@" + Integer.toHexString(System.identityHashCode(value));
     }
@@ -138,7 +138,7 @@ final class Values {
     }
 
     /** What was thrown, in one line; asks an exception of the program's for nothing but its class. */
-    static String error(Throwable thrown) {
+    public static String error(Throwable thrown) {
         String name = Code.shortName(thrown.getClass());
         if (Code.overrider(thrown.getClass(), "getMessage") != null) {
             return name;

@@ -16,8 +16,8 @@ import com.vantrel.model.Target;
 
 /**
  * Shows where something is in the program: a box around what can be seen of it, one pixel wide, with a label, and a
- * tint over it. It follows what it is around while that moves, and goes when that does. The program's components are
- * not changed, and get no events by it. For the event thread.
+ * tint over it. It follows the target when that moves, and disappears when that does. It neither changes the program's
+ * components nor causes events for them. For the event thread.
  */
 public final class Highlighter {
     private static final Color COLOR = new Color(0xFC7E00);
@@ -34,7 +34,8 @@ public final class Highlighter {
     private Rectangle shownAt;
 
     /**
-     * @param owner the inspector's window, whose modality and end the box shares
+     * @param owner the inspector's window, which will own the box: no modal dialog of the program blocks it, and it
+     *              goes with that window
      * @param tint  paints over the whole of a component
      */
     public Highlighter(Window owner, BiConsumer<Component, Graphics2D> tint) {
@@ -48,7 +49,7 @@ public final class Highlighter {
             hide();
         } else if (!newTarget.isSameAs(target)) {
             target = newTarget;
-            shownAt = null; // the same place may be another component's
+            shownAt = null; // another component may be at the same place
             follow();
             if (target != null) {
                 looks.start();
@@ -74,7 +75,7 @@ public final class Highlighter {
         shownAt = null;
     }
 
-    /** Hides, and gives the windows back. It can be used again. */
+    /** Hides, and disposes of the windows. Can be used again. */
     public void dispose() {
         hide();
         if (sides != null) {
@@ -120,7 +121,7 @@ public final class Highlighter {
         sides[3].place(box.x + box.width - 1, box.y + 1, box.width > 1 ? 1 : 0, box.height - 2);
     }
 
-    /** A cell's visible part, in its owner; null for what is no cell. */
+    /** A cell's visible part, in its owner's coordinates; null for a component. */
     private Rectangle cellOf(Component component, Rectangle inWindow) {
         if (!target.isCell()) {
             return null;

@@ -9,14 +9,17 @@ import java.util.Locale;
 import com.vantrel.hooks.EventFilter;
 
 /**
- * The hot key as an event of the program's. The agent gets the key from the window system, which gives it to the
- * program instead while that has the keyboard to itself, as with an open popup menu. A press that comes both ways
- * counts once, and the program sees neither press nor release.
+ * The hot key among the program's own events. Usually the window system gives the key to the agent; but while the
+ * program has the keyboard to itself, as with an open popup menu, the program gets it instead. This filter takes it out
+ * of the program's events then, so that the program sees neither press nor release. A press that comes both ways counts
+ * once.
  */
 public final class HotKey implements EventFilter {
-    /** How far apart the two tellings of one press may be. Nobody presses a key that often. */
+    /** How far apart the two reports of one press may be. Nobody presses a key that fast twice. */
     private static final long SAME_PRESS_MILLIS = 50;
-    /** Longer than any keyboard waits before a held key repeats; every repetition counts anew. */
+    /**
+     * A held key repeats sooner than this. What comes later is another press, even if no release was seen in between.
+     */
     private static final long REPEAT_MILLIS = 2_000;
     private static final int MODIFIERS = InputEvent.SHIFT_DOWN_MASK | InputEvent.CTRL_DOWN_MASK
             | InputEvent.ALT_DOWN_MASK | InputEvent.META_DOWN_MASK;
@@ -28,7 +31,9 @@ public final class HotKey implements EventFilter {
     private int modifiers;
     private boolean isDown;
     private long lastPress;
-    /** When the last press was, of those that came as an event and through the agent; as events tell the time. */
+    /**
+     * When the last press came as an event, and when one came through the agent; in milliseconds, as events have it.
+     */
     private volatile long seenAt;
     private volatile long calledAt;
 
@@ -41,7 +46,10 @@ public final class HotKey implements EventFilter {
         this.named = named;
     }
 
-    /** Takes note of a press that came through the agent; whether it is one that has not been seen here. */
+    /**
+     * Notes a press that came through the agent. Returns whether it is a new one, which has not come as an event
+     * already.
+     */
     public boolean isNewCall() {
         calledAt = System.currentTimeMillis();
         return Math.abs(calledAt - seenAt) >= SAME_PRESS_MILLIS;
@@ -83,7 +91,7 @@ public final class HotKey implements EventFilter {
         return System.getProperty("os.name", "").startsWith("Mac") ? "Meta+F12" : "Control+F12";
     }
 
-    /** Leaves the key undefined where the AWT has no name for it, and is not told of its modifiers. */
+    /** Leaves the key undefined where the AWT does not know it or one of its modifiers. */
     private void parse(String text) {
         String[] words = text.split("\\+");
         for (int i = 0; i < words.length - 1; i++) {

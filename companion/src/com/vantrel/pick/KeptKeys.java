@@ -6,11 +6,12 @@ import java.util.Set;
 import java.util.function.BooleanSupplier;
 
 /**
- * Which keys are kept from the program: a release whose press it has not seen, because that was kept or went to one of
- * our windows, and what a kept key types. A release whose press the program has seen always reaches it.
+ * Decides which key events are kept from the program: those that the picker takes, what such a key types, and each
+ * release whose press the program has not seen, because it was kept or went to one of our windows. If the program has
+ * seen a press, it also gets the release.
  */
 final class KeptKeys {
-    /** Keys that are down without the program's knowledge. */
+    /** Keys that are down, and whose press the program has not seen. */
     private final Set<Integer> unseen = new HashSet<>();
     private boolean keepsTyped;
 
@@ -18,8 +19,8 @@ final class KeptKeys {
      * Whether to keep an event.
      *
      * @param ours     whether it is for one of our windows
-     * @param pressed  asked of a press: whether to keep it
-     * @param released run for each release
+     * @param pressed  called for each press: whether to keep it
+     * @param released called for each release
      */
     boolean keep(KeyEvent event, boolean ours, BooleanSupplier pressed, Runnable released) {
         switch (event.getID()) {

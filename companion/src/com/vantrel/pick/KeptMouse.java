@@ -8,15 +8,17 @@ import java.awt.event.MouseEvent;
 import java.lang.ref.WeakReference;
 
 /**
- * Which mouse events are kept from the program. What belongs together is kept together: a press, its drag, its release
- * and its click. And the program is told at the end that the pointer has left, if it has left unseen.
+ * Which mouse events are kept from the program. A press, its drag, its release and its click are kept together or not
+ * at all. At the end, if the pointer has meanwhile left a window unseen by the program, the program is told so.
  */
 final class KeptMouse {
-    /** Bits of buttons that are down: pressed for us, pressed for the program. */
+    /** The buttons that are down, a bit for each: those pressed for us, and those pressed for the program. */
     private int ours;
     private int programs;
     private int clickToKeep;
-    /** The window in which the program believes the pointer to be, and how it left that. */
+    /**
+     * The window in which the program believes the pointer to be, and the event of its leaving that was kept, if any.
+     */
     private WeakReference<Window> inside = new WeakReference<>(null);
     private MouseEvent keptExit;
     /** The window that the pointer has entered without the program's knowledge. */
@@ -27,7 +29,10 @@ final class KeptMouse {
         return 1 << event.getButton();
     }
 
-    /** Whether to keep a press, if the picker would have it. */
+    /**
+     * Whether to keep a press. Even if the picker wants it, it is the program's while another button is down for the
+     * program.
+     */
     boolean press(MouseEvent event, boolean wanted) {
         clickToKeep = 0;
         if (wanted && programs == 0) {
@@ -61,8 +66,8 @@ final class KeptMouse {
     }
 
     /**
-     * Whether to keep a movement, or the wheel, if the picker would or would not have it: the program is not told that
-     * the pointer has left where it has not seen it.
+     * Whether to keep a movement or the wheel. Beside what the picker wants, that is the pointer leaving a window that
+     * the program has not seen it enter.
      */
     boolean move(Component source, MouseEvent event, boolean wanted) {
         boolean exit = event.getID() == MouseEvent.MOUSE_EXITED;
@@ -81,7 +86,10 @@ final class KeptMouse {
         return keep;
     }
 
-    /** Lets the program know where the pointer is, now that its events reach it again. */
+    /**
+     * Tells the program that the pointer has left its window, if that event was kept and still holds: from now on, it
+     * gets its events again.
+     */
     void settle() {
         MouseEvent exit = keptExit;
         keptExit = null;
@@ -99,7 +107,7 @@ final class KeptMouse {
         }
     }
 
-    /** Whether an event that was kept is just being given to the program. */
+    /** Whether a kept event is just being passed to the program, and must not be kept again. */
     boolean isSettling() {
         return settling;
     }

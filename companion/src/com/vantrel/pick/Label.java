@@ -11,7 +11,7 @@ import java.awt.Toolkit;
 import java.awt.Window;
 import java.util.Map;
 
-/** Says beside a box what it is around: class, name and size. */
+/** The label beside the highlight's box: class, name and size of what is in the box. */
 final class Label extends Mark {
     private static final long serialVersionUID = 1L;
     private static final Color BACK = new Color(0x26282B);

@@ -10,8 +10,8 @@ import java.awt.geom.Area;
 import com.vantrel.model.Ours;
 
 /**
- * A narrow window that lies over the program: one side of a box, or its label. It takes no focus, and is over heavy
- * components and popups, too, where nothing that is painted would be.
+ * A narrow window that lies over the program: one side of a box, or its label. It takes no focus, and lies over heavy
+ * components and popups, too, over which nothing could be painted.
  */
 class Mark extends Window implements Ours {
     private static final long serialVersionUID = 1L;
@@ -21,8 +21,8 @@ class Mark extends Window implements Ours {
     Mark(Window owner, String name, Color color) {
         super(owner, owner.getGraphicsConfiguration());
         setName(name);
-        // As a popup it is not the window manager's. That would map it some time after it was asked to; when the window
-        // is hidden before that, the toolkit unmaps what is not mapped yet, and the window then comes to stay.
+        // The window manager leaves popups alone. Other windows it maps some time after it was asked to; if such a
+        // window is hidden before that, the toolkit unmaps what is not mapped yet, and then the window comes to stay.
         setType(Type.POPUP);
         setBackground(color);
         setFocusableWindowState(false);
@@ -30,8 +30,8 @@ class Mark extends Window implements Ours {
     }
 
     /**
-     * Lies somewhere from now on, before everything else but the inspector's own window while somebody works with that;
-     * no rectangle hides it.
+     * Moves the window, and brings it to the front; an empty size hides it. While the user works with the inspector's
+     * own window, the part that would lie over that is cut off.
      */
     final void place(int x, int y, int width, int height) {
         Rectangle all = new Rectangle(x, y, Math.max(width, 0), Math.max(height, 0));

@@ -5,7 +5,7 @@ import java.lang.reflect.Field;
 
 import com.vantrel.hooks.DesktopModule;
 
-/** Whether a modal dialog keeps a window from getting events, which the toolkit has no public method to tell. */
+/** Whether a modal dialog keeps a window from getting events. The toolkit has no public method that tells. */
 final class Modality {
     private static final Field BLOCKER = find();
 
@@ -19,7 +19,7 @@ final class Modality {
             field.setAccessible(true);
             return field;
         } catch (NoSuchFieldException | RuntimeException e) {
-            return null; // picking behind modal dialogs is then for the tree to do
+            return null; // then a component below a modal dialog can be selected in the tree, but not picked
         }
     }
 

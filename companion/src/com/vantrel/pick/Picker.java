@@ -18,20 +18,21 @@ import javax.swing.Timer;
 
 import com.vantrel.hooks.EventFilter;
 import com.vantrel.hooks.Hooks;
+import com.vantrel.model.Modality;
 import com.vantrel.model.Ours;
 import com.vantrel.model.Selection;
 
 /**
  * Lets the user pick a component in the program with the pointer: while the primary modifier is held, or once after
  * {@link #arm}. What is under the pointer is highlighted; the wheel and the arrow keys lead to its parents and to what
- * lies underneath; a click, or Enter, selects it. The program sees nothing of all that: the mouse is the picker's then.
- * A press that the program has seen stays the program's until it is released, and one that it has not seen stays ours.
+ * lies underneath; a click, or Enter, selects it. The program gets none of these events. But what began with a press
+ * that the program got goes to the program until the release, and what began with a press that was picked stays ours.
  *
- * <p>A window behind a modal dialog gets no mouse events; there the pointer is looked for, and Enter picks. For the
- * event thread.
+ * <p>A window that a modal dialog blocks gets no mouse events. Over such a window the pointer is polled, and Enter
+ * picks. For the event thread.
  */
 public final class Picker {
-    /** Long enough for a shortcut to be pressed without anything lighting up, and too short to be noticed otherwise. */
+    /** Long enough to press a shortcut without anything being highlighted, and too short to be noticed otherwise. */
     private static final int MILLIS_UNTIL_HELD = 150;
     private static final int MILLIS_BETWEEN_LOOKS = 60;
 
@@ -53,14 +54,15 @@ public final class Picker {
     /** Whether the modifier is held and the pointer has been seen over the program since. */
     private boolean hovering;
     private Walk walk;
-    /** Where the pointer was last known to be, and whether it has left that window since. */
+    /** Where the pointer was last known to be, and whether it has left its window since. */
     private Point lastPointer;
     private boolean hasLeft;
 
     /**
-     * @param modifierHeld asks the window system whether the primary modifier is held, for when no event tells
-     * @param clicked      run when a click in the program has picked: the window manager knows nothing of picking, and
-     *                     does with the window whatever it does when one is clicked
+     * @param modifierHeld asks the window system whether the primary modifier is held, for the times when no event
+     *                     tells
+     * @param clicked      run when a click in the program has picked something. The window manager knows nothing of
+     *                     picking, and may have brought the clicked window to the front
      */
     public Picker(Selection selection, Highlighter highlighter, BooleanSupplier modifierHeld, Runnable clicked) {
         this.selection = selection;
@@ -88,7 +90,7 @@ public final class Picker {
         }
     }
 
-    /** Has the next click in the program pick, without the modifier; Escape takes it back. */
+    /** Has the next click in the program pick, without the modifier. Escape cancels that. */
     public void arm() {
         if (started && !armed) {
             armed = true;
@@ -204,7 +206,7 @@ public final class Picker {
     private void follow(Component source, MouseEvent event) {
         Window window = Places.windowOf(source);
         Point place = Places.inWindow(source, event.getPoint());
-        if (window instanceof Mark) { // the pointer is on the box or its label: what lies behind them counts
+        if (window instanceof Mark) { // the pointer is on the box or its label: what lies below them counts
             window = highlighter.target() == null ? null : Places.windowOf(highlighter.target().component());
             Point at = Places.onScreen(Places.windowOf(source));
             place.translate(at.x, at.y);
@@ -291,7 +293,7 @@ public final class Picker {
                     break;
             }
         }
-        leaveHover(); // a shortcut of the program's
+        leaveHover(); // the key is the program's, probably a shortcut
         return false;
     }
 
@@ -309,7 +311,7 @@ public final class Picker {
         }
     }
 
-    /** Highlights what the pointer rests on: no event comes before it moves. */
+    /** Highlights what the pointer rests on, for no event comes until it moves. */
     private void followPointer() {
         PointerInfo pointer = MouseInfo.getPointerInfo();
         Window window = pointer == null ? null : WindowAt.program(pointer.getLocation());
@@ -337,7 +339,7 @@ public final class Picker {
         }
         lastPointer = at;
         Window window = WindowAt.program(at);
-        if (window != null && (Modality.isBlocked(window) || hasLeft && isUnderPointer(window))) {
+        if (window != null && (Modality.blocker(window) != null || hasLeft && isUnderPointer(window))) {
             followOnScreen(window, at);
         } else if (hasLeft || window == null) {
             leave();
@@ -345,7 +347,10 @@ public final class Picker {
         hasLeft = false;
     }
 
-    /** A window may be left by the pointer's own account and have it all the same, when one of ours comes and goes. */
+    /**
+     * When a window of ours appears or disappears at the pointer, an event says that the pointer has left the program's
+     * window although it is still there.
+     */
     private static boolean isUnderPointer(Window window) {
         return window.getMousePosition(true) != null;
     }
@@ -355,7 +360,7 @@ public final class Picker {
         return other != null && Math.abs(one.x - other.x) <= 1 && Math.abs(one.y - other.y) <= 1;
     }
 
-    /** Takes the highlight off; the pointer may come back. */
+    /** Hides the highlight until the pointer is over the program again. */
     private void leave() {
         walk = null;
         highlighter.hide();

@@ -18,8 +18,9 @@ import com.vantrel.model.Facts;
 import com.vantrel.model.Target;
 
 /**
- * Where components are, and which of them are at a place. Told by bounds alone: what is disabled, transparent to the
- * mouse or without listeners is found like anything else. In user space; for the event thread.
+ * Where components are, and which of them are at a place. Only bounds count: a component that is disabled, has no
+ * listeners or lets the mouse through is found like any other. Coordinates are those of user space. For the event
+ * thread.
  */
 final class Places {
     private Places() {
@@ -34,7 +35,7 @@ final class Places {
         return (Window) at;
     }
 
-    /** Where in its window a place of a component is; null if it is in none. */
+    /** A point of a component, in its window's coordinates; null if it is in no window. */
     static Point inWindow(Component component, Point place) {
         Point point = new Point(place);
         Component at = component;
@@ -47,8 +48,8 @@ final class Places {
     }
 
     /**
-     * What lies at a place of a window, the foremost first: of each stack of components that lie in each other, the
-     * innermost. A glass pane without anything in it comes last, for it is meant to be looked through.
+     * What lies at a place of a window, the foremost first. Of components that lie in each other, only the innermost is
+     * listed. A glass pane with nothing in it comes last, because users look through it.
      */
     static List<Component> at(Window window, Point place) {
         List<Component> found = new ArrayList<>();
@@ -85,7 +86,7 @@ final class Places {
             Rectangle bounds = cell == null ? null : Cells.bounds(cell);
             return bounds != null && bounds.contains(place) ? cell : Target.of(component);
         } catch (RuntimeException e) {
-            return Target.of(component); // the program has its own idea of its rows
+            return Target.of(component); // the program's model disagrees with its view
         }
     }
 
@@ -107,9 +108,9 @@ final class Places {
         return null;
     }
 
-    /** The window's place on the screen. */
+    /** Where a window is on the screen. */
     static Point onScreen(Window window) {
-        return Facts.bounds(window).getLocation(); // a window's bounds are the screen's
+        return Facts.bounds(window).getLocation(); // unlike other bounds, a window's are on the screen
     }
 
     /**

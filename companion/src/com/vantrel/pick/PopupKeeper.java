@@ -22,15 +22,18 @@ import com.vantrel.hooks.DesktopModule;
 import com.vantrel.model.Ours;
 
 /**
- * Keeps the program's popup menus and combo lists open while the user is busy with the inspector: Swing closes them
- * when it hears that the pointer was pressed elsewhere. It is only kept from hearing of what was done to us. That its
- * window has lost the focus does not close them.
+ * Keeps the program's popup menus and combo lists open while the user works with the inspector. Swing closes them when
+ * it hears of a press outside of them; here it is kept from hearing of presses that are meant for the inspector. Losing
+ * the focus does not close them.
  */
 final class PopupKeeper {
     private static final String UNGRAB = "sun.awt.UngrabEvent";
     private static final String DO_NOT_CANCEL = "doNotCancelPopup";
 
-    /** The value of the client property, of which Swing knows its own parts that may be pressed. */
+    /**
+     * Holds the value of that client property by which Swing knows its own components that may be pressed without
+     * closing a popup.
+     */
     private static final Field PARTS_KEY = field("javax.swing.plaf.basic", BasicComboBoxUI.class, "HIDE_POPUP_KEY");
 
     private final BooleanSupplier picking;
@@ -47,21 +50,25 @@ final class PopupKeeper {
             field.setAccessible(true);
             return field;
         } catch (NoSuchFieldException | RuntimeException e) {
-            return null; // popups then close, as they do whenever another window is used
+            return null; // then popups close, as they do when any other window is used
         }
     }
 
-    /** Whether to keep the event that tells of a press outside of what has the pointer to itself. */
+    /**
+     * Whether to keep an event: the one by which the toolkit tells the owner of an open popup of a press outside, if
+     * that is meant for the inspector.
+     */
     boolean keep(AWTEvent event) {
         return event.getClass().getName().equals(UNGRAB) && (picking.getAsBoolean() || pointerIsOverOurs());
     }
 
-    /** Sees to it that a press in our window does not count as one that closes the program's popups. */
+    /** Keeps a press in our window from closing the program's popups. */
     void inOurs(Component source, MouseEvent event) {
         if (event.getID() == MouseEvent.MOUSE_PRESSED && source instanceof RootPaneContainer && programHasPopup()) {
             JRootPane root = ((RootPaneContainer) source).getRootPane();
             if (root.getMouseListeners().length == 0) {
-                root.addMouseListener(new MouseAdapter() {}); // or a press beside everything would be the window's
+                root.addMouseListener(new MouseAdapter() {
+                }); // so that a press between the components comes to the marked root pane, and not to the window
             }
             spare(root);
         }

@@ -4,7 +4,7 @@ import java.awt.Toolkit;
 import java.awt.event.InputEvent;
 import java.awt.event.KeyEvent;
 
-/** The platform's primary modifier, which menu shortcuts have: Control, or Command on a Mac. */
+/** The modifier that the platform's menu shortcuts use: Control, or Command on a Mac. */
 final class Primary {
     private final boolean isMeta;
 
@@ -14,12 +14,12 @@ final class Primary {
         isMeta = mask == InputEvent.META_MASK;
     }
 
-    /** Whether it is this key. */
+    /** Whether a key is this modifier's. */
     boolean is(int keyCode) {
         return keyCode == (isMeta ? KeyEvent.VK_META : KeyEvent.VK_CONTROL);
     }
 
-    /** Whether it was held when an event occurred, and not for another key together with Alt. */
+    /** Whether it was held alone when an event occurred, and not together with Alt. */
     boolean isDown(InputEvent event) {
         return (isMeta ? event.isMetaDown() : event.isControlDown()) && !event.isAltDown() && !event.isAltGraphDown();
     }

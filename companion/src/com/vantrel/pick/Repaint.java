@@ -15,12 +15,12 @@ import javax.swing.RootPaneContainer;
 
 import com.vantrel.model.Facts;
 
-/** Has windows paint again what the picker has painted over. For the event thread. */
+/** Repaints what the highlight's tint was painted over. For the event thread. */
 final class Repaint {
     private Repaint() {
     }
 
-    /** Paints a part of a window: at once what is Swing's, and soon what the toolkit paints itself. */
+    /** Repaints a part of a window: Swing's components at once, those of the window system soon. */
     static void now(Window window, Rectangle inWindow) {
         JRootPane root = window instanceof RootPaneContainer ? ((RootPaneContainer) window).getRootPane() : null;
         if (root == null) {
@@ -32,7 +32,10 @@ final class Repaint {
         paintHeavy(window, inWindow);
     }
 
-    /** Heavy components are not painted with what is around them, and repaint() leaves out the toolkit's part. */
+    /**
+     * Heavy components are not painted together with their parents, and repaint() leaves out what the toolkit itself
+     * paints of them.
+     */
     private static void paintHeavy(Component parent, Rectangle area) {
         for (Component child : parent instanceof Container ? Facts.children(parent) : new Component[0]) {
             Rectangle bounds = Facts.bounds(child);
@@ -51,8 +54,8 @@ final class Repaint {
     }
 
     /**
-     * Gives a part of a heavy component its background, as the window system does before it asks for paint: between
-     * what a panel or a canvas paints itself, nobody else does.
+     * Gives a part of a heavy component its background, as the window system does before it asks for paint: where a
+     * panel or a canvas paints nothing, nobody else would.
      */
     private static void clear(Component heavy, Rectangle part) {
         Graphics graphics = heavy.getGraphics();

@@ -11,11 +11,12 @@ import java.util.function.BiConsumer;
 import javax.swing.Timer;
 
 /**
- * The colour over a component, painted on the component's own graphics and undone by having the program repaint what
- * lies there. It is gone with the component's next repaint, and not put back: the box stays.
+ * The colour over a highlighted component. It is painted on the component's own graphics, and removed by having the
+ * program repaint that place. When the component repaints by itself the tint is lost, and not painted again: the box is
+ * enough.
  */
 final class Tint {
-    /** Leaves time for what the program still has to paint, which would otherwise be painted over it. */
+    /** Gives the program time for repaints that it already has to do, which would paint over the tint. */
     private static final int MILLIS_TO_SETTLE = 40;
 
     private final BiConsumer<Component, Graphics2D> painter;
@@ -33,7 +34,7 @@ final class Tint {
     }
 
     /**
-     * Puts the tint over a component, or a part of it, and takes it off what had it.
+     * Puts the tint over a component or a part of it, and removes it from the last one.
      *
      * @param part  in the component; null for all of it
      * @param place its visible part, in its window

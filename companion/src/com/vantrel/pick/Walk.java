@@ -11,9 +11,9 @@ import com.vantrel.model.Facts;
 import com.vantrel.model.Target;
 
 /**
- * What can be reached from one place of a window without moving the pointer: what lies there, one below the other, and
- * the parents of each. It begins with the innermost, foremost one. For the event thread; to be dropped when the pointer
- * moves on.
+ * What the user can reach by keys and wheel while the pointer rests at one place of a window: the components there, one
+ * below the other, and the parents of each. It begins with the foremost one. For the event thread; to be dropped when
+ * the pointer moves on.
  */
 final class Walk {
     private final Window window;
@@ -53,7 +53,7 @@ final class Walk {
         return all;
     }
 
-    /** What has been reached; null for nothing. */
+    /** Where the walk is now; null if nothing is there. */
     Target target() {
         return chain.isEmpty() ? null : chain.get(up);
     }
@@ -66,7 +66,7 @@ final class Walk {
         up = Math.max(up - 1, 0);
     }
 
-    /** To what lies underneath, or, with a negative number, back to what lies above. */
+    /** To what lies underneath; with a negative number, back up again. */
     void under(int layers) {
         int to = layer + layers;
         if (to >= 0 && to < beneath.size()) {
@@ -74,7 +74,10 @@ final class Walk {
         }
     }
 
-    /** Whether another place leads to the same things, so that who has walked on from here need not begin again. */
+    /**
+     * Whether a walk from another place begins with the same component or cell. Then the other one can go on, and need
+     * not begin again.
+     */
     boolean beginsLike(Walk other) {
         return other != null && window == other.window && !chain.isEmpty() && !other.beneath.isEmpty()
                 && beneath.get(0) == other.beneath.get(0)

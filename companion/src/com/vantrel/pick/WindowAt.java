@@ -10,8 +10,8 @@ import com.vantrel.model.Facts;
 import com.vantrel.model.Ours;
 
 /**
- * Which window is at a place of the screen, as far as that can be known: the window system does not tell which of
- * several is in front. Popups are, then dialogs, then the window that is active.
+ * Guesses which window is at a place of the screen. The toolkit does not tell which of several is in front, so popups
+ * are taken to be in front of all, then the active window, then other dialogs.
  */
 final class WindowAt {
     private WindowAt() {

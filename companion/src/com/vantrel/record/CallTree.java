@@ -7,11 +7,12 @@ import java.util.concurrent.ConcurrentHashMap;
 import java.util.concurrent.ConcurrentMap;
 
 /**
- * Stacks as branches of one tree, from the outermost call inwards: a loop that sets a thousand texts has a thousand
- * stacks, which are one here. Holds names and lines only, and nothing of the program. May be used by any thread.
+ * Stacks as branches of one tree, from the outermost call inwards: a loop that sets a thousand texts takes a thousand
+ * stacks, which share their memory here. Holds names and lines only, and nothing of the program. May be used by any
+ * thread.
  */
 final class CallTree {
-    /** The innermost call of a stack, and through its callers the whole of it. */
+    /** A call and, through its callers, the whole stack from there outwards. */
     static final class Call {
         private final Call caller;
         private final StackTraceElement line;
@@ -45,14 +46,15 @@ final class CallTree {
     private final ConcurrentMap<Call, Call> known = new ConcurrentHashMap<>();
 
     /**
-     * @param most how many calls are known at most; when there are more all are forgotten, and some will be kept twice
+     * @param most how many calls are remembered at most; with more, all are forgotten, and the same calls may then be
+     *             in memory twice
      */
     CallTree(int most) {
         this.most = most;
     }
 
     /**
-     * The branch that a stack is.
+     * The branch of the tree that stands for a stack.
      *
      * @param stack innermost call first
      * @return its innermost call; null for an empty stack

@@ -6,8 +6,8 @@ import java.util.List;
 import com.vantrel.model.CallStack;
 
 /**
- * That a property of a component was set: when, on which thread, and by which calls. Holds nothing of the program. May
- * be used by any thread.
+ * One setting of a property of a component: when, on which thread, and by which calls. Holds nothing of the program.
+ * May be used by any thread.
  */
 public final class Change {
     private static final String OURS = "com.vantrel.";
@@ -17,18 +17,23 @@ public final class Change {
     private final String what;
     private final String thread;
     private final long millis;
-    /** A Throwable, never thrown, in which the VM has noted the stack; then the CallTree.Call that it is; or null. */
+    /**
+     * First a Throwable that is never thrown, in which the VM has noted the stack; later the CallTree.Call made from
+     * it, or null for an empty stack.
+     */
     private Object stack;
     private final History history;
-    /** How many changes in a row this one stands for. Guarded by the history, as are the next two fields. */
+    /**
+     * How many changes in a row this one stands for. This field and the next two are guarded by the history's lock.
+     */
     int times = 1;
-    /** The one before, of the same property, among those that are kept. */
+    /** Among the changes that are kept: the one before it, of the same property. */
     Change before;
-    /** The one after it, of the same property, among those that wait. */
+    /** Among the changes that wait: the one after it, of the same property. */
     Change after;
 
     /**
-     * @param history that it is to be kept in
+     * @param history where it will be kept
      * @param frames  made where the property is set
      */
     Change(History history, String what, Throwable frames) {
@@ -39,7 +44,7 @@ public final class Change {
         this.stack = frames;
     }
 
-    /** The name under which the component tells of the change: in most cases the property's. */
+    /** The name under which the component reports the change, which mostly is the property's. */
     public String what() {
         return what;
     }
@@ -53,7 +58,7 @@ public final class Change {
         return history.timesOf(this);
     }
 
-    /** When it was set, the last time, in milliseconds since 1970. */
+    /** When it was set (if several times in a row, the last time), in milliseconds since 1970. */
     public long millis() {
         return millis;
     }
@@ -71,8 +76,8 @@ public final class Change {
     }
 
     /**
-     * Has the stack take the form in which it is kept: far smaller, but it costs some ten times what noting it has
-     * cost, so that it is not for the thread that sets the property.
+     * Brings the stack into the form in which it is kept, which is far smaller. This takes some ten times as long as
+     * noting the stack did, so the thread that sets the property should not do it.
      */
     void findStack() {
         call();
@@ -94,7 +99,9 @@ public final class Change {
         return (CallTree.Call) stack;
     }
 
-    /** Leaves out the calls between the component's own method and the throwable. */
+    /**
+     * Leaves out our own calls, which are innermost: those from the component's method to where the throwable was made.
+     */
     private static List<StackTraceElement> withoutHooks(StackTraceElement[] all) {
         int hooks = 0;
         while (hooks < all.length && all[hooks].getClassName().startsWith(OURS)) {

@@ -15,24 +15,24 @@ import com.vantrel.hooks.Hooks;
 import com.vantrel.model.Ours;
 
 /**
- * Notes who sets the properties of the program's components, for as long as somebody wants it. What was noted stays
- * with the components when nobody wants it any more. May be used by any thread.
+ * Notes, between {@link #start} and {@link #stop}, who sets the properties of the program's components. What was noted
+ * stays with the components after that. May be used by any thread.
  *
- * <p>The thread that sets a property pays for a look at its stack, a few microseconds, and no more: a daemon of ours
- * brings the stacks into the form in which they are kept. When that falls behind, the setting thread does it itself, so
- * that what waits is bounded.
+ * <p>The thread that sets a property only takes its stack, which costs a few microseconds; a daemon of ours brings the
+ * stacks into the form in which they are kept. When too many wait for the daemon, the setting thread does that work
+ * itself, so that memory is bounded.
  */
 public final class ChangeRecorder {
     /** How many properties may wait for the daemon at once, and how many changes each of them. */
     private static final int MOST_PROPERTIES = 1_024;
     private static final int MOST_CHANGES = 16;
 
-    /** Layouts become invalid with nearly every change, and are made valid again: nobody has set anything. */
+    /** Not recorded: nearly every change invalidates a layout, and nobody has set a property by that. */
     private static final String NOT_SET = Hooks.VALID;
 
     private static final class Field { static final ComponentField HISTORY = new ComponentField("vantrel$changes"); }
 
-    /** Those that note changes now: what two of them want is for the first of them to note. */
+    /** The running recorders. A change that two of them want is noted by the first one only. */
     private static final List<ChangeRecorder> RUNNING = new CopyOnWriteArrayList<>();
 
     private final Predicate<Component> which;
@@ -45,7 +45,7 @@ public final class ChangeRecorder {
 
         @Override
         public void moving(Component component, Container from, Container to) {
-            // Where a component was added is recorded in any case.
+            // Where a component was added is always recorded, with the component.
         }
     };
     private Thread settler;
@@ -60,7 +60,8 @@ public final class ChangeRecorder {
         if (settler == null) {
             settler = new Thread(this::settle, "vantrel-recorder");
             settler.setDaemon(true);
-            settler.setContextClassLoader(null); // not to keep that of the program's that happens to be there
+            settler.setContextClassLoader(null); // or the thread would keep the class loader of whichever thread of the
+                                                 // program has started it
             settler.start();
             RUNNING.add(this);
             Hooks.add(listener);

@@ -7,17 +7,18 @@ import java.util.List;
 import java.util.Map;
 
 /**
- * The last changes of one component's properties: of each property the last five that differ in their stacks, for what
- * a loop or a layout does over and over is one. Lies in the component, and goes with it. May be used by any thread.
+ * The last changes of one component's properties: of each property the last five. Changes in a row by the same calls,
+ * as a loop or a layout makes them, count as one. Lies in a field of the component, and lives as long. May be used by
+ * any thread.
  *
- * <p>A change is compared with the one before as soon as its stack is known in full. That takes a while; until somebody
- * finds the time, it waits.
+ * <p>Two changes can only be compared when their stacks are in the form in which they are kept, which takes time to
+ * make. Until that has been done, by {@link #settle}, a change waits.
  */
 final class History {
     private static final int MOST = 5;
 
     private static final class Property {
-        /** The last change whose stack is known, which leads to those before it; null for none. */
+        /** The last change that does not wait, which links to those before it; null for none. */
         Change last;
         /** Those that wait, in the order in which they were made. */
         Change firstWaiting;
@@ -28,7 +29,7 @@ final class History {
     private final Map<String, Property> properties = new HashMap<>(8);
 
     /**
-     * Has a change wait for its turn.
+     * Adds a change to those that wait.
      *
      * @return how many changes of this property wait now
      */
@@ -43,7 +44,7 @@ final class History {
         return ++property.waiting;
     }
 
-    /** Takes in the changes of a property that wait. */
+    /** Works off the changes of a property that wait. */
     void settle(String what) {
         for (Change change : waiting(what)) {
             change.findStack();
@@ -60,7 +61,10 @@ final class History {
         return waiting;
     }
 
-    /** In their order, up to the first one whose stack is not known yet: it may have come since. */
+    /**
+     * Takes in the changes that wait, in order, up to the first one whose stack is not known: it has been added
+     * meanwhile.
+     */
     private synchronized void takeIn(String what) {
         Property property = properties.get(what);
         while (property != null && property.firstWaiting != null && property.firstWaiting.isStackKnown()) {

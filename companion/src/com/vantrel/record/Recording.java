@@ -9,9 +9,9 @@ import java.util.regex.Pattern;
 import com.vantrel.model.Facts;
 
 /**
- * What is recorded from a program's start, whether the inspector's window is open or not: what the system property
- * {@code vantrel.record} asks for. Its value is {@code changes}, or {@code changes:PATTERN} for the components whose
- * class has a name like {@code com.acme.*}, and those in them.
+ * Recording from the program's start, whether the inspector's window is open or not, if the system property {@code
+ * vantrel.record} asks for it. Its value is {@code changes}, or {@code changes:PATTERN} with a pattern for class names
+ * such as {@code com.acme.*}: then only components of such classes, and what is in them, are recorded.
  */
 public final class Recording {
     private static final String PROPERTY = "vantrel.record";
@@ -33,7 +33,7 @@ public final class Recording {
         }
     }
 
-    /** Components of a class with such a name, or in one. */
+    /** Accepts components of a class whose name matches, and components in one of those. */
     public static Predicate<Component> within(String pattern) {
         List<String> parts = new ArrayList<>();
         for (String part : pattern.split("\\*", -1)) {

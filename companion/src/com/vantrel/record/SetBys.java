@@ -20,7 +20,7 @@ public final class SetBys {
     public static SetBy of(Component component, String property) {
         Change change = ChangeRecorder.last(component, property);
         if (change == null && !property.isEmpty()) {
-            // Swing tells of some properties by names that begin with a capital.
+            // Swing reports some properties under names that begin with a capital.
             change = ChangeRecorder.last(component, Character.toUpperCase(property.charAt(0)) + property.substring(1));
         }
         return change == null ? null : of(change);

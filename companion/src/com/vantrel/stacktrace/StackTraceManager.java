@@ -3,17 +3,16 @@ package com.vantrel.stacktrace;
 import java.awt.Component;
 
 /**
- * Remembers where in the program each component was added to its container: the stack of the thread that added it
- * last.
+ * Remembers where in the program each component was added to its container: the stack of the thread that added it last.
  *
- * <p>A trace lies in a field that the agent adds to {@code java.awt.Component}, and goes with its component. Where the
- * agent is not, no component has such a field, and none ever has a trace. All methods may be called from any thread;
+ * <p>A trace lies in a field that the agent adds to {@code java.awt.Component}, and lives as long as its component.
+ * Without the agent there is no such field, and no component has a trace. All methods may be called from any thread;
  * none of them calls the component. A null component has no trace.
  */
 public class StackTraceManager {
     private static final StackTraceElement[] NO_TRACE = new StackTraceElement[0];
 
-    /** All state is with the components; an instance gives nothing more. */
+    /** An instance has no state: all methods are static. */
     public StackTraceManager() {
     }
 
@@ -40,14 +39,14 @@ public class StackTraceManager {
     }
 
     /**
-     * The current thread's stack, to be kept with a component. Called by {@code java.awt.Container}, where the agent
-     * has made it do so, whenever a component gets a parent.
+     * The current thread's stack, to be kept with a component. The agent has {@code java.awt.Container} call it
+     * whenever a component gets a parent.
      *
      * <p>It runs with every addition, so it only has the VM note the frames; the elements, which cost several times as
      * much, are made when somebody asks for them.
      *
-     * @return for the component's field; null if there is no memory or stack left for it: an addition never fails for
-     *         want of a trace
+     * @return the value for the component's field; null if there is no memory or stack left for it, because an addition
+     *         must not fail for that
      */
     public static Object take() {
         try {

@@ -10,7 +10,7 @@ final class Trace {
     /** A Throwable, never thrown, or a StackTraceElement[]. */
     private volatile Object stack;
 
-    /** @param frames made where the stack is of interest, by {@link StackTraceManager#take} */
+    /** @param frames made by {@link StackTraceManager#take}, on the stack that is to be told */
     Trace(Throwable frames) {
         stack = frames;
     }
@@ -30,7 +30,9 @@ final class Trace {
         return ((StackTraceElement[]) known).clone();
     }
 
-    /** Leaves out what lies between the container's own method and the throwable. */
+    /**
+     * Leaves out our own calls, which are innermost: those from the container's method to where the throwable was made.
+     */
     private static StackTraceElement[] withoutOurs(StackTraceElement[] all) {
         int ours = 0;
         while (ours < all.length && isOurs(all[ours])) {

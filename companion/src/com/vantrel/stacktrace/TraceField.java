@@ -3,7 +3,8 @@ package com.vantrel.stacktrace;
 import com.vantrel.hooks.ComponentField;
 
 /**
- * The field that a component's trace lies in. Sought when a trace is first asked for, and not while a program starts.
+ * The field that a component's trace lies in. In a class of its own, so that it is looked for when a trace is first
+ * asked for, and not while the program starts.
  */
 final class TraceField {
     static final ComponentField FIELD = new ComponentField("vantrel$trace");

@@ -12,7 +12,7 @@ import java.security.PrivilegedExceptionAction;
  *
  * <p>The agent calls the suppliers on whatever thread is about to define the class, while the class is being loaded:
  * nothing here may touch {@code java.awt}. Each takes the running VM's own class file and returns it with additions;
- * everything else in it stays byte for byte. What a supplier throws the agent prints, and the VM ends.
+ * everything else in it stays byte for byte. If a supplier throws, the agent prints that, and the VM ends.
  */
 public final class BCIUtil {
     private BCIUtil() {
@@ -42,8 +42,8 @@ public final class BCIUtil {
     }
 
     /**
-     * Reads the class file that the boot loader has for a class. A class loader that has no parent but the boot loader
-     * finds it, whatever the application's class loaders or a security manager make of resources.
+     * Reads the class file that the boot loader has for a class. It is asked through a new class loader whose only
+     * parent is the boot loader, so that neither the application's class loaders nor a security manager have a say.
      */
     private static byte[] ownClassFile(final String className) {
         try {

@@ -3,7 +3,7 @@ package com.vantrel.util;
 import java.io.ByteArrayOutputStream;
 import java.nio.ByteBuffer;
 
-/** Big-endian numbers, and ranges of another class file, appended. */
+/** A growing class file: appends big-endian numbers, and ranges copied from another one. */
 final class ByteSink extends ByteArrayOutputStream {
     ByteSink u1(int value) {
         write(value);
@@ -25,7 +25,7 @@ final class ByteSink extends ByteArrayOutputStream {
         return this;
     }
 
-    /** Appends what lies between two positions of a buffer that an array backs from its beginning. */
+    /** Appends the bytes between two positions of a buffer whose positions are those of its array. */
     ByteSink copy(ByteBuffer from, int start, int end) {
         write(from.array(), start, end - start);
         return this;

@@ -7,11 +7,11 @@ import java.util.Map;
 import java.util.TreeMap;
 
 /**
- * Adds fields and methods to a class file, code at the head of its methods, and calls in the place of its writes to a
- * field, and leaves every other byte as it was.
+ * Edits a class file: adds fields and methods, inserts code at the head of methods, and replaces writes to a field by
+ * calls. Every other byte stays as it was.
  *
- * <p>It knows no class-file version: what it reads has had one form since Java 7, so that a new VM's class files are
- * edited as soon as the VM is there. Constants are appended to the constant pool and no old one moves, so all that
+ * <p>It does not look at the class file's version, so that it also edits the class files of future VMs: what it reads
+ * has not changed its form since Java 7. Constants are appended to the constant pool and no old one moves, so all that
  * refers to them stays valid. Edits are splices at positions in the old image, applied in one pass at the end.
  *
  * <p>Terms and section numbers are those of the JVM specification, chapter 4. Not safe for use from several threads.
@@ -26,7 +26,7 @@ final class ClassFileEditor {
     private static final int CONSTANT_METHODREF = 10;
     private static final int CONSTANT_NAME_AND_TYPE = 12;
 
-    /** In the place of a frame's position in a method: the method needs none. */
+    /** Instead of the pc of a stack map frame: the method needs no frame. */
     static final int NO_FRAME = -1;
 
     private static final int POOL_COUNT_AT = 8;
@@ -106,7 +106,8 @@ final class ClassFileEditor {
      * Adds a method whose code has no handlers and no more than one place that it jumps to.
      *
      * @param maxLocals how many variables it has, parameters included
-     * @param frameAt   the pc that it jumps to, with an empty stack and the parameters for variables; NO_FRAME for none
+     * @param frameAt   the pc that it jumps to, with an empty stack and no variables but the parameters; NO_FRAME if it
+     *                  never jumps
      */
     void addMethod(
             int accessFlags, String name, String descriptor, int maxStack, int maxLocals, byte[] code, int frameAt) {
@@ -123,11 +124,11 @@ final class ClassFileEditor {
     }
 
     /**
-     * Puts code before a method's own; a method can get some once, and then none of its writes replaced. If the new
-     * code jumps, then to its own end, with an empty stack and the parameters as they came in.
+     * Puts code before a method's own. That can be done once with a method, and writes in such a method cannot be
+     * replaced any more. The new code may only jump to its own end, with an empty stack and unchanged parameters.
      *
      * @param head     the code, of a length that is a multiple of four
-     * @param maxStack what the code needs of the stack
+     * @param maxStack how much of the operand stack the code needs
      * @param jumps    whether it jumps
      * @return whether the class declares such a method, with code; if not, nothing is changed
      */
@@ -147,8 +148,8 @@ final class ClassFileEditor {
 
     /**
      * Replaces every write to an instance field, in whatever method, with the call of a static method that takes the
-     * object and the new value. Both are instructions of three bytes that take the same from the stack, so that nothing
-     * moves.
+     * object and the new value. Both instructions have three bytes and take the same operands from the stack, so that
+     * no other code moves.
      *
      * @param callee a constant, from {@link #methodRef}
      * @throws IllegalArgumentException if the class never writes to the field
@@ -192,7 +193,7 @@ final class ClassFileEditor {
         return out.copy(image, at, image.limit()).toByteArray();
     }
 
-    /** A new value for a count, after other bytes. */
+    /** Replaces a two-byte count, and inserts other bytes before it. */
     private static Splice count(ByteSink bytes, int count, String what) {
         if (count > MAX_U2) {
             throw new IllegalArgumentException("The class has no room for more " + what);
@@ -299,7 +300,7 @@ final class ClassFileEditor {
         return 0;
     }
 
-    // Constants to add. They are not looked up among the old ones: a second copy of a constant is harmless.
+    // Constants to add. They are added even if the class has the same ones already: a second copy is harmless.
 
     private int utf8(String text) {
         Integer known = newTexts.get(text);
@@ -350,7 +351,7 @@ final class ClassFileEditor {
         return new ByteSink().u2(utf8("StackMapTable")).u4(2 + frame.length).u2(1).bytes(frame).toByteArray();
     }
 
-    /** The first frame of a method, at a pc where it has the variables of its entry and an empty stack. */
+    /** The first frame of a method, for a pc at which there are the parameters and an empty stack. */
     static byte[] sameFrame(int pc) {
         return (pc < 64 ? new ByteSink().u1(pc) : new ByteSink().u1(251).u2(pc)).toByteArray();
     }

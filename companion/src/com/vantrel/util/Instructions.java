@@ -4,7 +4,8 @@ import java.nio.ByteBuffer;
 
 /**
  * The instructions of the VM, as far as the companion walks through code or writes some of its own (JVM specification,
- * chapter 6). The set has not changed since Java 7; what is unknown is refused rather than skipped by guess.
+ * chapter 6). The set has not changed since Java 7. An unknown instruction is refused, because its length could only be
+ * guessed.
  */
 final class Instructions {
     static final int NOP = 0x00;

@@ -3,8 +3,8 @@ package com.vantrel.util;
 import java.nio.ByteBuffer;
 
 /**
- * A Code attribute with more code at its head: every pc moves by the length of that, but those that stand for the
- * method's entry (JVM specification, 4.7.3).
+ * Makes a Code attribute (JVM specification, 4.7.3) with more code at its head: every pc moves by the length of the new
+ * code, except those that stand for the method's entry.
  */
 final class MovedCode {
     private final ClassFileEditor file;
@@ -15,9 +15,9 @@ final class MovedCode {
 
     /**
      * @param attributeAt    where the attribute begins in the file
-     * @param distance       the length of the new code, a multiple of four, so that switches keep their paddings
+     * @param distance       the length of the new code, a multiple of four, so that the padding of switches stays right
      * @param jumpsToOldHead whether the new code jumps to the instruction after it, with an empty stack and the
-     *                       parameters as they came in; the verifier wants to be told
+     *                       parameters as they came in; this needs a stack map frame there
      */
     private MovedCode(ClassFileEditor file, int attributeAt, int distance, boolean jumpsToOldHead) {
         this.file = file;
@@ -28,11 +28,11 @@ final class MovedCode {
     }
 
     /**
-     * The whole attribute with new code before its own. Attributes of it that only inform and that this class does not
-     * know (type annotations, extensions) are left out: wrong positions inform worse than none.
+     * The whole attribute with new code before its own. Nested attributes that this class does not know (type
+     * annotations, extensions) are left out: they only inform, and would do so with wrong positions.
      *
-     * @param head     the new code, as long as a multiple of four says, with no jumps but to its own end
-     * @param maxStack what the new code needs of the stack
+     * @param head     the new code, of a length that is a multiple of four; it may only jump to its own end
+     * @param maxStack how much of the operand stack the new code needs
      */
     static byte[] withHead(ClassFileEditor file, int attributeAt, byte[] head, int maxStack, boolean jumpsToOldHead) {
         return new MovedCode(file, attributeAt, head.length, jumpsToOldHead).attribute(head, maxStack);
@@ -93,7 +93,7 @@ final class MovedCode {
         return null;
     }
 
-    /** 4.7.12. The entry's line covers the new code too, or a stack trace taken there would have none. */
+    /** 4.7.12. The first line covers the new code too, so that a stack trace taken there has a line. */
     private byte[] movedLines(int tableAt) {
         ByteSink out = new ByteSink();
         int count = u2(tableAt);
@@ -104,7 +104,10 @@ final class MovedCode {
         return out.toByteArray();
     }
 
-    /** 4.7.13 and 4.7.14. What is alive at the entry, the parameters, is alive in the new code too. */
+    /**
+     * 4.7.13 and 4.7.14. Variables that are alive at the entry, which are the parameters, are alive in the new code
+     * too.
+     */
     private byte[] movedVariables(int tableAt) {
         ByteSink out = new ByteSink();
         int count = u2(tableAt);
@@ -123,13 +126,13 @@ final class MovedCode {
     }
 
     /**
-     * 4.7.4. An offset counts from the end of the frame before, so that only the first one moves: by the new code, or,
-     * if the old head gets a frame of its own, to the place after that.
+     * 4.7.4. Each offset counts from the frame before, so only the first one changes: it grows by the length of the new
+     * code, or, if a new frame for the old head comes before it, counts from there.
      */
     private byte[] movedFrames(int tableAt) {
         ByteSink out = new ByteSink();
         int count = u2(tableAt);
-        // A loop's frame at the old head already says of the locals what the jump there needs.
+        // If the old head has a frame already, because a loop jumps there, that one serves.
         boolean addsFrame = jumpsToOldHead && (count == 0 || offset(tableAt + 2) > 0);
         out.u2(addsFrame ? count + 1 : count);
         if (addsFrame) {

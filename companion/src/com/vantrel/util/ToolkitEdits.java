@@ -18,8 +18,8 @@ import static com.vantrel.util.Instructions.RETURN;
 import com.vantrel.hooks.Hooks;
 
 /**
- * What the agent adds to {@code java.awt.Component} and {@code Container}. A change that the inspector can do without
- * is left out of a VM whose class has no such method; what it cannot do without must be possible.
+ * What the agent adds to {@code java.awt.Component} and {@code Container}. If the VM's class lacks a method that is to
+ * be edited, the edit is left out where the inspector can do without it; otherwise it is an error.
  */
 final class ToolkitEdits {
     static final String COMPONENT = "java/awt/Component";
@@ -38,14 +38,14 @@ final class ToolkitEdits {
     private static final String CHANGES = "vantrel$changes";
     private static final String PARENT_TYPE = "Ljava/awt/Container;";
 
-    /** Methods of Component that say in their first argument which property changes. */
+    /** Descriptors of firePropertyChange, whose first argument is the property that changes. */
     private static final String[] FIRING = {
             "(Ljava/lang/String;Ljava/lang/Object;Ljava/lang/Object;)V",
             "(Ljava/lang/String;ZZ)V",
             "(Ljava/lang/String;II)V",
     };
 
-    /** Other methods of Component through which every change of something goes, and of what. */
+    /** Other methods of Component through which all changes of a property go: name, descriptor, property. */
     private static final String[][] CHANGING = {
             {"reshape", "(IIII)V", Hooks.BOUNDS},
             {"show", "()V", Hooks.VISIBLE},
@@ -62,8 +62,8 @@ final class ToolkitEdits {
 
     /**
      * Gives components room for their trace and their changes, has them tell {@link Hooks} of events and changes, and
-     * adds the private transient field {@code windowClosingException} that the agent reads by name, which VMs up to 8
-     * have themselves.
+     * adds the private transient field {@code windowClosingException}, which the agent looks up by name and only VMs up
+     * to 8 have themselves.
      *
      * @param hasModules whether the VM has modules, which the class is then to open to the companion
      */
@@ -86,8 +86,8 @@ final class ToolkitEdits {
     }
 
     /**
-     * Has containers tell {@link Hooks} of additions and removals, and remember with a component the stack on which it
-     * got its parent. Every way of giving it one is a write to {@code Component.parent} in this class.
+     * Has containers tell {@link Hooks} of additions and removals, and store in a component the stack on which it got
+     * its parent. All additions and removals are writes to {@code Component.parent} in this class.
      */
     static void editContainer(ClassFileEditor container) {
         String name = "vantrel$setParent";
@@ -117,9 +117,9 @@ final class ToolkitEdits {
     }
 
     /**
-     * Adds a field for something that goes with its component, and how {@link com.vantrel.hooks.ComponentField} reaches
-     * it from outside of the package. The field is volatile so that whoever finds something there finds all of it, on
-     * any thread; the methods are static so that they do not pass for properties.
+     * Adds a field to components, with the methods by which {@link com.vantrel.hooks.ComponentField} reads and writes
+     * it from outside of the package. The field is volatile, so that an object in it is seen complete on any thread.
+     * The methods are static, so that they are not taken for a property.
      */
     private static void addRoom(ClassFileEditor component, String name) {
         component.addField(ACC_TRANSIENT | ACC_VOLATILE | ACC_SYNTHETIC, name, "Ljava/lang/Object;");
@@ -131,7 +131,10 @@ final class ToolkitEdits {
         component.addMethod(flags, name, "(Ljava/awt/Component;Ljava/lang/Object;)V", 2, 2, set, NO_FRAME);
     }
 
-    /** {@code if (Hooks.event(this, event)) return;} before all that happens to an event. */
+    /**
+     * {@code if (Hooks.event(this, event)) return;} at the head of dispatchEvent, so before anything is done with an
+     * event.
+     */
     private static void filterEvents(ClassFileEditor component) {
         int event = component.methodRef(HOOKS, "event", "(Ljava/awt/Component;Ljava/awt/AWTEvent;)Z");
         // An instruction, or a few that belong together, to a line.
@@ -145,7 +148,7 @@ final class ToolkitEdits {
     }
 
     /**
-     * {@code Hooks.changing(this, what);} first of all.
+     * {@code Hooks.changing(this, what);} at the head of a method.
      *
      * @param what null for the method's first argument
      */
@@ -161,8 +164,8 @@ final class ToolkitEdits {
     }
 
     /**
-     * {@code Component.class.getModule().addOpens(packageName, Hooks.class.getModule());} as a method of the class, for
-     * the VM asks whose code it is that opens a package.
+     * {@code Component.class.getModule().addOpens(packageName, Hooks.class.getModule());} as a method of the class,
+     * because only code of the module itself may open its packages.
      */
     private static void addOpen(ClassFileEditor component) {
         int getModule = component.methodRef("java/lang/Class", "getModule", "()Ljava/lang/Module;");

@@ -15,7 +15,7 @@ import com.vantrel.model.Selection;
 public final class AddedAtPanel extends JPanel {
     private static final long serialVersionUID = 1L;
 
-    /** A component can be added anew while it is selected. */
+    /** Looks again and again, because a selected component can be removed and added anew. */
     private static final int MILLIS_BETWEEN_LOOKS = 500;
 
     private final transient Selection selection;
@@ -42,7 +42,7 @@ public final class AddedAtPanel extends JPanel {
         stack.openWhere();
     }
 
-    /** Has what became of an attempt told to somebody else, too, while this panel does not show. */
+    /** Sets who else is told what became of an attempt to open a line, while this panel does not show. */
     public void onOutcome(Consumer<Editor.Outcome> listener) {
         stack.onOutcome(listener);
     }

@@ -101,7 +101,7 @@ final class BoxDrawing extends JComponent {
         String label = "baseline " + boxes.baseline();
         FontMetrics metrics = g.getFontMetrics();
         int x = content.x + content.width - metrics.stringWidth(label) - 4;
-        // Above or below the line, wherever the size does not stand.
+        // The label is above or below the line, on the side where it does not meet the size.
         int base = y > content.y + content.height / 2
                 ? Math.min(y + metrics.getAscent() + 1, content.y + content.height - 2)
                 : y - 3;

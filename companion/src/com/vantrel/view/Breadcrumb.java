@@ -17,11 +17,12 @@ import javax.accessibility.AccessibleRole;
 import javax.swing.JComponent;
 import javax.swing.event.MouseInputAdapter;
 
+import com.vantrel.model.Code;
 import com.vantrel.model.Description;
 
 /**
- * The components that the selected one is in, from its window on, in one line; a click selects one. Where there is not
- * room for all, those in the middle give way.
+ * The components that the selected one is in, from its window on, in one line; a click selects one. If there is no room
+ * for all, some after the first are left out.
  */
 final class Breadcrumb extends JComponent {
     private static final long serialVersionUID = 1L;
@@ -41,7 +42,7 @@ final class Breadcrumb extends JComponent {
 
         Crumb(Component component) {
             this.component = new WeakReference<>(component);
-            text = Description.label(component);
+            text = Code.describe(component);
         }
     }
 
@@ -101,7 +102,7 @@ final class Breadcrumb extends JComponent {
         repaint();
     }
 
-    /** What stands there, for those who do not see it: all of it, however little room there is. */
+    /** For screen readers: the whole text, even where there is no room to paint all of it. */
     @Override
     public AccessibleContext getAccessibleContext() {
         if (accessibleContext == null) {
@@ -172,7 +173,7 @@ final class Breadcrumb extends JComponent {
         g.dispose();
     }
 
-    /** How many crumbs after the first one must go for the rest to have room. */
+    /** How many crumbs after the first one must be left out for the rest to have room. */
     private int leftOut(FontMetrics metrics, int room) {
         int separator = metrics.stringWidth(SEPARATOR);
         int width = 0;

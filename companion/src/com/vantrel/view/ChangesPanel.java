@@ -53,7 +53,7 @@ final class ChangesPanel extends JPanel {
         stack.show(CallStack.of(), NONE_YET);
     }
 
-    /** Has what became of an attempt to open a line told to somebody else, too, while this panel does not show. */
+    /** Sets who else is told what became of an attempt to open a line, while this panel does not show. */
     void onOutcome(Consumer<Editor.Outcome> listener) {
         stack.onOutcome(listener);
     }

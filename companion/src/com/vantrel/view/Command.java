@@ -49,7 +49,7 @@ final class Command extends AbstractAction {
         return (modifiers.isEmpty() ? "" : modifiers + "+") + KeyEvent.getKeyText(stroke.getKeyCode());
     }
 
-    /** Takes its key anywhere in the window. */
+    /** Has its key work anywhere in a component, such as the window's content. */
     Command in(JComponent root) {
         KeyStroke stroke = (KeyStroke) getValue(ACCELERATOR_KEY);
         if (stroke != null) {

@@ -7,13 +7,14 @@ import java.util.List;
 
 import javax.swing.JComponent;
 
+import com.vantrel.model.Code;
 import com.vantrel.model.Description;
 import com.vantrel.model.Edits;
 import com.vantrel.model.Facts;
 import com.vantrel.model.Selection;
 import com.vantrel.model.Showing;
 
-/** All that the window can be told to do, for its menus, buttons and keys alike. */
+/** Everything that the user can have the window do; its menus, buttons and keys share these commands. */
 final class Commands {
     final Command pick;
     final Command find;
@@ -35,7 +36,7 @@ final class Commands {
     private final Edits edits;
     private final Sight sight;
     private final StatusLine status;
-    /** What is shown in the program until it is selected no more. */
+    /** The component that has a box around it in the program, until another one is selected. */
     private WeakReference<Component> shown = new WeakReference<>(null);
 
     Commands(Selection selection, Edits edits, TreePane tree, Sight sight, StatusLine status,
@@ -94,7 +95,7 @@ final class Commands {
             shown = new WeakReference<>(component);
             sight.outline(component);
         } else {
-            status.say(Description.label(component) + " cannot be seen: " + showing.words() + ".", true);
+            status.say(Code.describe(component) + " cannot be seen: " + showing.words() + ".", true);
         }
     }
 
@@ -103,7 +104,10 @@ final class Commands {
         sight.outline(null);
     }
 
-    /** What somebody has asked to be shown in the program, while nothing else is; null for nothing. */
+    /**
+     * The component that the user wants a box around; null for none. A box around another row's component takes its
+     * place for a while.
+     */
     Component shown() {
         return shown.get();
     }
@@ -128,7 +132,7 @@ final class Commands {
                 machinery, expandAll, collapseAll, undo, redo);
     }
 
-    /** Takes the commands' keys anywhere in the window. */
+    /** Has the commands' keys work anywhere in the window. */
     void bind(JComponent root) {
         for (Command command : all()) {
             command.in(root);

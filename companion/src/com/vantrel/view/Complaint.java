@@ -8,7 +8,10 @@ import javax.swing.JComponent;
 import javax.swing.JLabel;
 import javax.swing.Timer;
 
-/** Says in a list or table what is wrong with a value, right beside it, for a few seconds. For the event thread. */
+/**
+ * A message in a list or table that says for a few seconds what is wrong with a value, right below or above it. For the
+ * event thread.
+ */
 final class Complaint {
     private static final int MILLIS = 6000;
     private static final Color BACKGROUND = new Color(0xB3261E);
@@ -17,7 +20,7 @@ final class Complaint {
     private final JLabel label = new JLabel();
     private final Timer end = new Timer(MILLIS, event -> hide());
 
-    /** @param in without a layout manager, and free to have a label in it */
+    /** @param in has no layout manager, and may have a label added to it */
     Complaint(JComponent in) {
         this.in = in;
         label.setName("vantrel.complaint");
@@ -33,7 +36,7 @@ final class Complaint {
         label.setBorder(BorderFactory.createEmptyBorder(2, RowPainter.PADDING, 2, RowPainter.PADDING));
     }
 
-    /** Says something below a cell, or above it where there is no room below. */
+    /** Shows a message below a cell, or above it if there is no room below. */
     void show(Rectangle cell, String text) {
         hide();
         int width = in.getWidth() - 2 * Look.GAP;
@@ -46,7 +49,7 @@ final class Complaint {
         end.restart();
     }
 
-    /** Says nothing any more. */
+    /** Takes the message away. */
     void hide() {
         end.stop();
         in.remove(label);

@@ -17,6 +17,7 @@ import javax.swing.JPanel;
 import javax.swing.JScrollPane;
 import javax.swing.JTabbedPane;
 import javax.swing.JTable;
+import javax.swing.JTextPane;
 import javax.swing.KeyStroke;
 import javax.swing.SwingUtilities;
 import javax.swing.Timer;
@@ -30,11 +31,13 @@ import com.vantrel.model.Selection;
 import com.vantrel.model.SetBy;
 import com.vantrel.model.Target;
 import com.vantrel.record.SetBys;
+import com.vantrel.why.Sentence;
+import com.vantrel.why.Why;
 
 /**
- * All that there is to know of the selected component, on the right of the window: a header, and a tab each for its
- * properties, layout, where it was added, changes, listeners and keys. Reads while it shows, and only what is selected
- * and in front; drops all of it when the selection is cleared. Belongs to the event thread.
+ * Everything about the selected component, on the right of the window: a header, why it is as it is, and a tab each for
+ * its properties, its layout, where it was added, changes, listeners and keys. Reads only while it shows, and only for
+ * the tab in front. When the selection is cleared it drops everything. Belongs to the event thread.
  */
 public final class Details extends JPanel {
     private static final long serialVersionUID = 1L;
@@ -52,16 +55,21 @@ public final class Details extends JPanel {
     private final RowsPanel listeners = new RowsPanel("vantrel.listeners", "Filter listeners");
     private final KeysPanel keys;
     private final ChangesPanel changes;
+    private final WhyPane why;
+    private transient Consumer<Editor.Outcome> elsewhere = outcome -> {};
     private final JButton readAll = new JButton("Read all");
     private final Timer readings = new Timer(MILLIS_BETWEEN_READINGS, event -> read());
     private transient Reading reading;
-    /** Whether what is shown is the selection's from before, so that what differs has changed. */
+    /**
+     * Whether the selected component has been shown already, so that a value that differs has changed and is to flash.
+     */
     private boolean shown;
     private int count;
+    private int whyCount;
 
     /**
-     * @param selection what is shown, and written to by a click on a sibling
-     * @param edits     what is changed here goes through it
+     * @param selection whose component is shown; a click on a sibling changes it
+     * @param edits     makes the changes that are entered here
      * @param addedAt   the panel that says where the component was added; openWhere opens the line
      */
     public Details(Selection selection, Edits edits, JComponent addedAt, Runnable openWhere) {
@@ -69,6 +77,8 @@ public final class Details extends JPanel {
         this.selection = selection;
         this.edits = edits;
         header = new Header(openWhere);
+        why = new WhyPane(selection::select, line -> OpenLine.open(line, outcome -> elsewhere.accept(outcome)));
+        header.addBelow(why);
         layout = new LayoutPanel(selection, () -> reading, edits, this::showReading);
         keys = new KeysPanel(selection);
         changes = new ChangesPanel(selection);
@@ -88,6 +98,9 @@ public final class Details extends JPanel {
         tabs.addTab("Keys", keys);
         tabs.addChangeListener(event -> showInFront(false));
         leaveKeysToTabs(tabs);
+        leaveKeysToTabs(why);
+        goFromTabToTab("ctrl PAGE_UP", -1);
+        goFromTabToTab("ctrl PAGE_DOWN", 1);
         add(header, BorderLayout.NORTH);
         add(tabs, BorderLayout.CENTER);
         selection.onChange(this::selectionChanged);
@@ -101,8 +114,9 @@ public final class Details extends JPanel {
         selectionChanged();
     }
 
-    /** Has what became of an attempt to open a line told to somebody else, too, while its tab does not show. */
+    /** Sets who else is told what became of an attempt to open a line, while its tab does not show. */
     void onOutcome(Consumer<Editor.Outcome> listener) {
+        elsewhere = listener;
         changes.onOutcome(listener);
     }
 
@@ -111,7 +125,7 @@ public final class Details extends JPanel {
         changes.select(property.name());
     }
 
-    /** The lines of what has been read, with who has set what. */
+    /** The rows of what has been read, each with who has set the value. */
     private List<Row> rows() {
         Component component = reading.target().isCell() ? null : reading.target().component();
         if (component == null) {
@@ -125,10 +139,14 @@ public final class Details extends JPanel {
         return rows;
     }
 
-    /** Lets the keys that go from tab to tab through to the tabs: tables, lists and scroll panes would go sideways. */
+    /**
+     * Leaves Control+PageUp and PageDown to the tabs. Tables, lists and scroll panes use these keys, too, to scroll
+     * sideways.
+     */
     private static void leaveKeysToTabs(Container in) {
         for (Component child : in.getComponents()) {
-            if (child instanceof JTable || child instanceof JList || child instanceof JScrollPane) {
+            if (child instanceof JTable || child instanceof JList || child instanceof JScrollPane
+                    || child instanceof JTextPane) {
                 for (int condition : new int[] {WHEN_FOCUSED, WHEN_ANCESTOR_OF_FOCUSED_COMPONENT}) {
                     InputMap keys = ((JComponent) child).getInputMap(condition);
                     keys.put(KeyStroke.getKeyStroke("ctrl PAGE_UP"), "none");
@@ -139,6 +157,14 @@ public final class Details extends JPanel {
                 leaveKeysToTabs((Container) child);
             }
         }
+    }
+
+    /** Takes the keys of the tabs above them, too. */
+    private void goFromTabToTab(String key, int step) {
+        RowsPanel.bind(this, WHEN_ANCESTOR_OF_FOCUSED_COMPONENT, KeyStroke.getKeyStroke(key), () -> {
+            int count = tabs.getTabCount();
+            tabs.setSelectedIndex((tabs.getSelectedIndex() + step + count) % count);
+        });
     }
 
     private void showingChanged() {
@@ -155,6 +181,7 @@ public final class Details extends JPanel {
         reading = target == null ? null : new Reading(target);
         shown = false;
         count = 0;
+        whyCount = 0;
         keys.forget();
         listeners.show(Collections.emptyList(), false);
         readAll.setEnabled(false);
@@ -166,13 +193,13 @@ public final class Details extends JPanel {
     private void read() {
         boolean there = reading != null && reading.refresh();
         if (reading != null && !there && selection.target() == null) {
-            // It has been collected: what was read of it is still worth looking at, but nothing can be done with it.
+            // The component has been collected. What was read of it stays to look at, but nothing can be done with it.
             header.show(reading);
             return;
         }
         edits.forgetGone();
         showReading();
-        // The first time more is to be read than the event thread should be held for at once.
+        // The first reading takes longer than the event thread may be held, so it goes on in another event.
         if (reading != null && !reading.isComplete()) {
             SwingUtilities.invokeLater(this::readOn);
         }
@@ -186,12 +213,16 @@ public final class Details extends JPanel {
 
     private void showReading() {
         header.show(reading);
+        if (reading == null || whyCount++ % READINGS_BETWEEN_SEARCHES == 0) {
+            Component component = reading == null || reading.target().isCell() ? null : selection.component();
+            why.show(component == null ? Collections.<Sentence>emptyList() : Why.of(component));
+        }
         readAll.setEnabled(reading != null && !reading.unasked().isEmpty());
         showInFront(shown);
         shown = reading != null;
     }
 
-    /** Shows in the tab in front what has been read; the others will when they come to the front. */
+    /** Shows what has been read in the tab in front. Other tabs do so when they come to the front. */
     private void showInFront(boolean flash) {
         Component front = tabs.getSelectedComponent();
         if (front == properties || reading == null) {

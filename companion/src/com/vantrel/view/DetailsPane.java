@@ -32,7 +32,7 @@ final class DetailsPane extends JPanel {
         add(state, STATE);
     }
 
-    /** Takes in what tells all about the component: it takes a while to make, and comes when the window is there. */
+    /** Adds the details. They take a while to make, so they come after the window is shown. */
     void fill(JComponent details) {
         whole.add(details);
         whole.revalidate();

@@ -6,8 +6,8 @@ import java.awt.event.MouseEvent;
 import javax.swing.SwingUtilities;
 
 /**
- * Tells a double click on a row from other clicks. An event's own click count does not: under X11 it goes on from a
- * quick click on another row, or in another window. For the event thread.
+ * Tells a double click on a row from other clicks. An event's own click count cannot tell that: under X11 it also
+ * counts a quick click before on another row or in another window. For the event thread.
  */
 final class DoubleClick {
     private static final int USUAL_MILLIS = 500;
@@ -16,9 +16,9 @@ final class DoubleClick {
     private long when;
 
     /**
-     * Whether a press is the second one of a double click. To be asked of every press of any button.
+     * Whether a press is the second one of a double click. To be called for every press of any button.
      *
-     * @param on the row, as something that equals itself and no other; null for none
+     * @param on something that stands for the row, and equals nothing that stands for another row; null for none
      */
     boolean isEndedBy(MouseEvent press, Object on) {
         boolean left = SwingUtilities.isLeftMouseButton(press);
@@ -28,7 +28,7 @@ final class DoubleClick {
         return ended;
     }
 
-    /** As the user has set it for the desktop. */
+    /** How long a double click may take, as the user has set it for the desktop. */
     private static int millis() {
         Object set = Toolkit.getDefaultToolkit().getDesktopProperty("awt.multiClickInterval");
         return set instanceof Integer ? (Integer) set : USUAL_MILLIS;

@@ -25,7 +25,7 @@ final class EditorSettings extends JPanel {
     private final transient Consumer<Editor.Outcome> told;
     private int row;
 
-    /** @param told hears what is wrong with what was entered, or that it is remembered */
+    /** @param told is told what is wrong with the entered text, or that it is remembered */
     EditorSettings(Consumer<Editor.Outcome> told) {
         super(new GridBagLayout());
         this.told = told;

@@ -14,8 +14,8 @@ import javax.swing.JToggleButton;
 import javax.swing.plaf.basic.BasicButtonUI;
 
 /**
- * A button without a frame that shows itself under the pointer, and stays lit while it is switched on. The same under
- * every look and feel.
+ * A button without a frame. Its background appears while the pointer is over it, and stays while it is switched on. The
+ * same under every look and feel.
  */
 final class FlatButton extends JToggleButton {
     private static final long serialVersionUID = 1L;
@@ -23,7 +23,7 @@ final class FlatButton extends JToggleButton {
 
     private final boolean isToggle;
 
-    /** @param toggle whether a click switches it on or off; otherwise it does something, and stays as it is */
+    /** @param toggle whether a click switches it on or off; otherwise a click just runs the action */
     FlatButton(Action action, Icon icon, boolean toggle) {
         isToggle = toggle;
         if (!toggle) {

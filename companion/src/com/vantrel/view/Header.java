@@ -72,6 +72,11 @@ final class Header extends JPanel {
         }
     }
 
+    /** Adds something below the lines. */
+    void addBelow(Component part) {
+        add(part, BorderLayout.SOUTH);
+    }
+
     /** @param reading null for nothing */
     void show(Reading reading) {
         Component component = reading == null ? null : reading.target().component();
@@ -138,7 +143,10 @@ final class Header extends JPanel {
         return row != null && row.check() != null && row.check() == value;
     }
 
-    /** A label that is set anew is laid out anew, with all that stands around it. */
+    /**
+     * Sets a label's text only if it has changed, because each setting lays out the label and everything around it
+     * anew.
+     */
     private static void set(JLabel label, String text) {
         String shown = text.isEmpty() ? " " : RowPainter.oneLine(text);
         if (!shown.equals(label.getText())) {

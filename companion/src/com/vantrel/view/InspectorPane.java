@@ -40,7 +40,7 @@ public final class InspectorPane extends JPanel {
     private final JMenuBar menus;
 
     /**
-     * @param edits what is changed in the program goes through it
+     * @param edits makes the user's changes in the program
      * @param close hides the window
      */
     public InspectorPane(Selection selection, Edits edits, Sight sight, Runnable close) {
@@ -133,7 +133,10 @@ public final class InspectorPane extends JPanel {
         SwingUtilities.invokeLater(this::fillDetails);
     }
 
-    /** A step of its own, for the event thread is the program's, too: all at once would hold it too long. */
+    /**
+     * An event of its own: the event thread is the program's, too, and making the whole window at once would hold it
+     * too long.
+     */
     private void fillDetails() {
         if (isDisplayable()) {
             AddedAtPanel addedAt = new AddedAtPanel(selection);
@@ -144,7 +147,7 @@ public final class InspectorPane extends JPanel {
         }
     }
 
-    /** Remembers what is to be remembered of the window's parts. */
+    /** Stores in the settings how the parts of the window are arranged. */
     public void remember() {
         Settings.set(SPLIT, String.valueOf(split.getDividerLocation()));
         Settings.set(MACHINERY, String.valueOf(tree.tree().showsMachinery()));

@@ -19,7 +19,8 @@ import com.vantrel.model.Row;
 import com.vantrel.model.Selection;
 
 /**
- * The key bindings that can take a key while the selected component has the focus, and which one takes a certain key.
+ * The key bindings that can take a key while the selected component has the focus; for a key that the user presses, it
+ * shows which of them takes it.
  */
 final class KeysPanel extends JPanel {
     private static final long serialVersionUID = 1L;
@@ -31,7 +32,7 @@ final class KeysPanel extends JPanel {
     private final JToggleButton press = new JToggleButton(PROMPT);
     private final JButton all = new JButton("All keys");
     private final transient Selection selection;
-    /** What a pressed key has found; null while all bindings are shown. */
+    /** The bindings of the pressed key; null while all bindings are shown. */
     private transient List<Row> takers;
 
     KeysPanel(Selection selection) {
@@ -41,7 +42,7 @@ final class KeysPanel extends JPanel {
         press.setToolTipText("Click, then press a key: it tells which binding would take it. It takes one key only.");
         press.addItemListener(event -> {
             press.setText(press.isSelected() ? ARMED : PROMPT);
-            // Of all keys, also those that otherwise move the focus.
+            // So that keys that otherwise move the focus can be asked about, too.
             press.setFocusTraversalKeysEnabled(!press.isSelected());
         });
         press.addKeyListener(new KeyAdapter() {

@@ -17,7 +17,7 @@ import javax.swing.Icon;
 
 import com.vantrel.model.Kind;
 
-/** A small drawing of each kind of component, in lines, sharp at any scale, in the colour of the text beside it. */
+/** A small line drawing for each kind of component, sharp at any scale, in the colour of the text beside it. */
 final class KindIcon implements Icon {
     static final int SIZE = 14;
 

@@ -12,7 +12,10 @@ import com.vantrel.model.LayoutFacts;
 import com.vantrel.model.Reading;
 import com.vantrel.model.Selection;
 
-/** Where the selected component is and why: its boxes, its place among its siblings, and below it the facts. */
+/**
+ * Where the selected component is and why: drawings of its boxes and of its place among its siblings, and a table below
+ * them.
+ */
 final class LayoutPanel extends JPanel {
     private static final long serialVersionUID = 1L;
 

@@ -15,11 +15,14 @@ import javax.swing.border.Border;
 
 /**
  * The inspector's colours, fonts and distances, in one place so that all its parts look like one tool. The look and
- * feel is the program's: its colours are taken where it has them, and every one has a fallback. Nothing is kept, for
+ * feel is the program's: its colours are used where it has them, and each has a fallback. No colour is kept, because
  * the program may change its look and feel at any time. Belongs to the event thread.
  */
 public final class Look {
-    /** The distance between things that belong together, in user space; others are two or three of them apart. */
+    /**
+     * The distance between things that belong together, in user space. Other things are two or three times as far
+     * apart.
+     */
     public static final int GAP = 6;
 
     private static final int DEFAULT_FONT_SIZE = 12;
@@ -35,7 +38,7 @@ public final class Look {
         return color("Label.foreground", new Color(0x1F1F1F));
     }
 
-    /** Behind lists and tables. */
+    /** The background of lists and tables. */
     public static Color paper() {
         return color("List.background", color("Tree.background", isDark() ? background().darker() : Color.WHITE));
     }
@@ -81,12 +84,12 @@ public final class Look {
         return new Color(0xFC7E00);
     }
 
-    /** What flashes behind a value that has just changed. */
+    /** The background that flashes when a value has just changed. */
     public static Color changed() {
         return mix(highlight(), paper(), 0.55);
     }
 
-    /** Behind a button that the pointer is over, and behind one that is switched on. */
+    /** The background of a button under the pointer. */
     public static Color hover() {
         return mix(foreground(), background(), 0.9);
     }
@@ -112,7 +115,9 @@ public final class Look {
         return 0.299 * color.getRed() + 0.587 * color.getGreen() + 0.114 * color.getBlue();
     }
 
-    /** Has lines and text painted smooth, as the desktop has it. For whoever paints by itself. */
+    /**
+     * A copy of a graphics object that paints lines and text smooth, as the desktop does. The caller disposes of it.
+     */
     public static Graphics2D smooth(Graphics graphics) {
         Graphics2D g = (Graphics2D) graphics.create();
         Object hints = Toolkit.getDefaultToolkit().getDesktopProperty("awt.font.desktophints");
@@ -150,7 +155,7 @@ public final class Look {
         if (metrics.stringWidth(text) <= room) {
             return text;
         }
-        // No letter is narrower than a pixel: of a text of a thousand letters those that cannot fit are not measured.
+        // No letter is narrower than a pixel, so the part of a long text that cannot fit need not be measured.
         int end = Math.min(text.length(), Math.max(0, room));
         while (end > 0 && metrics.stringWidth(text.substring(0, end) + "\u2026") > room) {
             end--;
@@ -170,8 +175,8 @@ public final class Look {
 
     private static Color color(String key, Color fallback) {
         Color color = UIManager.getColor(key);
-        // Not the look and feel's own object: it would count as the look and feel's on a component that it is set on,
-        // and some have colours that fail outside of its own painters.
+        // A copy, because the look and feel replaces its own colour objects wherever it finds them on a component, and
+        // some looks and feels have colour objects that fail outside of their own painters.
         return color == null ? fallback : new Color(color.getRGB());
     }
 }

@@ -9,7 +9,7 @@ import javax.swing.JMenuBar;
 import javax.swing.JMenuItem;
 import javax.swing.JPopupMenu;
 
-/** The window's menus: every command is in one of them, so that they tell what there is, and by which key. */
+/** The window's menus. Every command is in one of them, so that users find all commands there, with their keys. */
 final class Menus {
     private Menus() {
     }

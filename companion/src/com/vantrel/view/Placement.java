@@ -13,11 +13,11 @@ import java.awt.Window;
 import com.vantrel.model.Ours;
 import com.vantrel.model.Settings;
 
-/** Where the inspector's window goes on the screen: where it was last, or else beside the program. */
+/** Where the inspector's window appears on the screen: where it was last, or else beside the program. */
 public final class Placement {
     private static final String BOUNDS = "window.bounds";
     private static final Dimension SIZE = new Dimension(1000, 650);
-    /** So much of a window must be on a screen for somebody to take hold of it. */
+    /** How much of a window must be on a screen so that the user can drag it. */
     private static final Dimension GRIP = new Dimension(120, 40);
 
     private Placement() {
@@ -44,13 +44,13 @@ public final class Placement {
                 bounds.setBounds(Integer.parseInt(parts[0]), Integer.parseInt(parts[1]), Integer.parseInt(parts[2]),
                         Integer.parseInt(parts[3]));
             } catch (NumberFormatException e) {
-                bounds.setBounds(0, 0, 0, 0); // somebody has been at the file
+                bounds.setBounds(0, 0, 0, 0); // somebody has edited the file
             }
         }
         return bounds;
     }
 
-    /** Remembers where a window is, unless it is minimised or as large as the screen. */
+    /** Remembers where a window is, unless it is minimised or maximised. */
     public static void remember(Frame frame) {
         if (frame.getExtendedState() == Frame.NORMAL) {
             Rectangle now = frame.getBounds();

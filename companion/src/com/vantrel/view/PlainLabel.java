@@ -28,7 +28,7 @@ final class PlainLabel extends JLabel {
     @Override
     public void updateUI() {
         super.updateUI();
-        if (color != null) { // not yet while the superclass is made
+        if (color != null) { // the superclass's constructor calls this, too
             setFont(Look.font().deriveFont(Look.font().getSize2D() * size));
             setForeground(color.get());
         }

@@ -47,7 +47,10 @@ final class PropertyRows implements ValueEditor.Editing {
         return onDemand;
     }
 
-    /** Reads all that waits to be asked for: each in an event of its own, so that the program goes on in between. */
+    /**
+     * Reads all properties that are read on demand only, each in an event of its own, so that the program goes on in
+     * between.
+     */
     void askAll() {
         Reading from = reading.get();
         if (from != null) {

@@ -31,7 +31,7 @@ final class RowCommands {
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_RIGHT, 0), action("Unfold", () -> table.fold(true)));
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_HOME, 0), action("First", () -> table.go(0)));
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_END, 0), action("Last", () -> table.go(table.getRowCount() - 1)));
-        // Out of the table, and not from cell to cell: a row is walked as one.
+        // Tab leaves the table, and does not go from cell to cell: the whole row is selected.
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_TAB, 0), action("Next", table::transferFocus));
         bind(KeyStroke.getKeyStroke(KeyEvent.VK_TAB, InputEvent.SHIFT_DOWN_MASK),
                 action("Previous", table::transferFocusBackward));
@@ -60,7 +60,10 @@ final class RowCommands {
         })));
     }
 
-    /** Takes a key, but not from an editor, to which the table is a parent. */
+    /**
+     * Binds a key in the table and its children. (The action does nothing while a cell is being edited: the editor is a
+     * child.)
+     */
     private Action bind(KeyStroke key, Action action) {
         Object name = "vantrel " + key;
         table.getInputMap(JComponent.WHEN_ANCESTOR_OF_FOCUSED_COMPONENT).put(key, name);

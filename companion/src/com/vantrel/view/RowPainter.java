@@ -16,13 +16,13 @@ import javax.swing.table.TableCellRenderer;
 import com.vantrel.model.Row;
 
 /**
- * Paints the cells of a table of rows. By itself and not with a label, for looks and feels have their own ideas of
- * labels in tables, and this is to look the same under all of them.
+ * Paints the cells of a table of rows. It does not use a label, because looks and feels change labels in tables, and
+ * this is to look the same under all of them.
  */
 final class RowPainter extends JComponent implements TableCellRenderer {
     private static final long serialVersionUID = 1L;
 
-    /** What stands left of a text, and right of it. */
+    /** The room left of a text, and right of it. */
     static final int PADDING = Look.GAP;
     /** The side of a swatch or check box. */
     private static final int MARK = 11;
@@ -76,7 +76,7 @@ final class RowPainter extends JComponent implements TableCellRenderer {
         return metrics.stringWidth(oneLine(text)) + mark + indent + 2 * PADDING;
     }
 
-    /** Whether a cell's text is cut at its width, or at that of two where the note leaves its place to the value. */
+    /** Whether a cell's text is cut. A value without a note has the note's cell, too. */
     boolean isCut(Row row, int ofColumn) {
         boolean both = row.source().isEmpty() && ofColumn != RowsModel.NAME;
         int width = both                      ? valueWidth + noteWidth
@@ -103,7 +103,7 @@ final class RowPainter extends JComponent implements TableCellRenderer {
         g.dispose();
     }
 
-    /** A title goes over all columns: each paints its part of it. */
+    /** Paints this column's part of a title, which goes over all columns. */
     private void paintTitle(Graphics2D g) {
         Color back = selected ? tableBackground : Look.mix(Look.paper(), Look.ink(), 0.06);
         g.setColor(back);
@@ -139,7 +139,7 @@ final class RowPainter extends JComponent implements TableCellRenderer {
             paintText(g, row.name(), x + FOLD, getWidth(), textOn(back, Look.ink()));
         } else if (column == RowsModel.NOTE) {
             if (row.source().isEmpty()) {
-                // What a long value has no room for goes on here.
+                // A long value goes on here.
                 g.translate(-valueWidth, 0);
                 paintValue(g, row, getWidth() + valueWidth, back);
             } else {
@@ -184,7 +184,7 @@ final class RowPainter extends JComponent implements TableCellRenderer {
         }
     }
 
-    /** A colour for text, or that of selected text where it could not be read on a selection. */
+    /** The wanted colour for text, or another one if that could not be read on the background. */
     private Color textOn(Color back, Color wanted) {
         boolean readable = Math.abs(brightness(back) - brightness(wanted)) > 90;
         return readable                                                                    ? wanted

@@ -13,9 +13,9 @@ import javax.swing.table.AbstractTableModel;
 import com.vantrel.model.Row;
 
 /**
- * Rows in groups, as lines of a table: a line for each group that is not empty, and below it those rows that the filter
- * lets through, unless it is folded. Rows that are set again and say something else are remembered for a moment, so
- * that they can flash. Belongs to the event thread.
+ * Rows in groups, as lines of a table: a line for each group, and below it, unless it is folded, the rows of the group
+ * that pass the filter. Rows whose values change are remembered for a moment, so that they can flash. Belongs to the
+ * event thread.
  */
 final class RowsModel extends AbstractTableModel {
     private static final long serialVersionUID = 1L;
@@ -55,15 +55,16 @@ final class RowsModel extends AbstractTableModel {
     private transient List<Row> rows = Collections.emptyList();
     private transient List<Line> lines = Collections.emptyList();
     private String filter = "";
-    /** By group, whether the user has opened or folded it; others are as their rows want it. */
+    /** Whether the user has opened or folded a group, by its name. The rows decide about groups that are not here. */
     private final Map<String, Boolean> open = new HashMap<>();
     private final Map<String, Long> changedAt = new HashMap<>();
 
     /**
-     * Shows rows. What stays where it is keeps its line, so that nothing moves that has not changed.
+     * Shows rows, in the place of those that are there. If they are about the same things, the lines stay and only
+     * values change.
      *
-     * @param flash whether rows that say something else than before are to flash
-     * @return whether there are other lines than before
+     * @param flash whether rows whose values have changed are to flash
+     * @return whether the lines have changed, and not only values
      */
     boolean show(List<Row> now, boolean flash) {
         rows = now;
@@ -93,7 +94,7 @@ final class RowsModel extends AbstractTableModel {
         return false;
     }
 
-    /** Shows only rows that have each of the words of a text somewhere; all of them for an empty one. */
+    /** Shows only the rows that contain every word of a text; for an empty text, all rows. */
     void filter(String text) {
         filter = text.trim().toLowerCase(Locale.ROOT);
         lines = lines();
@@ -137,7 +138,7 @@ final class RowsModel extends AbstractTableModel {
         return true;
     }
 
-    /** Whether a group's rows are shown. What a filter has found always is. */
+    /** Whether a group's rows are shown. While there is a filter, all groups are open. */
     boolean isOpen(String group) {
         if (isFiltered()) {
             return true;
@@ -174,12 +175,12 @@ final class RowsModel extends AbstractTableModel {
         return lines.get(line).count;
     }
 
-    /** What tells a line from all others, whatever it says; null if there is no such line. */
+    /** Identifies a line, whatever its value; null if there is no such line. */
     String key(int line) {
         return line < 0 || line >= lines.size() ? null : lines.get(line).key();
     }
 
-    /** The line of a key, or the title of the group that it is in while that is folded; -1 if there is none. */
+    /** The line that a key identifies; if its group is folded, the group's title; -1 if there is neither. */
     int line(String key) {
         for (int i = 0; key != null && i < lines.size(); i++) {
             if (lines.get(i).key().equals(key)) {
@@ -195,7 +196,7 @@ final class RowsModel extends AbstractTableModel {
         return at == null ? 0 : Math.max(0, 1 - (double) (System.nanoTime() - at) / FLASH_NANOS);
     }
 
-    /** Whether a line flashes, or has until just now and is to be painted once more. */
+    /** Whether a line flashes, or has just ceased to, so that it must be painted once more. */
     boolean isFlashing() {
         boolean any = !changedAt.isEmpty();
         changedAt.values().removeIf(at -> System.nanoTime() - at > FLASH_NANOS);
@@ -221,7 +222,10 @@ final class RowsModel extends AbstractTableModel {
         return column == NAME ? row.name() : column == VALUE ? row.value() : row.source();
     }
 
-    /** What can be edited has an editor, which sets it itself: what is set is not always what is shown then. */
+    /**
+     * There is no setValueAt: an editor sets the property itself, and the value that is shown then is read from the
+     * component.
+     */
     @Override
     public boolean isCellEditable(int line, int column) {
         Row row = row(line);

@@ -29,8 +29,8 @@ import javax.swing.plaf.basic.BasicTextAreaUI;
 import com.vantrel.model.Row;
 
 /**
- * A table of rows with a field above it that filters them, and a strip below it that tells of the selected one what its
- * line has no room for. Belongs to the event thread.
+ * A table of rows, with a field above it that filters them, and a strip below it that shows the selected row in full.
+ * Belongs to the event thread.
  */
 final class RowsPanel extends JPanel {
     private static final long serialVersionUID = 1L;
@@ -47,7 +47,7 @@ final class RowsPanel extends JPanel {
     private final JPanel top = new JPanel(new BorderLayout(Look.GAP, 0));
 
     /**
-     * @param name   of the table, for scripts
+     * @param name   the table's, for scripts
      * @param prompt what stands in the empty filter field
      */
     RowsPanel(String name, String prompt) {
@@ -82,7 +82,7 @@ final class RowsPanel extends JPanel {
         int height = LINES_OF_STRIP * getFontMetrics(Look.font()).getHeight() + 2 * Look.GAP + 1;
         stripScroll.setPreferredSize(new Dimension(10, height));
         stripScroll.setBorder(BorderFactory.createMatteBorder(1, 0, 0, 0, Look.line()));
-        stripScroll.setViewportBorder(BorderFactory.createEmptyBorder()); // or some looks and feels draw one
+        stripScroll.setViewportBorder(BorderFactory.createEmptyBorder()); // some looks and feels would draw one
         stripScroll.setOpaque(false);
         stripScroll.getViewport().setOpaque(false);
     }
@@ -104,7 +104,7 @@ final class RowsPanel extends JPanel {
         return model;
     }
 
-    /** Tells nothing below the table, where something else tells of the selected row. */
+    /** Leaves out the strip, where something else shows the selected row. */
     void hideStrip() {
         stripScroll.setVisible(false);
     }
@@ -132,7 +132,7 @@ final class RowsPanel extends JPanel {
         Row row = table.selectedRow();
         String text = row == null ? HINT : text(row);
         strip.setForeground(row == null ? Look.dim() : Look.foreground());
-        // Only what is new: a text that is being read and copied from is not to be pulled away.
+        // An unchanged text is not set again, or the user would lose a selection in it.
         if (!text.equals(strip.getText())) {
             strip.setText(text);
             strip.setCaretPosition(0);
@@ -207,7 +207,7 @@ final class RowsPanel extends JPanel {
         });
     }
 
-    /** A text on whatever is behind it. Some looks and feels would fill a text area all the same. */
+    /** A text area without a background. Some looks and feels would paint one even if it is not opaque. */
     private static final class Strip extends JTextArea {
         private static final long serialVersionUID = 1L;
 

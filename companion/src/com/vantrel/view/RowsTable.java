@@ -26,14 +26,14 @@ import javax.swing.table.TableColumn;
 import com.vantrel.model.Row;
 
 /**
- * Rows in groups, to be walked, folded, copied and, where somebody says how, edited with the keyboard and the mouse.
- * Selection and place stay while values change. Belongs to the event thread.
+ * A table of rows in groups, which the user selects, folds, copies and (where an editor is set) edits, with the
+ * keyboard or the mouse. Selection and scroll position stay while values change. Belongs to the event thread.
  */
 final class RowsTable extends JTable {
     private static final long serialVersionUID = 1L;
 
     private static final int MILLIS_BETWEEN_FADES = 60;
-    /** At most this share of the width goes to names, and this to notes where values have no use for it themselves. */
+    /** The largest share of the width for names, and for notes where the values need the room themselves. */
     private static final double MOST_FOR_NAMES = 0.4;
     private static final double NOTES_SHARE = 0.29;
 
@@ -43,7 +43,7 @@ final class RowsTable extends JTable {
     private final Timer fades = new Timer(MILLIS_BETWEEN_FADES, event -> fade());
     private final transient Complaint complaint = new Complaint(this);
     private final transient RowCommands commands = new RowCommands(this);
-    /** What Enter or a double click does to a row before anything else; answers whether it did. */
+    /** What Enter or a double click does with a row; if it returns false, the row's value is edited. */
     private transient Predicate<Row> activator = row -> false;
     private String wantedKey;
     private int widestName;
@@ -62,7 +62,7 @@ final class RowsTable extends JTable {
         setSelectionMode(ListSelectionModel.SINGLE_SELECTION);
         setAutoResizeMode(AUTO_RESIZE_OFF);
         setSurrendersFocusOnKeystroke(true);
-        // Editing begins when it is asked for, ends when the focus goes elsewhere, and takes nothing half typed.
+        // A key does not start editing, except those that are bound to it. Editing ends when the focus goes elsewhere.
         putClientProperty("JTable.autoStartsEdit", Boolean.FALSE);
         putClientProperty("terminateEditOnFocusLost", Boolean.TRUE);
         look();
@@ -72,7 +72,7 @@ final class RowsTable extends JTable {
                 pressed(event);
             }
         });
-        // By itself a table repaints one cell of the selected row when the focus comes or goes.
+        // When the focus comes or goes, a table repaints only one cell of the selected row.
         addFocusListener(new FocusAdapter() {
             @Override
             public void focusGained(FocusEvent event) {
@@ -109,22 +109,22 @@ final class RowsTable extends JTable {
         return rows;
     }
 
-    /** Ours, though some looks and feels put their own in the place of a table's when they come or go. */
+    /** Always ours: some looks and feels replace a table's renderers when they are set or removed. */
     @Override
     public TableCellRenderer getCellRenderer(int row, int column) {
         return painter;
     }
 
-    /** Says what is done to a row by Enter or a double click, if anything; rows that can be edited are edited else. */
+    /** Sets what Enter or a double click does with a row. If it returns false, the row is edited where it can be. */
     void onActivate(Predicate<Row> what) {
         activator = what;
     }
 
-    /** Shows rows, in the place of those that stand there. */
+    /** Shows rows, in the place of those that are there. */
     void show(List<Row> now, boolean flash) {
         String key = selectedKey();
         if (isEditing() && flash) {
-            // What is being typed stands above the rows, whose order must not change below it.
+            // The editor lies over the row's place, so it goes if that row is not there any more.
             Row edited = rows.row(getEditingRow());
             boolean there = edited != null && now.stream().anyMatch(row -> row.isAbout(edited));
             if (!there) {
@@ -161,7 +161,10 @@ final class RowsTable extends JTable {
         return key == null ? wantedKey : key;
     }
 
-    /** Selects what was selected, or would be if it were there: the next component may have it again. */
+    /**
+     * Selects a line by its key. If there is none now, the key is remembered, because the next component may have such
+     * a line.
+     */
     private void select(String key, boolean scroll) {
         wantedKey = key;
         int line = rows.line(key);
@@ -227,7 +230,10 @@ final class RowsTable extends JTable {
         super.doLayout();
     }
 
-    /** The columns grow with what is in them, and shrink only when there are other rows: nothing wobbles. */
+    /**
+     * Has the columns measured anew. Otherwise they only grow with what is in them, so that they do not jitter while
+     * values change.
+     */
     private void measureAnew() {
         widestName = 0;
         widestValue = 0;
@@ -235,7 +241,8 @@ final class RowsTable extends JTable {
     }
 
     /**
-     * Gives names and notes what they need, up to their share, and values the rest; they may go on where no note is.
+     * Gives names and notes the width that they need, up to their share, and values the rest. A value without a note
+     * has the note's cell, too.
      */
     private void fitColumns() {
         int width = getParent() instanceof JViewport ? getParent().getWidth() : getWidth();
@@ -333,7 +340,7 @@ final class RowsTable extends JTable {
     /** Does with the selected line what Enter or a double click does. */
     void activate() {
         if (isEditing()) {
-            return; // a space that is typed into the editor comes by here, too
+            return; // a space that is typed into the editor comes here, too
         }
         int line = getSelectedRow();
         Row row = rows.row(line);
@@ -346,7 +353,7 @@ final class RowsTable extends JTable {
         }
     }
 
-    /** Ends editing, however it ends: Escape comes here and nowhere else. */
+    /** Called whenever editing ends; for Escape it is the only method that is. */
     @Override
     public void removeEditor() {
         super.removeEditor();
@@ -367,7 +374,7 @@ final class RowsTable extends JTable {
         requestFocusInWindow();
     }
 
-    /** Says what is wrong right below a line, for a moment; null says nothing any more. */
+    /** Shows for a moment what is wrong, right below a line; null takes that away. */
     void complain(int line, String text) {
         if (text == null || line < 0 || line >= getRowCount()) {
             complaint.hide();
@@ -376,7 +383,7 @@ final class RowsTable extends JTable {
         }
     }
 
-    /** Says what is wrong with a row's value, where it is now. */
+    /** Shows what is wrong with a row's value, wherever that row is now. */
     void complain(Row about, String text) {
         for (int line = 0; line < rows.getRowCount(); line++) {
             if (rows.row(line) != null && rows.row(line).isAbout(about)) {

@@ -19,7 +19,7 @@ import javax.swing.event.DocumentEvent;
 import javax.swing.event.DocumentListener;
 import javax.swing.plaf.basic.BasicTextFieldUI;
 
-/** Where one types what to search for, and sees how much there is of it. */
+/** The field for what to search for, and beside it how much was found. */
 final class SearchBar extends JComponent {
     private static final long serialVersionUID = 1L;
     private static final String HINT = "Search: class, name, text, enabled=false";
@@ -89,7 +89,7 @@ final class SearchBar extends JComponent {
         });
     }
 
-    /** Tells how much there is. */
+    /** Says how much was found. */
     void tell(String text, boolean isFault) {
         if (!text.equals(count.getText())) {
             count.setText(text);
@@ -112,7 +112,7 @@ final class SearchBar extends JComponent {
         g.dispose();
     }
 
-    /** Looks the same under every look and feel: the bar around it has the border. */
+    /** A field without a border, which the bar around it has. It looks the same under every look and feel. */
     private static final class Field extends JTextField {
         private static final long serialVersionUID = 1L;
 

@@ -19,8 +19,8 @@ import com.vantrel.model.Boxes;
 import com.vantrel.model.Code;
 
 /**
- * The selected component and its siblings where they are in their parent, to scale; a click on one selects it. Belongs
- * to the event thread.
+ * A drawing to scale of the selected component and its siblings in their parent; a click on one selects it. Belongs to
+ * the event thread.
  */
 final class SiblingsDrawing extends JComponent {
     private static final long serialVersionUID = 1L;
@@ -53,7 +53,7 @@ final class SiblingsDrawing extends JComponent {
         return new Dimension(12 * line, 8 * line);
     }
 
-    /** Pixels of the drawing for one of the parent. */
+    /** How many pixels of the drawing one pixel of the parent takes. */
     private double scale() {
         Dimension parent = boxes.parent();
         double wide = (getWidth() - 1.0) / Math.max(1, parent.width);
@@ -78,7 +78,7 @@ final class SiblingsDrawing extends JComponent {
         double least = Double.MAX_VALUE;
         for (Boxes.Box box : isThere() ? boxes.siblings() : Collections.<Boxes.Box>emptyList()) {
             Rectangle2D at = place(box.bounds());
-            // The smallest one, for layered panes have one child over the other.
+            // The smallest one, because in a layered pane children lie over each other.
             if (box.isVisible() && at.contains(point) && at.getWidth() * at.getHeight() <= least) {
                 found = box.component();
                 least = at.getWidth() * at.getHeight();

@@ -2,7 +2,7 @@ package com.vantrel.view;
 
 import java.awt.Component;
 
-/** What the inspector's window has done in the program's windows: showing where a component is, and picking one. */
+/** What the inspector's window needs done in the program's windows: showing where a component is, and picking one. */
 public interface Sight {
     boolean canPick();
 

@@ -21,7 +21,7 @@ final class Split extends JSplitPane {
     /** @param orientation HORIZONTAL_SPLIT for side by side, VERTICAL_SPLIT for one above the other */
     Split(int orientation, JComponent first, JComponent second) {
         super(orientation, true, first, second);
-        // A split pane's own keys for its divider: F8 picks, wherever the focus is.
+        // By default a split pane takes F8 to reach its divider, but here F8 picks, wherever the focus is.
         getInputMap(WHEN_ANCESTOR_OF_FOCUSED_COMPONENT).put(KeyStroke.getKeyStroke("F8"), "none");
     }
 

@@ -49,7 +49,7 @@ final class StackList extends JList<StackRows.Row> {
                 placeWidth = Math.max(placeWidth, cell.place.getPreferredSize().width);
             }
         }
-        // The list keeps the width that the rows had with the old columns.
+        // Set explicitly, because the list would keep the width that the rows had with the old columns.
         setFixedCellWidth(widest());
         repaint();
     }
@@ -66,7 +66,7 @@ final class StackList extends JList<StackRows.Row> {
     @Override
     public void updateUI() {
         super.updateUI();
-        if (cell != null) { // not yet while the superclass is made
+        if (cell != null) { // the superclass's constructor calls this, too
             cell.updateUI();
             whyEmpty.updateUI();
             setBackground(Look.paper());

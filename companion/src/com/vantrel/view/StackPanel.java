@@ -23,9 +23,7 @@ import com.vantrel.model.CallSite;
 import com.vantrel.model.CallStack;
 import com.vantrel.model.Editor;
 
-/**
- * A recorded stack, of which the program's lines can be opened in an editor or copied. Belongs to the event thread.
- */
+/** A recorded stack, whose lines can be opened in an editor or copied. Belongs to the event thread. */
 final class StackPanel extends JPanel {
     private static final long serialVersionUID = 1L;
 
@@ -67,7 +65,7 @@ final class StackPanel extends JPanel {
         prepareList();
     }
 
-    /** Has what became of an attempt told to somebody else, too, while this panel does not show. */
+    /** Sets who else is told what became of an attempt to open a line, while this panel does not show. */
     void onOutcome(Consumer<Editor.Outcome> listener) {
         elsewhere = listener;
     }
@@ -88,7 +86,7 @@ final class StackPanel extends JPanel {
         }
     }
 
-    /** Takes back what was said of the last attempt. */
+    /** Clears the message about the last attempt. */
     void clearMessage() {
         message.setText(" ");
     }
@@ -144,13 +142,13 @@ final class StackPanel extends JPanel {
                 if (doubleClick.isEndedBy(event, on ? row : null)) {
                     openSelected();
                 } else if (on && SwingUtilities.isRightMouseButton(event) && !list.isSelectedIndex(row)) {
-                    list.setSelectedIndex(row); // what the menu is about
+                    list.setSelectedIndex(row); // the menu is about the row that was clicked
                 }
             }
         });
     }
 
-    /** Takes a command's key in the list, before the list's own use of it. */
+    /** Has a command's key work in the list, where it comes before the list's own use of that key. */
     private void bind(Command command) {
         list.getInputMap().put((KeyStroke) command.getValue(Action.ACCELERATOR_KEY), command);
         list.getActionMap().put(command, command);
@@ -189,10 +187,8 @@ final class StackPanel extends JPanel {
     private void open(StackTraceElement line) {
         if (line == null) {
             tell(new Editor.Outcome(whyNoWhere, true));
-        } else if (Editor.isSet()) {
-            Editor.open(line, outcome -> SwingUtilities.invokeLater(() -> tell(outcome)));
         } else {
-            copy(CallSite.link(line), "no editor is set, so the line was copied");
+            OpenLine.open(line, this::tell);
         }
     }
 
@@ -211,8 +207,7 @@ final class StackPanel extends JPanel {
     }
 
     private void copy(String text, String done) {
-        boolean works = Clip.copy(text);
-        tell(new Editor.Outcome(works ? done : "the clipboard is busy: another program holds it; try again", !works));
+        OpenLine.copy(text, done, this::tell);
     }
 
     private void tell(Editor.Outcome outcome) {

@@ -13,7 +13,10 @@ import com.vantrel.model.CallStack;
 import com.vantrel.model.CallStack.Kind;
 import com.vantrel.model.CallStack.Part;
 
-/** A folded stack as rows of a list: lines, and folds that can be opened. Belongs to the event thread. */
+/**
+ * A stack as rows of a list: its lines, and folds, each of which has a row as its head and can be opened. Belongs to
+ * the event thread.
+ */
 final class StackRows extends AbstractListModel<StackRows.Row> {
     private static final long serialVersionUID = 1L;
 
@@ -39,7 +42,7 @@ final class StackRows extends AbstractListModel<StackRows.Row> {
             return line == null ? part.lines() : Collections.singletonList(line);
         }
 
-        /** Whether this is the program's innermost line, the one that is asked for. */
+        /** Whether this is the program's innermost line. */
         boolean isWhere() {
             return isWhere;
         }
@@ -48,12 +51,12 @@ final class StackRows extends AbstractListModel<StackRows.Row> {
             return line != null && CallSite.isProgram(line);
         }
 
-        /** Whether the row comes out of a fold. */
+        /** Whether the row is in a fold. */
         boolean isFolded() {
             return line != null && isFold(part);
         }
 
-        /** What the list finds when somebody types, and what a screen reader says. */
+        /** What the list searches when the user types, and what a screen reader says. */
         @Override
         public String toString() {
             return line == null ? summary(part) : CallSite.summary(line);

@@ -10,7 +10,7 @@ import java.util.function.Supplier;
 
 import javax.swing.JComponent;
 
-/** What a part of the window shows while it has nothing to show: a headline, and what to do about it. */
+/** What a part of the window shows while it is empty: a headline, and what to do about it. */
 final class StatePanel extends JComponent {
     private static final long serialVersionUID = 1L;
     private static final int PICTURE = 44;

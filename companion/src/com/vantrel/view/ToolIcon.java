@@ -12,7 +12,7 @@ import java.awt.geom.Path2D;
 
 import javax.swing.Icon;
 
-/** The drawings on the inspector's buttons, in lines, sharp at any scale, in the colour of the button's text. */
+/** Line drawings for the inspector's buttons, sharp at any scale, in the colour of the button's text. */
 enum ToolIcon implements Icon {
     PICK,
     SEARCH,

@@ -24,9 +24,14 @@ import com.vantrel.model.TreeSearch;
 final class TreePane extends JPanel {
     private static final long serialVersionUID = 1L;
 
-    /** How often it looks at the program: what changes is seen within half a second, twice this and what it takes. */
+    /**
+     * How often it looks at the program. A change shows within half a second: at most twice this, and the time that a
+     * look takes.
+     */
     private static final int MILLIS_BETWEEN_LOOKS = 200;
-    /** It takes no more than this share of the event thread, so that it looks less often at a very large program. */
+    /**
+     * A pause is at least this many times as long as the last look took: in a very large program, it looks less often.
+     */
     private static final int MOST_SHARE = 8;
     private static final int MOST_MILLIS_BETWEEN_LOOKS = 2000;
     /** How long a search may hold the event thread at a time. */
@@ -50,7 +55,7 @@ final class TreePane extends JPanel {
     private long searchTook;
     private boolean goToFirst;
     private boolean isReady;
-    /** Where to go when the search is done: Enter was pressed before. */
+    /** The step to take when the search is done, if Enter was pressed before; 0 for none. */
     private int stepWhenDone;
     private transient Runnable onLook = () -> {};
 
@@ -133,14 +138,14 @@ final class TreePane extends JPanel {
         boolean changed = tree.refresh();
         if (!isReady) {
             isReady = true;
-            showSelected(); // somebody may have selected it before the tree was there
+            showSelected(); // a component may have been selected before the tree was there
             showState();
             view.requestFocusInWindow();
         } else if (changed) {
             showRows(false);
         }
         if (search.isOn() && !search.isWorking()) {
-            search.startOver(); // what was found may be found no more, and the other way round
+            search.startOver(); // it may find more now, or less
             goOnLater();
         }
         view.lookAgain();
@@ -151,7 +156,7 @@ final class TreePane extends JPanel {
         looks.setDelay(Math.max(MILLIS_BETWEEN_LOOKS, Math.min(MOST_SHARE * took, MOST_MILLIS_BETWEEN_LOOKS)));
     }
 
-    /** Shows the rows as they are now; the selected component's too, where it has only just got a row. */
+    /** Shows the rows as they are now, and selects the selected component's, which may be new. */
     private void showRows(boolean scroll) {
         Component component = selection.component();
         TreeNode node = component == null ? null : tree.nodeOf(component);
@@ -167,7 +172,7 @@ final class TreePane extends JPanel {
         Component component = selection.component();
         TreeNode node = component == null ? null : tree.nodeOf(component);
         if (component != null && node == null) {
-            tree.refresh(); // it may have come since the last look
+            tree.refresh(); // the component may be new
             node = tree.nodeOf(component);
         }
         tree.reveal(node);
@@ -188,7 +193,7 @@ final class TreePane extends JPanel {
         }
     }
 
-    /** Goes on after whatever waits for the event thread already. */
+    /** Goes on in an event of its own, after those that wait already. */
     private void goOnLater() {
         if (!willGoOn) {
             willGoOn = true;
@@ -215,7 +220,7 @@ final class TreePane extends JPanel {
             if (stepWhenDone != 0) {
                 step(stepWhenDone);
             }
-        } else if (search.isWorking()) { // nobody has ended it meanwhile
+        } else if (search.isWorking()) { // the user has not ended it meanwhile
             goOnLater();
         }
         tellCount();

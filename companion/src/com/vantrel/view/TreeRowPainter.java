@@ -25,7 +25,7 @@ final class TreeRowPainter extends JLabel implements ListCellRenderer<TreeNode> 
     private static final long serialVersionUID = 1L;
 
     static final int INDENT = 14;
-    /** Where the triangle that expands a row lies, from the row's own level on. */
+    /** The width of the triangle that expands a row, which comes first after the row's indentation. */
     static final int TWISTY = 14;
     private static final int LEFT = 4;
     private static final int BETWEEN = 6;
@@ -70,7 +70,7 @@ final class TreeRowPainter extends JLabel implements ListCellRenderer<TreeNode> 
         return node == null ? "" : node.look().toString();
     }
 
-    /** How wide a node's row must be at least: a text is cut where there is no more room. */
+    /** The least width of a node's row. The component's text is cut if there is no room for it. */
     int widthOf(TreeNode of) {
         NodeLook look = of.look();
         FontMetrics plain = getFontMetrics(Look.font());
@@ -152,7 +152,7 @@ final class TreeRowPainter extends JLabel implements ListCellRenderer<TreeNode> 
         }
     }
 
-    /** Paints a text, what was searched for on a background of its own. Returns where it ends. */
+    /** Paints a text, with a coloured background where it has a word of the search. Returns where it ends. */
     private int paintText(Graphics2D g, String text, Font font, Color color, int x) {
         FontMetrics metrics = g.getFontMetrics(font);
         int baseline = (getHeight() - metrics.getHeight()) / 2 + metrics.getAscent();

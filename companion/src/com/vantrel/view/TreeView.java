@@ -29,9 +29,9 @@ import com.vantrel.model.TreeNode;
 import com.vantrel.model.TreeSearch;
 
 /**
- * The tree of components on the screen: a list of rows of one height, which is what keeps it quick however large the
- * program is. When the rows change, the selected component stays selected, and its row, or else the one at the top,
- * stays where it is on the screen.
+ * The tree of components on the screen. It is a list whose rows have all the same height, which is fast however large
+ * the program is. When the rows change, the selected component stays selected, and its row stays where it is on the
+ * screen; if that was not in sight, the topmost row stays.
  */
 final class TreeView extends JList<TreeNode> {
     private static final long serialVersionUID = 1L;
@@ -96,12 +96,12 @@ final class TreeView extends JList<TreeNode> {
         });
     }
 
-    /** What to do when somebody has selected a row. */
+    /** Sets what to do when the user has selected a row. */
     void onSelect(Consumer<TreeNode> action) {
         onSelect = action;
     }
 
-    /** What to do when the pointer has come to a row; to none if it is null. */
+    /** Sets what to do when the pointer comes to a row, or, with null, leaves all rows. */
     void onHover(Consumer<TreeNode> action) {
         onHover = action;
     }
@@ -122,7 +122,10 @@ final class TreeView extends JList<TreeNode> {
         return search.query().words();
     }
 
-    /** Selects a node, which the tree has a row for if it is not null, and scrolls to it. Tells nobody. */
+    /**
+     * Selects a node that has a row, and scrolls to it; null selects nothing. Does not run what {@link #onSelect} has
+     * set.
+     */
     void select(TreeNode node) {
         selected = node;
         showRows();
@@ -137,8 +140,9 @@ final class TreeView extends JList<TreeNode> {
     }
 
     /**
-     * Scrolls to the selected row if it was in sight as long as so much could be seen, and is not any more: the scroll
-     * bar that a wide row brings takes its place from the lowest one.
+     * Scrolls to the selected row if it has got out of sight because the view became lower: a wide row brings a scroll
+     * bar, which may cover the lowest row.
+     * @param earlierHeight of the view, in pixels
      */
     void keepInSight(int earlierHeight) {
         int row = selected == null ? -1 : rows.list.indexOf(selected);
@@ -152,13 +156,16 @@ final class TreeView extends JList<TreeNode> {
         }
     }
 
-    /** Keeps a node selected whose row may have come or gone, and does not scroll. Tells nobody. */
+    /**
+     * Keeps a node selected whose row may be new or gone, and does not scroll. Does not run what {@link #onSelect} has
+     * set.
+     */
     void keep(TreeNode node) {
         selected = node;
         showRows();
     }
 
-    /** Goes back to the beginning of rows that are others altogether, and to no more width than these need. */
+    /** Scrolls to the first row, and measures the width anew: all rows are others than before. */
     void scrollToFirst() {
         setFixedCellWidth(1);
         scrollRectToVisible(new Rectangle(0, 0, 1, getFixedCellHeight()));
@@ -170,7 +177,7 @@ final class TreeView extends JList<TreeNode> {
         int first = seen.isEmpty() ? -1 : locationToIndex(seen.getLocation());
         int chosen = selected == null ? -1 : rows.list.indexOf(selected);
         if (chosen >= 0 && seen.intersects(getCellBounds(chosen, chosen))) {
-            first = chosen; // what somebody looks at stays where it is
+            first = chosen; // the user looks at it, so it stays where it is
         }
         TreeNode anchor = first < 0 || first >= rows.list.size() ? null : rows.list.get(first);
         int offset = anchor == null ? 0 : seen.y - getCellBounds(first, first).y;
@@ -186,7 +193,8 @@ final class TreeView extends JList<TreeNode> {
         int now = anchor == null ? -1 : rows.list.indexOf(anchor);
         if (now >= 0 && now != first && getParent() instanceof JViewport) {
             Dimension size = getPreferredSize();
-            setSize(Math.max(size.width, getWidth()), size.height); // or the viewport takes the old height for a limit
+            setSize(Math.max(size.width, getWidth()),
+                    size.height); // or the viewport would limit the position by the old height
             int y = getCellBounds(now, now).y + offset;
             ((JViewport) getParent())
                     .setViewPosition(new Point(seen.x, Math.max(0, Math.min(y, size.height - seen.height))));
@@ -253,14 +261,14 @@ final class TreeView extends JList<TreeNode> {
         }
     }
 
-    /** As wide as the widest row seen so far, but never narrower than what it is seen through. */
+    /** As wide as the widest row that was seen so far, but never narrower than the viewport. */
     @Override
     public boolean getScrollableTracksViewportWidth() {
         Component parent = getParent();
         return parent instanceof JViewport && parent.getWidth() > getPreferredSize().width;
     }
 
-    /** Typing goes to the search and does not jump about in the rows. */
+    /** What the user types goes to the search. (A list would otherwise jump to a row that begins with it.) */
     @Override
     protected void processKeyEvent(KeyEvent event) {
         boolean command = (event.getModifiersEx()
@@ -301,7 +309,7 @@ final class TreeView extends JList<TreeNode> {
             return list.get(index);
         }
 
-        /** Tells only of what lies between the rows that are the same at the beginning and at the end. */
+        /** Reports as changed only the rows between those that are the same at the beginning and at the end. */
         void set(List<TreeNode> next) {
             List<TreeNode> old = list;
             int most = Math.min(old.size(), next.size());

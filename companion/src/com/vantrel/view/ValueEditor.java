@@ -30,8 +30,8 @@ import com.vantrel.model.Format;
 import com.vantrel.model.Row;
 
 /**
- * Edits a row's value in its place: a text, or a choice. A text that is no such value stays, with what is wrong below
- * it, until it is one or is given up. Belongs to the event thread.
+ * Edits a row's value in its cell: a text field, or a choice. If a text is not valid the field stays, with a message
+ * about what is wrong, until the text is corrected or editing is cancelled. Belongs to the event thread.
  */
 final class ValueEditor extends AbstractCellEditor implements TableCellEditor {
     private static final long serialVersionUID = 1L;
@@ -44,7 +44,7 @@ final class ValueEditor extends AbstractCellEditor implements TableCellEditor {
         /** The text to start with. */
         String text(Row row);
 
-        /** Sets a value from text; answers null, or what is wrong with the text. */
+        /** Sets the value that a text stands for. Returns null, or what is wrong with the text. */
         String set(Row row, String text);
     }
 
@@ -74,7 +74,7 @@ final class ValueEditor extends AbstractCellEditor implements TableCellEditor {
 
     @Override
     public boolean isCellEditable(EventObject event) {
-        // A double click comes through the table, which knows what else it may mean.
+        // The table handles double clicks, which may mean something else.
         return !(event instanceof MouseEvent);
     }
 
@@ -123,7 +123,7 @@ final class ValueEditor extends AbstractCellEditor implements TableCellEditor {
         choice.setName("vantrel.value");
         choice.setFont(Look.font());
         choice.setSelectedItem(first);
-        // With it, arrows walk the list and Enter takes from it; without it, each step would take.
+        // So that arrow keys only move in the list and Enter chooses; otherwise each arrow key would choose.
         choice.putClientProperty("JComboBox.isTableCellEditor", Boolean.TRUE);
         choice.addActionListener(event -> stopCellEditing());
         SwingUtilities.invokeLater(() -> {
@@ -158,7 +158,7 @@ final class ValueEditor extends AbstractCellEditor implements TableCellEditor {
                     field.setText(text.substring(0, numbers.start()) + stepped + text.substring(numbers.end()));
                     field.select(numbers.start(), numbers.start() + stepped.length());
                 } catch (ArithmeticException | NumberFormatException e) {
-                    // It cannot be counted on.
+                    // There is no next number.
                 }
                 return;
             }

@@ -9,17 +9,19 @@ import java.awt.image.BufferedImage;
 import java.util.ArrayList;
 import java.util.List;
 
-/** The inspector's icon in title bars and lists of windows, where it must not look like one more of the program's. */
+/**
+ * The inspector's icon in title bars and lists of windows, where its window must not look like one of the program's.
+ */
 public final class WindowIcon {
     private static final int[] SIZES = {16, 24, 32, 48, 64};
-    /** What the drawing is made for. */
+    /** The size that the drawing is made for. */
     private static final double UNIT = 16;
     private static final Color PAPER = new Color(0x2F4F6F);
 
     private WindowIcon() {
     }
 
-    /** One for each size that window managers ask for. */
+    /** An image for each size that window managers ask for. */
     public static List<Image> images() {
         List<Image> images = new ArrayList<>();
         for (int size : SIZES) {

@@ -12,7 +12,7 @@ import org.junit.Test;
 public class AgentTest {
     /** Without the agent, as at the end of a VM, when its native methods are gone and some thread still asks. */
     @Test
-    public void itsEndIsNobodysFault() {
+    public void callsAfterTheAgentsEndDoNothing() {
         Graphics2D graphics = new BufferedImage(1, 1, BufferedImage.TYPE_INT_RGB).createGraphics();
         Agent.highlight(new JLabel(), graphics);
         Agent.run(new JLabel(), () -> { throw new AssertionError("there is nobody to run it"); });

@@ -88,7 +88,7 @@ public class EditorTest {
     }
 
     @Test
-    public void settingsAreRememberedBehindWhatThisRunSays() throws Exception {
+    public void whatThisRunSetsComesBeforeWhatIsRemembered() throws Exception {
         assertEquals("fallback", Settings.get("colour", "fallback"));
         Path file = Paths.get(System.getProperty("vantrel.settings"));
         Files.createDirectories(file.getParent());

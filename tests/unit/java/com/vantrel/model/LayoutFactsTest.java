@@ -54,7 +54,7 @@ public class LayoutFactsTest {
         return panel;
     }
 
-    /** The lines of a component of a panel of 300 x 100, but those that say nothing of the manager. */
+    /** What is said of a component in a panel of 300 x 100, without the lines that do not depend on the manager. */
     private static String told(Container parent, Component child) {
         parent.setSize(300, 100);
         layOut(parent);

@@ -22,7 +22,7 @@ import org.junit.Before;
 import org.junit.Test;
 
 public class ReadingTest {
-    /** A program's field that says which of its methods are called. */
+    /** A text field of the program's that notes which of its methods are called. */
     public static class Telling extends JTextField {
         private static final long serialVersionUID = 1L;
         final transient List<String> called = new ArrayList<>();
@@ -121,7 +121,7 @@ public class ReadingTest {
     }
 
     @Test
-    public void asksWhatTakesLongNotAgain() {
+    public void doesNotAskAgainWhatTakesLong() {
         int[] asked = {0};
         JTable table = new JTable(new DefaultTableModel() {
             @Override
