@@ -140,12 +140,12 @@ TEST_P(Outside, ShowsWhatThereIsToSayOfAComponent) {
 // What a path may be, and what is said of one that leads nowhere or to too much.
 TEST_P(Outside, FollowsPaths) {
     start();
-    ask("text amount.label a/b [c]\\d \u00fc\U0001F600");
-    const std::string path = "frame[name=main]/\u2026/label[text=a/b [c\\]\\\\d \u00fc\U0001F600]";
+    ask("text amount.label a/b [c]/\\d \u00fc\U0001F600");
+    const std::string path = "frame[name=main]/\u2026/label[text=a/b [c\\]/\\\\d \u00fc\U0001F600]";
     const auto leads = [&](const std::string& to) { return lines_of(told("show", {to})).front(); };
     const std::string expected = "path: frame[name=main]/\u2026/label[name=amount.label]";
     for (const std::string& each :
-         {path, std::string("label[text=a/b [c\\]\\\\d \u00fc\U0001F600]"), std::string("JLabel[name=amount.label]"),
+         {path, std::string("label[text=a/b [c\\]/\\\\d \u00fc\U0001F600]"), std::string("JLabel[name=amount.label]"),
           std::string("frame0/.../[name=amount.label]"), std::string("/frame0/\u2026/label[name=amount.label]/")}) {
         EXPECT_EQ(leads(each), expected) << each;
     }
