@@ -38,6 +38,10 @@ public final class Vantrel {
     public void selectOnComponentTree(Component component) {
     }
 
+    public static Component getSelectedComponent() {
+        return null;
+    }
+
     public native void highlight(Component component, Graphics2D graphics);
 
     public static native void beep();
