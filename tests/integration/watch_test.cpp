@@ -2,13 +2,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <fstream>
+#include <iterator>
 #include <optional>
-#include <regex>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "agent_in_vm.h"
 #include "process.h"
@@ -16,22 +18,33 @@
 
 using std::chrono::milliseconds;
 using std::chrono::seconds;
+using testing::AllOf;
 using testing::ContainsRegex;
 using testing::HasSubstr;
+using testing::MatchesRegex;
 using testing::Not;
+using testing::StartsWith;
 
 namespace {
 
-const std::string kNone = "vantrel: the event thread was never blocked for more than 200 ms.\n";
+// A report that names no line of the program. On a busy machine the toolkit's first painting may be a block.
+const auto kNamesNone = AllOf(StartsWith("vantrel: the event thread was "), Not(HasSubstr(" at Blocking.")));
 
 class Watch : public OnEachJdk {
   protected:
     // Starts a program that does some things, and waits until it has done them.
     void start(const std::string& record, const Arguments& program_and_ways) {
-        const Arguments options = {"-Dvantrel.record=" + record, "-Dvantrel.report=ask", "-cp", kPrograms};
-        program.emplace(java_under_agent(GetParam(), options + program_and_ways),
-                        ProcessOptions{.folder = folder.path, .environment = {x.display()}});
+        program.emplace(command(record, program_and_ways), options());
         ASSERT_TRUE(program->reaches([&] { return program->out().ends_with("done\n"); })) << program->err();
+    }
+
+    // Runs a program that does some things and ends at once when it has, and returns what it has reported.
+    std::string run_through(const std::string& record, const Arguments& program_and_ways) {
+        std::ofstream(folder.path / "end");
+        const Finished finished = run(command(record, program_and_ways), options());
+        EXPECT_EQ(finished.status, 3);
+        EXPECT_THAT(finished.err, StartsWith(kAgentErr));
+        return finished.err.substr(std::min(kAgentErr.size(), finished.err.size()));
     }
 
     // Asks for the report, and returns it as soon as it is there.
@@ -54,6 +67,14 @@ class Watch : public OnEachJdk {
     const ScratchFolder folder;
     const XServer x;
     std::optional<Process> program;
+
+  private:
+    [[nodiscard]] ProcessOptions options() const { return {.folder = folder.path, .environment = {x.display()}}; }
+
+    Arguments command(const std::string& record, const Arguments& program_and_ways) const {
+        const Arguments all = {"-Dvantrel.record=" + record, "-Dvantrel.report=ask", "-cp", kPrograms};
+        return java_under_agent(GetParam(), all + program_and_ways);
+    }
 };
 ON_EACH_JDK(Watch);
 
@@ -62,7 +83,7 @@ TEST_P(Watch, NamesTheLineThatBlocksTheEventThreadWithinASecond) {
     const auto after = std::chrono::steady_clock::now();
     const std::string report = ask();
     EXPECT_LT(std::chrono::steady_clock::now() - after, seconds(1));
-    EXPECT_THAT(report, HasSubstr("vantrel: the event thread was blocked once for more than 200 ms, "));
+    EXPECT_THAT(report, HasSubstr("vantrel: the event thread was blocked "));
     EXPECT_THAT(report, ContainsRegex("\n  (1\\.[89]|2\\.[01]). s at Blocking\\.sleep\\(Blocking\\.java:[0-9]+\\), "
                                       "with mouse released on JButton \"save\", from [0-9:.]+ on AWT-EventQueue-0:\n"));
     // What the samples say of the time after the first 200 ms: 0.3 s and 1.5 s, or nearly.
@@ -73,8 +94,7 @@ TEST_P(Watch, NamesTheLineThatBlocksTheEventThreadWithinASecond) {
 }
 
 TEST_P(Watch, TakesNoBusyOrWaitingEventThreadForABlockedOne) {
-    start("blocks", {"Blocking", "busy", "dialog"});
-    EXPECT_EQ(end(), kNone);
+    EXPECT_THAT(run_through("blocks", {"Blocking", "busy", "dialog"}), kNamesNone);
 }
 
 // A program that somebody stops, as a debugger does, while it works off an event.
@@ -86,14 +106,13 @@ TEST_P(Watch, DoesNotCountTimeInWhichTheProgramIsStopped) {
         program->signal(SIGCONT);
         std::this_thread::sleep_for(milliseconds(130));
     }
-    EXPECT_EQ(end(), kNone);
+    EXPECT_THAT(end(), kNamesNone);
 }
 
 // Also those that leave the thread in the state in which it waits for events, and what a handler does after its dialog.
 TEST_P(Watch, TellsBlocksApart) {
-    start("blocks", {"Blocking", "after a dialog", "waiting"});
-    const std::string report = end();
-    EXPECT_THAT(report, HasSubstr("was blocked 4 times for more than 200 ms"));
+    const std::string report = run_through("blocks", {"Blocking", "after a dialog", "waiting"});
+    EXPECT_THAT(report, Not(HasSubstr("it has not ended")));
     EXPECT_THAT(report, ContainsRegex("\n  1\\.[12]. s at Blocking\\.await\\(.*, with a task \\(lambda in Blocking\\), "
                                       "3 times, at most 0\\.(3|40). s, the last, from "));
     EXPECT_THAT(report, ContainsRegex("\n  0\\.[56]. s at Blocking\\.sleep\\(.*, "
@@ -110,12 +129,33 @@ TEST_P(Watch, ReportsABlockThatHasNotEndedWhenTheProgramIsTerminated) {
     EXPECT_THAT(program->err().substr(before.size()), HasSubstr(", and it has not ended:\n"));
 }
 
+// Windows that are being built do not count, nor does what the toolkit does; a label with HTML reports two changes for
+// each text, and setEnabled two of the same property.
+TEST_P(Watch, CountsChangesOnOtherThreadsByLine) {
+    const std::string report = run_through("threads", {"OtherThreads"});
+    const std::vector<std::string> lines = lines_of(report);
+    ASSERT_EQ(lines.size(), 7) << report;
+    EXPECT_EQ(lines[0], "vantrel: components on the screen were changed on other threads than the event thread:");
+    const std::string expected[] = {
+        R"(1000 times at OtherThreads\.texts\(OtherThreads\.java:[0-9]+\): text of JLabel "state", on worker)",
+        R"(200 times at OtherThreads\.html\(OtherThreads\.java:[0-9]+\): text of JLabel "state", on worker)",
+        R"(30 times at OtherThreads\.enable\(OtherThreads\.java:[0-9]+\): enabled of JButton "ok", on worker)",
+        R"(4 times at OtherThreads\.add\(OtherThreads\.java:[0-9]+\): addition of JLabel "new", on main, worker)",
+        R"(once at OtherThreads\.remove\(OtherThreads\.java:[0-9]+\): removal of JLabel "new", on worker)",
+        R"(once at OtherThreads\.work\(OtherThreads\.java:[0-9]+\): visible of JFrame, on worker)",
+    };
+    for (size_t i = 0; i < std::size(expected); ++i) {
+        EXPECT_THAT(lines[i + 1], MatchesRegex("  " + expected[i] + ", the last at [0-9:.]+"));
+    }
+}
+
 TEST_P(Watch, SaysNothingWhereThereIsNoEventThread) {
     const Finished finished = run(java_under_agent(
-        GetParam(), {"-Dvantrel.record=blocks,nonsense", "-cp", kPrograms, "Ending", "return", "at once"}));
+        GetParam(), {"-Dvantrel.record=blocks,nonsense,threads", "-cp", kPrograms, "Ending", "return", "at once"}));
     EXPECT_EQ(finished.status, 0);
     EXPECT_THAT(finished.err, HasSubstr("vantrel: -Dvantrel.record=nonsense is not known; "));
-    EXPECT_THAT(finished.err, Not(HasSubstr("event thread")));
+    EXPECT_THAT(finished.err, Not(HasSubstr("thread than")));
+    EXPECT_THAT(finished.err, Not(HasSubstr("blocked")));
 }
 
 }  // namespace

@@ -1,8 +1,11 @@
 import java.awt.EventQueue;
 import java.awt.event.InputEvent;
 import java.awt.event.MouseEvent;
+import java.lang.management.ManagementFactory;
+import java.lang.management.ThreadMXBean;
 import java.nio.file.Files;
 import java.nio.file.Path;
+import java.util.concurrent.CountDownLatch;
 
 import javax.swing.JButton;
 import javax.swing.JDialog;
@@ -89,20 +92,27 @@ public final class Blocking {
         sleep(600);
     }
 
+    /** One short event after the other, each of which takes processor time. */
     private static void tick() {
-        sleep(100);
+        ThreadMXBean threads = ManagementFactory.getThreadMXBean();
+        long end = threads.getCurrentThreadCpuTime() + 40_000_000;
+        while (threads.getCurrentThreadCpuTime() < end) {
+            Thread.onSpinWait();
+        }
         EventQueue.invokeLater(Blocking::tick);
     }
 
-    /** In a state in which the thread also waits for events. */
+    /** In the state in which the thread also waits for events. */
     private static void await() {
-        Object never = new Object();
-        synchronized (never) {
-            try {
-                never.wait(400);
-            } catch (InterruptedException e) {
-                throw new IllegalStateException(e);
-            }
+        CountDownLatch over = new CountDownLatch(1);
+        new Thread(() -> {
+            sleep(400);
+            over.countDown();
+        }).start();
+        try {
+            over.await();
+        } catch (InterruptedException e) {
+            throw new IllegalStateException(e);
         }
     }
 

@@ -15,12 +15,14 @@ import com.vantrel.watch.Watch;
  * What is recorded from the program's start, whether the inspector's window is open or not, if the system property
  * {@code vantrel.record} asks for it. Its value is one or several of these, with commas between them: {@code changes},
  * or {@code changes:PATTERN} with a pattern for class names such as {@code com.acme.*}, for which only components of
- * such classes, and what is in them, are recorded; {@code blocks}, of the event thread.
+ * such classes, and what is in them, are recorded; {@code blocks}, of the event thread; {@code threads}, for changes on
+ * other threads than that.
  */
 public final class Recording {
     private static final String PROPERTY = "vantrel.record";
     private static final String CHANGES = "changes";
     private static final String BLOCKS = "blocks";
+    private static final String THREADS = "threads";
 
     private Recording() {
     }
@@ -36,13 +38,14 @@ public final class Recording {
                 new ChangeRecorder(component -> true).start();
             } else if (word.startsWith(CHANGES + ":")) {
                 new ChangeRecorder(within(word.substring(CHANGES.length() + 1))).start();
-            } else if (!word.isEmpty() && !word.equals(BLOCKS)) {
+            } else if (!word.isEmpty() && !word.equals(BLOCKS) && !word.equals(THREADS)) {
                 System.err.println("vantrel: -D" + PROPERTY + "=" + word + " is not known; it may be " + CHANGES + ", "
-                        + CHANGES + ":com.acme.* or " + BLOCKS + ", or several with commas between them");
+                        + CHANGES + ":com.acme.*, " + BLOCKS + " or " + THREADS
+                        + ", or several with commas between them");
             }
         }
-        if (wanted.contains(BLOCKS)) {
-            Watch.start(true);
+        if (wanted.contains(BLOCKS) || wanted.contains(THREADS)) {
+            Watch.start(wanted.contains(BLOCKS), wanted.contains(THREADS));
         }
     }
 

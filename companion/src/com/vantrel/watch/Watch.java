@@ -4,6 +4,8 @@ import java.io.File;
 import java.util.ArrayList;
 import java.util.List;
 
+import com.vantrel.hooks.Hooks;
+
 /**
  * What is watched from the program's start to its end: a daemon that looks, and the report on stderr. It is made at the
  * end of the program, however that comes about in Java, and whenever a file is touched. A file, because asking must
@@ -16,11 +18,14 @@ public final class Watch {
     private static Watch running;
 
     private final BlockWatch blocks;
+    private final OtherThreads threads;
     private final File file;
     private long touched;
+    private boolean hasFailed;
 
-    private Watch(boolean watchesBlocks) {
+    private Watch(boolean watchesBlocks, boolean watchesThreads) {
         blocks = watchesBlocks ? new BlockWatch() : null;
+        threads = watchesThreads ? new OtherThreads() : null;
         String name = System.getProperty(FILE, "");
         file = name.isEmpty() ? null : new File(name).getAbsoluteFile();
         touched = file == null ? 0 : file.lastModified();
@@ -29,12 +34,16 @@ public final class Watch {
     /**
      * Begins to watch, for the rest of the program's life. Does nothing if that has been done.
      *
-     * @param watchesBlocks whether to look for blocks of the event thread
+     * @param watchesBlocks  whether to look for blocks of the event thread
+     * @param watchesThreads whether to look for changes on other threads
      */
-    public static synchronized void start(boolean watchesBlocks) {
+    public static synchronized void start(boolean watchesBlocks, boolean watchesThreads) {
         if (running == null) {
-            running = new Watch(watchesBlocks);
-            thread("vantrel-watch", running::look).start();
+            running = new Watch(watchesBlocks, watchesThreads);
+            if (running.threads != null) {
+                Hooks.add(running.threads);
+            }
+            thread("vantrel-watch", running::watch).start();
             Runtime.getRuntime().addShutdownHook(thread("vantrel-watch-end", running::report));
         }
     }
@@ -64,30 +73,43 @@ public final class Watch {
         if (blocks != null) {
             lines.addAll(blocks.text());
         }
+        if (threads != null) {
+            lines.addAll(threads.text());
+        }
         return String.join(System.lineSeparator(), lines);
     }
 
     private void report() {
         String text = lines();
         if (!text.isEmpty()) {
-            System.err.println("vantrel: " + text);
+            // The first line of each part is the one that is not indented.
+            System.err.println(text.replaceAll("(?m)^(?=\\S)", "vantrel: "));
         }
     }
 
-    private void look() {
-        int looks = 0;
-        while (true) {
+    private void watch() {
+        for (int looks = 0;; looks++) {
             try {
                 Thread.sleep(BlockWatch.PERIOD_MILLIS);
-                if (blocks != null) {
-                    blocks.look();
-                }
-                if (file != null && looks++ % LOOKS_AT_FILE == 0 && isTouched()) {
-                    report();
-                }
+                look(looks);
             } catch (InterruptedException e) {
                 // Nobody has a reason to interrupt it: it goes on.
+            } catch (Throwable e) {
+                if (!hasFailed) {
+                    hasFailed = true; // only once, for what fails forty times a second
+                    System.err.println("vantrel: a part of the watch of the event thread failed:");
+                    e.printStackTrace();
+                }
             }
+        }
+    }
+
+    private void look(int looks) {
+        if (blocks != null) {
+            blocks.look();
+        }
+        if (file != null && looks % LOOKS_AT_FILE == 0 && isTouched()) {
+            report();
         }
     }
 
