@@ -125,7 +125,13 @@ TEST_P(OldVersions, RunAsBefore) {
     expect_same("OldCode");
 }
 
-TEST_P(OldVersions, BranchesThatNoLongerFitRunAsBefore) {
+// The newest version with subroutines, one with neither those nor stack maps, one whose stack maps need not hold, and
+// one whose have to.
+class FarBranches : public OldVersions {};
+INSTANTIATE_TEST_SUITE_P(Of, FarBranches, testing::Values(kKinds[3], kKinds[4], kKinds[5], kKinds[7]),
+                         [](const auto& kind) { return std::string(kind.param.name); });
+
+TEST_P(FarBranches, ThatNoLongerFitRunAsBefore) {
     SKIP_WITHOUT_JDK(17);
     const fs::path source = classes_.path / "FarBranches.java";
     std::ofstream(source) << source_of_far_branches(GetParam().version);
