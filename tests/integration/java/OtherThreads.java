@@ -1,4 +1,6 @@
 import java.awt.EventQueue;
+import java.io.OutputStream;
+import java.io.PrintStream;
 
 import javax.swing.JButton;
 import javax.swing.JFrame;
@@ -28,6 +30,7 @@ public final class OtherThreads {
         FRAME.setVisible(true);
         EventQueue.invokeAndWait(() -> STATE.setText("changed where it should be"));
         add();
+        System.setErr(new PrintStream(OutputStream.nullOutputStream())); // as a program does that has a log instead
         Thread worker = new Thread(OtherThreads::work, "worker");
         worker.start();
         worker.join();

@@ -22,7 +22,7 @@ final class Block {
     private long nanos;
 
     /**
-     * @param event in words
+     * @param event in words: what the thread was at
      * @param nanos for how long it has been going on
      */
     Block(String thread, String event, long nanos) {
@@ -34,7 +34,7 @@ final class Block {
 
     boolean isSampleDue(long now) {
         long pause = Math.min(LONGEST_PAUSE, Math.max(SHORTEST_PAUSE, nanos / SHARE_OF_PAUSE));
-        return sample == null || now - sampledAt >= pause;
+        return now - sampledAt >= pause;
     }
 
     /**

@@ -66,7 +66,7 @@ final class BlockWatch {
                 }
             }
             if (!one.thread.thread().isAlive()) {
-                end(one);
+                end(one, now);
                 each.remove();
             } else {
                 look(one, now);
@@ -95,7 +95,7 @@ final class BlockWatch {
             Reference<AWTEvent> current = one.thread.current();
             boolean isIdle = one.thread.isIdle();
             if (isIdle || current != one.current) {
-                end(one);
+                end(one, now);
                 one.wasIdle = isIdle;
                 one.current = current;
                 one.isBusy = false;
@@ -113,22 +113,34 @@ final class BlockWatch {
     }
 
     private static void sample(Watched one, long now) {
-        if (one.block == null) {
-            AWTEvent event = one.wasIdle || one.current == null ? null : one.current.get();
-            one.block = new Block(one.thread.thread().getName(), EventWords.of(event), now - one.since);
-        }
-        one.block.lasts(now - one.since, now);
-        if (one.block.isSampleDue(now)) {
+        if (one.block == null || one.block.isSampleDue(now)) {
             StackTraceElement[] stack = one.thread.thread().getStackTrace();
-            if (stack.length > 0) { // empty once the thread has ended
-                one.block.add(stack, now);
+            if (one.block == null) {
+                one.block = new Block(one.thread.thread().getName(), event(one, stack), now - one.since);
             }
+            one.block.lasts(now - one.since, now);
+            one.block.add(stack, now);
+        } else {
+            one.block.lasts(now - one.since, now);
         }
     }
 
-    private void end(Watched one) {
-        if (one.block != null && isOfInterest(one.block)) {
-            blocks.add(one.block);
+    private static String event(Watched one, StackTraceElement[] stack) {
+        for (StackTraceElement line : stack) {
+            if (line.getMethodName().equals("dispatchEvent")) { // of whichever queue
+                return "with " + EventWords.of(one.wasIdle || one.current == null ? null : one.current.get());
+            }
+        }
+        return "between two events";
+    }
+
+    /** That a block has begun was seen late, and so it may be with its end: on average, its time is right. */
+    private void end(Watched one, long now) {
+        if (one.block != null) {
+            one.block.lasts(now - one.since, now);
+            if (isOfInterest(one.block)) {
+                blocks.add(one.block);
+            }
         }
         one.block = null;
     }

@@ -114,7 +114,7 @@ final class Blocks {
     private static String headline(Entry entry) {
         boolean isOne = entry.times == 1;
         String where = entry.where == null ? "no line of the program" : CallSite.summary(entry.where);
-        return "  " + CallTimesText.seconds(entry.nanos) + " at " + where + ", with " + entry.last.event()
+        return "  " + CallTimesText.seconds(entry.nanos) + " at " + where + ", " + entry.last.event()
                 + (isOne ? ""
                          : ", " + times(entry.times) + ", at most " + CallTimesText.seconds(entry.longest.nanos())
                                         + ", the last")

@@ -23,8 +23,8 @@ final class CallTimesText {
     private static final String TOOLKIT = "  ";
     private static final int INDENT = 4;
     /** Branches in which less than this part of all was spent are left out, and so are lines beyond so many. */
-    private static final double SMALLEST_SHARE = 0.01;
-    private static final int MOST_LINES = 60;
+    private static final double SMALLEST_SHARE = 0.05;
+    private static final int MOST_LINES = 40;
 
     private final CallTimes tree;
     private final List<String> lines = new ArrayList<>();

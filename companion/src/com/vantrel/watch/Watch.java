@@ -1,6 +1,7 @@
 package com.vantrel.watch;
 
 import java.io.File;
+import java.io.PrintStream;
 import java.util.ArrayList;
 import java.util.List;
 
@@ -22,6 +23,8 @@ public final class Watch {
     private final File file;
     private long touched;
     private boolean hasFailed;
+    /** As it was at the start: a program may have its own in its place by now, and write that to a log. */
+    private final PrintStream stderr = System.err;
 
     private Watch(boolean watchesBlocks, boolean watchesThreads) {
         blocks = watchesBlocks ? new BlockWatch() : null;
@@ -83,7 +86,7 @@ public final class Watch {
         String text = lines();
         if (!text.isEmpty()) {
             // The first line of each part is the one that is not indented.
-            System.err.println(text.replaceAll("(?m)^(?=\\S)", "vantrel: "));
+            stderr.println(text.replaceAll("(?m)^(?=\\S)", "vantrel: "));
         }
     }
 
@@ -97,8 +100,8 @@ public final class Watch {
             } catch (Throwable e) {
                 if (!hasFailed) {
                     hasFailed = true; // only once, for what fails forty times a second
-                    System.err.println("vantrel: a part of the watch of the event thread failed:");
-                    e.printStackTrace();
+                    stderr.println("vantrel: a part of the watch of the event thread failed:");
+                    e.printStackTrace(stderr);
                 }
             }
         }
