@@ -30,12 +30,15 @@ final class BlockWatch {
         final EventThread thread;
         /** The event that it was seen with; compared only. */
         Reference<AWTEvent> current;
+
         /** Whether it has been idle since it had that event: what it is at work on now is another one. */
         boolean wasIdle;
         boolean isBusy;
         /** Since when it has been busy with it. */
         long since;
+        /** What keeps it, once that takes too long; and whether that is an event of the inspector's windows. */
         Block block;
+        boolean isOurs;
 
         Watched(EventThread thread) {
             this.thread = thread;
@@ -116,7 +119,9 @@ final class BlockWatch {
         if (one.block == null || one.block.isSampleDue(now)) {
             StackTraceElement[] stack = one.thread.thread().getStackTrace();
             if (one.block == null) {
-                one.block = new Block(one.thread.thread().getName(), event(one, stack), now - one.since);
+                AWTEvent event = one.wasIdle || one.current == null ? null : one.current.get();
+                one.isOurs = event != null && EventWords.isOurs(event);
+                one.block = new Block(one.thread.thread().getName(), words(event, stack), now - one.since);
             }
             one.block.lasts(now - one.since, now);
             one.block.add(stack, now);
@@ -125,10 +130,10 @@ final class BlockWatch {
         }
     }
 
-    private static String event(Watched one, StackTraceElement[] stack) {
+    private static String words(AWTEvent event, StackTraceElement[] stack) {
         for (StackTraceElement line : stack) {
             if (line.getMethodName().equals("dispatchEvent")) { // of whichever queue
-                return "with " + EventWords.of(one.wasIdle || one.current == null ? null : one.current.get());
+                return "with " + EventWords.of(event);
             }
         }
         return "between two events";
@@ -138,7 +143,7 @@ final class BlockWatch {
     private void end(Watched one, long now) {
         if (one.block != null) {
             one.block.lasts(now - one.since, now);
-            if (isOfInterest(one.block)) {
+            if (isOfInterest(one)) {
                 blocks.add(one.block);
             }
         }
@@ -146,8 +151,9 @@ final class BlockWatch {
     }
 
     /** Not what the inspector does by itself; but a change of its user's may well run code of the program. */
-    private static boolean isOfInterest(Block block) {
-        return block.calls().where() != null || !block.calls().hasOurs();
+    private static boolean isOfInterest(Watched one) {
+        CallTimes calls = one.block.calls();
+        return calls.where() != null || !one.isOurs && !calls.hasOurs();
     }
 
     /** What was found so far, in lines; none where there was no event thread to look at. */
@@ -155,7 +161,7 @@ final class BlockWatch {
         look(); // or what has just ended would be told as going on
         List<Block> goingOn = new ArrayList<>();
         for (Watched one : watched) {
-            if (one.block != null && isOfInterest(one.block)) {
+            if (one.block != null && isOfInterest(one)) {
                 goingOn.add(one.block);
             }
         }

@@ -19,32 +19,37 @@ final class Blocks {
     /** All blocks of one line and event. */
     private static final class Entry {
         final StackTraceElement where;
+        final String event;
         final CallTimes calls = new CallTimes();
         int times;
         long nanos;
-        Block longest;
-        Block last;
+        long longest;
+        long lastStart;
+        String lastThread;
         boolean isGoingOn;
 
-        Entry(StackTraceElement where) {
+        Entry(StackTraceElement where, String event) {
             this.where = where;
+            this.event = event;
         }
 
         Entry(Entry other) {
-            this(other.where);
+            this(other.where, other.event);
             calls.add(other.calls);
             times = other.times;
             nanos = other.nanos;
             longest = other.longest;
-            last = other.last;
+            lastStart = other.lastStart;
+            lastThread = other.lastThread;
         }
 
         void add(Block block) {
             times++;
             nanos += block.nanos();
             calls.add(block.calls());
-            longest = longest == null || block.nanos() > longest.nanos() ? block : longest;
-            last = block;
+            longest = Math.max(longest, block.nanos());
+            lastStart = block.startMillis();
+            lastThread = block.thread();
         }
     }
 
@@ -64,12 +69,12 @@ final class Blocks {
     private static Entry add(List<Entry> entries, Block block) {
         StackTraceElement where = block.calls().where();
         for (Entry entry : entries) {
-            if (Objects.equals(where, entry.where) && block.event().equals(entry.last.event())) {
+            if (Objects.equals(where, entry.where) && block.event().equals(entry.event)) {
                 entry.add(block);
                 return entry;
             }
         }
-        Entry entry = new Entry(where);
+        Entry entry = new Entry(where, block.event());
         entry.add(block);
         entries.add(entry);
         return entry;
@@ -102,7 +107,7 @@ final class Blocks {
             lines.addAll(entry.calls.text());
         }
         if (all.size() == MOST && count > all.stream().mapToInt(entry -> entry.times).sum()) {
-            lines.add("(Lines of the program that took less are left out.)");
+            lines.add("  (Lines of the program that took less are left out.)");
         }
         return lines;
     }
@@ -114,11 +119,11 @@ final class Blocks {
     private static String headline(Entry entry) {
         boolean isOne = entry.times == 1;
         String where = entry.where == null ? "no line of the program" : CallSite.summary(entry.where);
-        return "  " + CallTimesText.seconds(entry.nanos) + " at " + where + ", " + entry.last.event()
+        return "  " + CallTimesText.seconds(entry.nanos) + " at " + where + ", " + entry.event
                 + (isOne ? ""
-                         : ", " + times(entry.times) + ", at most " + CallTimesText.seconds(entry.longest.nanos())
+                         : ", " + times(entry.times) + ", at most " + CallTimesText.seconds(entry.longest)
                                         + ", the last")
-                + ", from " + SetBy.time(entry.last.startMillis()) + " on " + entry.last.thread()
+                + ", from " + SetBy.time(entry.lastStart) + " on " + entry.lastThread
                 + (entry.isGoingOn ? ", and it has not ended" : "") + ":";
     }
 }

@@ -17,6 +17,7 @@ import java.util.Map;
 import com.vantrel.hooks.DesktopModule;
 import com.vantrel.model.Code;
 import com.vantrel.model.Members;
+import com.vantrel.model.Ours;
 
 /**
  * Events in words, such as {@code mouse released on JButton "save"}. Runs no code of the program, whose event thread
@@ -82,6 +83,12 @@ final class EventWords {
         Object source = event.getSource();
         return (name == null ? Code.shortName(event.getClass()) : name)
                 + (source instanceof Component ? " on " + Code.describe((Component) source) : "");
+    }
+
+    /** Whether it is an event of one of the inspector's windows. */
+    static boolean isOurs(AWTEvent event) {
+        return Code.isToolkit(event.getClass()) && event.getSource() instanceof Component
+                && Ours.isOurs((Component) event.getSource());
     }
 
     private static String task(AWTEvent event) {

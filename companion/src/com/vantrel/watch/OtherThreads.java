@@ -70,7 +70,7 @@ final class OtherThreads implements ChangeListener {
         return at instanceof Window && Facts.isVisible(at) && !Ours.isOurs(at);
     }
 
-    private void note(Component component, String what) {
+    private void note(Component changed, String what) {
         StackTraceElement[] stack = new Throwable().getStackTrace();
         int programs = ProgramLine.in(stack);
         if (programs == stack.length) {
@@ -78,20 +78,30 @@ final class OtherThreads implements ChangeListener {
         }
         List<StackTraceElement> inside = new ArrayList<>(Arrays.asList(stack).subList(0, programs));
         inside.removeIf(ProgramLine::isGlue);
-        synchronized (this) {
-            ChangingLine line = lines.get(stack[programs]);
-            if (line == null && lines.size() == MOST_LINES) {
-                leftOut++;
-                return;
-            }
-            if (line == null) {
-                line = new ChangingLine(stack[programs]);
-                lines.put(stack[programs], line);
-            }
-            if (line.add(inside)) {
-                line.describe(what + " of " + Code.describe(component));
+        ChangingLine line = line(stack[programs]);
+        if (line != null && isFirst(line, inside)) {
+            // Without the lock: to look at the program's classes may load some, which takes locks of the program.
+            String component = Code.describe(changed);
+            synchronized (this) {
+                line.describe(what + " of " + component);
             }
         }
+    }
+
+    private synchronized boolean isFirst(ChangingLine line, List<StackTraceElement> inside) {
+        return line.add(inside);
+    }
+
+    /** Returns null if there are too many. */
+    private synchronized ChangingLine line(StackTraceElement where) {
+        ChangingLine line = lines.get(where);
+        if (line == null && lines.size() == MOST_LINES) {
+            leftOut++;
+        } else if (line == null) {
+            line = new ChangingLine(where);
+            lines.put(where, line);
+        }
+        return line;
     }
 
     /** What was found so far, for people, most frequent first; none where nothing has changed on any thread. */
