@@ -40,7 +40,7 @@ class Watch : public OnEachJdk {
 
     // Runs a program that does some things and ends at once when it has, and returns what it has reported.
     std::string run_through(const std::string& record, const Arguments& program_and_ways) {
-        std::ofstream(folder.path / "end");
+        tell_to_end();
         const Finished finished = run(command(record, program_and_ways), options());
         EXPECT_EQ(finished.status, 3);
         EXPECT_THAT(finished.err, StartsWith(kAgentErr));
@@ -59,10 +59,12 @@ class Watch : public OnEachJdk {
     // Has the program end by itself, and returns what it has reported at its end.
     std::string end() {
         const std::string before = program->err();
-        std::ofstream(folder.path / "end");
+        tell_to_end();
         EXPECT_EQ(program->wait(), 3);
         return program->err().substr(before.size());
     }
+
+    void tell_to_end() { std::ofstream(folder.path / "end"); }
 
     const ScratchFolder folder;
     const XServer x;
@@ -71,7 +73,7 @@ class Watch : public OnEachJdk {
   private:
     [[nodiscard]] ProcessOptions options() const { return {.folder = folder.path, .environment = {x.display()}}; }
 
-    Arguments command(const std::string& record, const Arguments& program_and_ways) const {
+    static Arguments command(const std::string& record, const Arguments& program_and_ways) {
         const Arguments all = {"-Dvantrel.record=" + record, "-Dvantrel.report=ask", "-cp", kPrograms};
         return java_under_agent(GetParam(), all + program_and_ways);
     }
