@@ -18,9 +18,11 @@ namespace fs = std::filesystem;
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 using testing::AllOf;
+using testing::AnyOf;
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 namespace {
@@ -312,37 +314,30 @@ TEST_P(Outside, AnswersWhenTheProgramEndsOrIsStopped) {
     EXPECT_TRUE(nothing_is_left_since(before));
 }
 
-// As `vantrel run` starts it: nothing that is asked shows in what the program writes, nor in how it ends.
+// As `vantrel run` starts it: nothing that is asked shows in what the program writes, nor in how it ends. What it
+// writes itself is not the same in every run: at its first start an exception of Swing's is among that now and then.
 TEST_P(Outside, LeavesARealProgramAsItWas) {
     const fs::path editor = "/usr/share/jedit/jedit.jar";
     if (!fs::exists(editor)) {
         GTEST_SKIP() << "jEdit is not installed";
     }
     manager.emplace(x);
-    std::string written[2];
-    for (const bool is_asked : {false, true}) {
-        const fs::path settings = folder.path / (is_asked ? "asked" : "alone");
-        fs::create_directory(settings);
-        std::ofstream(settings / "properties") << "tip.show=false\n";
-        program.emplace(Words{kCommand, "run", *find_jdk(GetParam()) / "bin" / "java", "-cp", editor,
-                              "org.gjt.sp.jedit.jEdit", "-noserver", "-nobackground", "-settings=" + settings.string()},
-                        ProcessOptions{.folder = folder.path, .environment = {x.display()}});
-        ASSERT_TRUE(program->reaches([this] { return x.shows("jEdit - Untitled-1"); })) << program->err();
-        // At its first start jEdit loads its help, too, on a thread of its own, which Swing does not always survive.
-        std::this_thread::sleep_for(milliseconds(2500));
-        for (int time = 0; is_asked && time < 5; ++time) {
-            Process tree({kCommand, "tree", id(), "--json"});
-            EXPECT_THAT(told("list"), HasSubstr("\"jEdit - Untitled-1\""));
-            EXPECT_THAT(told("show", {"TextAreaPainter0"}), HasSubstr("\nadded: TextArea.<init>(TextArea.java:"));
-            told("picture", {"-o", folder.path / "picture.png"});
-            EXPECT_EQ(tree.wait(), 0);
-            EXPECT_THAT(tree.out(), EndsWith("]}\n"));
-        }
-        program->signal(SIGTERM);
-        EXPECT_EQ(program->wait(), 128 + SIGTERM);
-        written[static_cast<int>(is_asked)] = program->out() + program->err();
+    std::ofstream(folder.path / "properties") << "tip.show=false\n";
+    program.emplace(Words{kCommand, "run", *find_jdk(GetParam()) / "bin" / "java", "-cp", editor,
+                          "org.gjt.sp.jedit.jEdit", "-noserver", "-nobackground", "-settings=" + folder.path.string()},
+                    ProcessOptions{.folder = folder.path, .environment = {x.display()}});
+    ASSERT_TRUE(program->reaches([this] { return x.shows("jEdit - Untitled-1"); })) << program->err();
+    for (int time = 0; time < 5; ++time) {
+        Process tree({kCommand, "tree", id(), "--json"});
+        EXPECT_THAT(told("list"), HasSubstr("\"jEdit - Untitled-1\""));
+        EXPECT_THAT(told("show", {"TextAreaPainter0"}), HasSubstr("\nadded: TextArea.<init>(TextArea.java:"));
+        told("picture", {"-o", folder.path / "picture.png"});
+        EXPECT_EQ(tree.wait(), 0);
+        EXPECT_THAT(tree.out(), EndsWith("]}\n"));
     }
-    EXPECT_EQ(written[0], written[1]);
+    program->signal(SIGTERM);
+    EXPECT_EQ(program->wait(), 128 + SIGTERM);
+    EXPECT_THAT(program->out() + program->err(), Not(AnyOf(HasSubstr("com.vantrel"), HasSubstr("WARNING"))));
 }
 
 TEST_P(Outside, SaysWhatCannotBeAsked) {
