@@ -12,6 +12,13 @@ namespace launch {
 
 namespace {
 
+// Programs are found, and asked, by what Linux has.
+#ifdef __linux__
+constexpr bool kAsksPrograms = true;
+#else
+constexpr bool kAsksPrograms = false;
+#endif
+
 constexpr const char* kDescription =
     "Brings the inspector of Swing user interfaces into a program, and tells what it sees there.\n";
 
@@ -169,9 +176,9 @@ std::variant<Arguments, Question, std::string> parse_arguments(int argc, char** 
     run->add_option("--vm-option", arguments.vm_options, "An option for the program's VM; may be repeated")
         ->type_name("OPT")
         ->allow_extra_args(false);
-#ifdef __linux__
-    add_questions(app, question);
-#endif
+    if (kAsksPrograms) {
+        add_questions(app, question);
+    }
 
     const int own_words = words_before_program(*run, argc, argv);
     if (auto text = command::parse_command_line(app, own_words, argv)) {
